@@ -1,0 +1,22 @@
+# The one place of compiler and linker flags: every target of the project links parvik_flags.
+include(CheckPIESupported)
+check_pie_supported()
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+add_library(parvik_flags INTERFACE)
+target_compile_features(parvik_flags INTERFACE cxx_std_20)
+target_compile_options(parvik_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2 -Werror)
+
+if(PARVIK_SANITIZERS)
+  target_compile_options(parvik_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(parvik_flags INTERFACE -fsanitize=address,undefined)
+else()
+  # _FORTIFY_SOURCE needs an optimised build and quarrels with the sanitizers.
+  target_compile_options(parvik_flags INTERFACE
+    -fstack-protector-strong -fstack-clash-protection -fcf-protection
+    $<$<CONFIG:Release>:-U_FORTIFY_SOURCE> $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
+  target_link_options(parvik_flags INTERFACE -Wl,-z,relro -Wl,-z,now)
+endif()

@@ -1,0 +1,45 @@
+// Where the controls of the main window stand, in twips: 1440 to the inch, 15 to the pixel of an ordinary
+// screen.
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include "common/Sezione.h"
+
+namespace parvik {
+
+inline constexpr int TwipPerPixel = 15;
+
+struct Rettangolo {
+  int Sinistra = 0;
+  int Alto = 0;
+  int Larghezza = 0;
+  int Altezza = 0;
+
+  bool operator==(const Rettangolo&) const = default;
+};
+
+struct Finestra {
+  int Larghezza = 0;  // inner width and height
+  int Altezza = 0;
+  int SinistraSezioni = 0;    // left edge of the sections, as designed
+  int SinistraEtichette = 0;  // left edge of the labels, as designed
+  bool TreSezioni = false;
+  bool Anteprima = false;
+};
+
+/// Only what is laid out has a place; the rest is hidden.
+struct Disposizione {
+  std::array<std::optional<Rettangolo>, MaxSezioni> Sezioni;
+  /// Left and top; the labels keep the size that they were designed with.
+  std::array<std::optional<Rettangolo>, MaxSezioni> Etichette;
+  std::optional<Rettangolo> StatoAnteprima;  // lblRighe
+  std::optional<Rettangolo> Anteprima;       // ricAnte
+
+  bool operator==(const Disposizione&) const = default;
+};
+
+Disposizione Disponi(const Finestra& finestra);
+
+}  // namespace parvik

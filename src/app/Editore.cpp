@@ -1,0 +1,115 @@
+#include "app/Editore.h"
+
+#include <utility>
+
+#include "app/Avvio.h"
+#include "common/Delimitatori.h"
+#include "common/Windows1252.h"
+
+namespace parvik {
+namespace {
+
+constexpr const char* TitoloSenzaTipo = "Ordavia";
+constexpr int UscitaPerErrore = 1;
+
+}  // namespace
+
+Editore::Editore(Installazione installazione, Catalogo catalogo, Vista& vista, Interlocutore& interlocutore)
+    : installazione_(std::move(installazione)),
+      catalogo_(std::move(catalogo)),
+      vista_(vista),
+      interlocutore_(interlocutore),
+      comandi_(documento_, vista, interlocutore, *this, installazione_.DirImg),
+      titolo_(TitoloSenzaTipo) {}
+
+void Editore::ScegliTipo(std::size_t slot) {
+  tipoDocCorrente_ = slot;
+  anteSpuntata_ = true;
+  ApplicaTipoDoc();
+  documento_.Modificato = false;
+}
+
+void Editore::ApplicaTipoDoc() {
+  titolo_ = std::string(TitoloSenzaTipo) + " - " + Utf8DaAnsi(Tipo().Titolo);
+  vista_.ImpostaTesto(Sezione::Testata, FineRiga);
+  if (TreSezioni()) {
+    vista_.ImpostaTesto(Sezione::Corpo, FineRiga);
+    vista_.ImpostaTesto(Sezione::Piede, FineRiga);
+    documento_.Corpo = ImpostazioniPredefinite();
+  }
+  vista_.Aggiorna();
+  CaricaFlagStampe();
+}
+
+void Editore::CaricaFlagStampe() {
+  for (const NumeroErrore errore : flag_.Carica(catalogo_, Tipo())) {
+    if (errore == NumeroErrore::ArgomentoNonValido) {
+      interlocutore_.Chiedi({.Testo = MessaggioVersioneDiversa});
+      interlocutore_.Termina(UscitaPerErrore);
+    } else {
+      interlocutore_.Chiedi({.Testo = TestoErrore(errore)});
+    }
+  }
+}
+
+void Editore::Nuovo() {
+  comandi_.Nuovo(Tipo());
+}
+
+void Editore::Apri() {
+  comandi_.Apri(Tipo());
+  vista_.Aggiorna();
+}
+
+void Editore::Salva() {
+  comandi_.Salva(Tipo());
+  vista_.Aggiorna();
+}
+
+void Editore::SalvaConNome() {
+  comandi_.SalvaConNome(Tipo());
+  vista_.Aggiorna();
+}
+
+bool Editore::PuoChiudere() {
+  return !TipoScelto() || comandi_.PuoChiudere(Tipo());
+}
+
+void Editore::CommutaAnteprima() {
+  anteSpuntata_ = !anteSpuntata_;
+  vista_.Aggiorna();
+  if (anteSpuntata_) Genera();
+}
+
+void Editore::Genera() {
+  TestiSezioni testi;
+  for (const Sezione sezione : TutteLeSezioni) testi[Indice(sezione)] = vista_.Testo(sezione);
+  DatiStampa dati{.Testi = {},
+                  .NumSezioni = Tipo().NumSezioni,
+                  .RigheCorpo = documento_.Corpo.RigheCorpo,
+                  .LineeCorpo = documento_.Corpo.LineeCorpo,
+                  .Flag = flag_};
+  for (std::size_t i = 0; i < MaxSezioni; ++i) dati.Testi[i] = testi[i];
+  vista_.MostraAnteprima(GeneraAnteprima(dati));
+}
+
+void Editore::ImpostaTitolo(std::string titolo) {
+  titolo_ = std::move(titolo);
+}
+
+void Editore::SpegniAnteprima() {
+  if (anteSpuntata_) CommutaAnteprima();
+}
+
+void Editore::AzzeraFlagStampe() {
+  flag_.AzzeraTutti();
+}
+
+void Editore::TornaSenzaTipo() {
+  tipoDocCorrente_ = NessunTipo;
+  titolo_ = TitoloSenzaTipo;
+  flag_.Svuota();
+  vista_.Aggiorna();
+}
+
+}  // namespace parvik

@@ -1,0 +1,42 @@
+// Where the host is installed (docs/installation-lookup.md).
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+#include "common/Interlocutore.h"
+
+namespace parvik {
+
+/// What the lookup depends on.
+struct Ambiente {
+  std::filesystem::path DirProgramma;  // without a trailing separator
+  /// Where a configuration file that is named without a folder is looked for, in this order.
+  std::vector<std::filesystem::path> CartelleConfigurazione;
+};
+
+/// The running process: `argv0` as in DirProgramma(); $XDG_CONFIG_HOME, $XDG_CONFIG_DIRS and /etc.
+Ambiente AmbienteDelProcesso(const char* argv0);
+
+struct Installazione {
+  std::filesystem::path DirVelkor;  // ends with a separator
+  std::filesystem::path DirImg;     // the folder of the catalogue and of the templates
+  std::filesystem::path FileCampi;  // the catalogue in use
+
+  /// An installation whose host directory is known. The names inside it are found in any case of their
+  /// letters.
+  static Installazione In(const std::filesystem::path& dirVelkor);
+
+  /// The print-to-file folder.
+  std::filesystem::path DirStm() const;
+};
+
+/// The host directory: the parent of the program's folder when VELKOR.INI lies there, else what a VELKOR.INI
+/// among the configuration folders says; empty when none says anything.
+std::filesystem::path TrovaDirVelkor(const Ambiente& ambiente);
+
+/// The whole lookup, the catalogue included. nullopt after the user was told why not, or gave it up.
+std::optional<Installazione> VerificaCampiTXT(const Ambiente& ambiente, Interlocutore& interlocutore);
+
+}  // namespace parvik

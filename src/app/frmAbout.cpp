@@ -1,0 +1,17 @@
+#include "app/frmAbout.h"
+
+#include "app/Versione.h"
+#include "ui_frmAbout.h"
+
+namespace parvik {
+
+frmAbout::frmAbout(QWidget* padre) : QDialog(padre), ui_(std::make_unique<Ui::frmAbout>()) {
+  ui_->setupUi(this);
+  ui_->picIcon->setPixmap(windowIcon().pixmap(64, 64));
+  ui_->lblVersion->setText(QStringLiteral("Version %1").arg(VersioneVisibile));
+  connect(ui_->cmdOK, &QPushButton::clicked, this, &QDialog::accept);
+}
+
+frmAbout::~frmAbout() = default;
+
+}  // namespace parvik

@@ -1,0 +1,197 @@
+#include "app/frmParvik.h"
+
+#include <QCloseEvent>
+#include <QFontDatabase>
+#include <QMenuBar>
+#include <cmath>
+#include <utility>
+
+#include "app/Disposizione.h"
+#include "app/frmAbout.h"
+#include "catalogue/frmScelta.h"
+#include "common/frmTesto.h"
+
+namespace parvik {
+namespace {
+
+constexpr std::array<const char*, MaxSezioni> Didascalie = {"T e s t a t a", "C o r p o", "P i e d e"};
+constexpr int SinistraEtichette = 4;  // pixels
+constexpr int MargineEtichette = 3;   // pixels, on each side of a label's letters
+const QSize DimensioneIniziale(1100, 700);
+const QColor RossoAttiva(255, 0, 0);
+
+int InTwip(int pixel) {
+  return pixel * TwipPerPixel;
+}
+
+/// Both edges are rounded, not the width: neighbours stay neighbours.
+QRect InPixel(const Rettangolo& twip) {
+  const auto pixel = [](int valore) { return static_cast<int>(std::lround(valore / double{TwipPerPixel})); };
+  const QPoint inizio(pixel(twip.Sinistra), pixel(twip.Alto));
+  const QPoint fine(pixel(twip.Sinistra + twip.Larghezza), pixel(twip.Alto + twip.Altezza));
+  return {inizio, QSize(fine.x() - inizio.x(), fine.y() - inizio.y())};
+}
+
+void Colloca(QWidget& controllo, const std::optional<Rettangolo>& posto) {
+  controllo.setVisible(posto.has_value());
+  if (posto) controllo.setGeometry(InPixel(*posto));
+}
+
+}  // namespace
+
+frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
+    : editore_(std::move(dati.Dove), std::move(dati.Campi), *this, interlocutore) {
+  setObjectName("frmParvik");
+  CreaControlli();
+  CreaMenu();
+  CollegaMenu();
+  resize(DimensioneIniziale);
+  Aggiorna();
+}
+
+void frmParvik::CreaControlli() {
+  area_ = new QWidget(this);
+  area_->installEventFilter(this);
+  setCentralWidget(area_);
+  for (const Sezione sezione : TutteLeSezioni) {
+    CreaEtichetta(sezione);
+    auto* editor = new txtTCP(sezione, area_);
+    connect(editor, &txtTCP::Modificata, this, [this] { editore_.SegnaModificato(); });
+    connect(editor, &txtTCP::Attivata, this, &frmParvik::ColoraLabel);
+    sezioni_[Indice(sezione)] = editor;
+  }
+  lblRighe_ = new QLabel(area_);
+  lblRighe_->setObjectName("lblRighe");
+  anteprima_ = new ricAnte(area_);
+}
+
+/// A narrow strip: a fixed-pitch font makes the spaced caption wrap after every letter.
+void frmParvik::CreaEtichetta(Sezione sezione) {
+  auto* etichetta = new QLabel(Didascalie[Indice(sezione)], area_);
+  etichetta->setObjectName(QStringLiteral("lblTCP_%1").arg(Indice(sezione)));
+  etichetta->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  etichetta->setWordWrap(true);
+  etichetta->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+  const int larghezza = etichetta->fontMetrics().horizontalAdvance('M') + 2 * MargineEtichette;
+  etichetta->resize(larghezza, etichetta->heightForWidth(larghezza));
+  etichette_[Indice(sezione)] = etichetta;
+}
+
+void frmParvik::CreaMenu() {
+  QMenu* menu = nullptr;
+  for (const VoceMenu& voce : VociMenu()) {
+    QAction* azione = nullptr;
+    if (voce.Genere == GenereVoce::Menu) {
+      menu = menuBar()->addMenu(voce.Didascalia);
+      menu->setObjectName(voce.Nome);
+      azione = menu->menuAction();
+    } else if (voce.Genere == GenereVoce::Separatore) {
+      azione = menu->addSeparator();
+    } else {
+      azione = menu->addAction(voce.Didascalia);
+      azione->setShortcut(QKeySequence(voce.Scorciatoia, QKeySequence::PortableText));
+      azione->setCheckable(voce.ConSpunta);
+      azione->setMenuRole(QAction::NoRole);  // the tree stays as it is on every system
+    }
+    azione->setObjectName(voce.Nome);
+    azioni_.insert(voce.Nome, azione);
+  }
+}
+
+void frmParvik::CollegaMenu() {
+  const auto collega = [this](const char* nome, auto comando) {
+    connect(azioni_.value(nome), &QAction::triggered, this, comando);
+  };
+  collega("mnuScelta", [this] { ScegliTipo(); });
+  collega("mnuNuovo", [this] { editore_.Nuovo(); });
+  collega("mnuApri", [this] { editore_.Apri(); });
+  collega("mnuSalva", [this] { editore_.Salva(); });
+  collega("mnuSalvaNome", [this] { editore_.SalvaConNome(); });
+  collega("mnuInfo", [this] { MostraInformazioni(); });
+  collega("mnuEsci", [this] { close(); });
+  collega("mnuAnte", [this] { editore_.CommutaAnteprima(); });
+}
+
+void frmParvik::ScegliTipo() {
+  QStringList descrizioni;
+  for (const TipoDoc* tipo : editore_.Campi().TipiElencati()) descrizioni += PerSchermo(tipo->Descrizione);
+  frmScelta scelta(descrizioni, this);
+  scelta.exec();
+  const auto voce = scelta.Scelta();
+  if (!voce) return;
+  editore_.ScegliTipo(*voce);
+  ColoraLabel(Sezione::Testata);
+  sezioni_[Indice(Sezione::Testata)]->setFocus();
+}
+
+void frmParvik::MostraInformazioni() {
+  frmAbout(this).exec();
+}
+
+void frmParvik::Aggiorna() {
+  // "[*]" is the toolkit's own mark for modified windows; doubled, it stands for itself.
+  setWindowTitle(DaUtf8(editore_.Titolo()).replace("[*]", "[*][*]"));
+  AggiornaMenu();
+  ResizeControls();
+}
+
+void frmParvik::AggiornaMenu() {
+  for (const VoceMenu& voce : VociMenu())
+    azioni_.value(voce.Nome)->setEnabled(Abilitata(voce, editore_.PerMenu()));
+  azioni_.value("mnuAnte")->setChecked(editore_.AnteSpuntata());
+}
+
+void frmParvik::ResizeControls() {
+  Disposizione disposizione;
+  if (editore_.TipoScelto()) {
+    disposizione = Disponi({.Larghezza = InTwip(area_->width()),
+                            .Altezza = InTwip(area_->height()),
+                            .SinistraSezioni = InTwip(2 * SinistraEtichette + etichette_[0]->width()),
+                            .SinistraEtichette = InTwip(SinistraEtichette),
+                            .TreSezioni = editore_.TreSezioni(),
+                            .Anteprima = editore_.AnteVisibile()});
+  }
+  for (std::size_t i = 0; i < MaxSezioni; ++i) {
+    Colloca(*sezioni_[i], disposizione.Sezioni[i]);
+    const auto& etichetta = disposizione.Etichette[i];
+    etichette_[i]->setVisible(etichetta.has_value());
+    if (etichetta) etichette_[i]->move(InPixel(*etichetta).topLeft());
+  }
+  Colloca(*lblRighe_, disposizione.StatoAnteprima);
+  Colloca(*anteprima_, disposizione.Anteprima);
+}
+
+void frmParvik::ColoraLabel(Sezione attiva) {
+  for (const Sezione sezione : TutteLeSezioni) {
+    QPalette colori = palette();
+    if (sezione == attiva) colori.setColor(QPalette::WindowText, RossoAttiva);
+    etichette_[Indice(sezione)]->setPalette(colori);
+  }
+}
+
+std::string frmParvik::Testo(Sezione sezione) const {
+  return sezioni_[Indice(sezione)]->Ansi();
+}
+
+void frmParvik::ImpostaTesto(Sezione sezione, std::string_view testo) {
+  sezioni_[Indice(sezione)]->ImpostaAnsi(testo);
+}
+
+void frmParvik::CompletaUltimaRiga(Sezione sezione) {
+  sezioni_[Indice(sezione)]->CompletaUltimaRiga();
+}
+
+void frmParvik::MostraAnteprima(const Anteprima& anteprima) {
+  anteprima_->Mostra(anteprima);
+}
+
+void frmParvik::closeEvent(QCloseEvent* evento) {
+  evento->setAccepted(editore_.PuoChiudere());
+}
+
+bool frmParvik::eventFilter(QObject* oggetto, QEvent* evento) {
+  if (oggetto == area_ && evento->type() == QEvent::Resize) ResizeControls();
+  return QMainWindow::eventFilter(oggetto, evento);
+}
+
+}  // namespace parvik

@@ -1,0 +1,54 @@
+#include <QApplication>
+#include <QIcon>
+#include <cstdlib>
+#include <iostream>
+#include <string_view>
+
+#include "app/Avvio.h"
+#include "app/Versione.h"
+#include "app/frmParvik.h"
+#include "common/frmDialoghi.h"
+#include "common/frmItaliano.h"
+
+namespace {
+
+constexpr const char* Aiuto =
+    "Uso: parvik32\n"
+    "Ordavia, l'editor dei modelli di stampa di Velkor.\n\n"
+    "  --help      mostra questo aiuto ed esce\n"
+    "  --version   mostra la versione ed esce\n";
+
+/// Answers what needs no display, before the toolkit looks for one. True when there is nothing else to do.
+bool RispostoSenzaFinestra(int argc, char** argv) {
+  for (int i = 1; i < argc; ++i) {
+    const std::string_view argomento = argv[i];
+    if (argomento == "--version" || argomento == "-v") {
+      std::cout << "Ordavia (parvik32) Version " << parvik::VersioneVisibile << '\n';
+      return true;
+    }
+    if (argomento == "--help" || argomento == "-h") {
+      std::cout << Aiuto;
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (RispostoSenzaFinestra(argc, argv)) return EXIT_SUCCESS;
+  parvik::PreparaLocale();
+  QApplication programma(argc, argv);
+  QApplication::setApplicationName("parvik32");
+  QApplication::setWindowIcon(QIcon(":/ordavia.png"));
+  if (!parvik::ParlaItaliano(programma))
+    std::cerr << "parvik32: manca la traduzione italiana di Qt (qtbase_it)\n";
+  parvik::frmDialoghi dialoghi;
+  auto dati = parvik::Avvia(parvik::AmbienteDelProcesso(argv[0]), dialoghi);
+  if (!dati) return EXIT_FAILURE;
+  parvik::frmParvik finestra(std::move(*dati), dialoghi);
+  dialoghi.ImpostaPadre(&finestra);
+  finestra.show();
+  return QApplication::exec();
+}

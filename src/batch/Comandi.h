@@ -1,0 +1,37 @@
+// The commands of parvik32-batch. Each prints its result, says on standard error what went wrong, and returns
+// the exit status (docs/batch.md).
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "common/Sezione.h"
+
+namespace parvik::batch {
+
+/// A promise to scripts.
+enum class Uscita {
+  Fatto = 0,
+  Riscontri = 1,  // done, but there is something to report
+  NonFatto = 2,   // something could not be done
+};
+
+struct Opzioni {
+  std::filesystem::path Programma;              // as it was called
+  std::optional<std::filesystem::path> Velkor;  // a host directory
+  std::optional<std::filesystem::path> Campi;   // a catalogue
+  int Tipo = 0;                                 // as the catalogue writes it: slot + 1
+  std::optional<Sezione> SolaSezione;
+  std::vector<int> Veri;                        // the print flags that are true
+  std::optional<std::filesystem::path> Uscita;  // instead of standard output, or of the file itself
+  std::vector<std::filesystem::path> File;
+};
+
+Uscita Tipi(const Opzioni& opzioni);
+Uscita Campi(const Opzioni& opzioni);
+Uscita Stampa(const Opzioni& opzioni);
+Uscita Normalizza(const Opzioni& opzioni);
+
+}  // namespace parvik::batch

@@ -1,0 +1,118 @@
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "batch/Catalogo.h"
+#include "batch/Comandi.h"
+#include "batch/Lettura.h"
+#include "batch/Messaggi.h"
+#include "common/ScritturaSicura.h"
+#include "output/GeneraStampa.h"
+
+namespace parvik::batch {
+namespace {
+
+class SuUscitaStandard final : public UscitaRighe {
+ public:
+  bool Righe(std::string_view righe) override { return Stampa(righe); }
+};
+
+class SuFile final : public UscitaRighe {
+ public:
+  SuFile(std::filesystem::path percorso, ScritturaSicura file)
+      : percorso_(std::move(percorso)), file_(std::move(file)) {}
+
+  bool Righe(std::string_view righe) override { return Controlla(file_.Scrivi(righe)); }
+  bool Conferma() { return Controlla(file_.Conferma()); }
+
+ private:
+  bool Controlla(const Esito<void>& esito) {
+    if (!esito) Segnala(percorso_, esito.Errore());
+    return static_cast<bool>(esito);
+  }
+
+  std::filesystem::path percorso_;
+  ScritturaSicura file_;
+};
+
+enum class FlagCaricati { Tutti, InParte, NonCaricabili };
+
+/// Says what is wrong with the sections that could not be loaded whole.
+FlagCaricati CaricaFlag(const CatalogoScelto& catalogo, const TipoDoc& tipo, FlagPerStampe& flag) {
+  FlagCaricati caricati = FlagCaricati::Tutti;
+  for (const NumeroErrore errore : flag.Carica(catalogo.Campi, tipo)) {
+    if (SegnalaErroreSezione(catalogo, errore)) return FlagCaricati::NonCaricabili;
+    caricati = FlagCaricati::InParte;
+  }
+  return caricati;
+}
+
+void ImpostaVeri(const std::vector<int>& veri, const std::filesystem::path& catalogo, FlagPerStampe& flag) {
+  for (const int numero : veri) {
+    if (flag.SettaNumero(numero, true)) continue;
+    Segnala(catalogo, "avviso: il tipo di documento non ha il flag " + std::to_string(numero) + ": ignorato");
+  }
+}
+
+enum class Reso { Si, NonLetto, UscitaInterrotta };
+
+Reso Rendi(const std::filesystem::path& file, const TipoDoc& tipo, const FlagPerStampe& flag,
+           UscitaRighe& uscita) {
+  const std::optional<ImmagineLetta> letta = LeggiModello(file, tipo);
+  if (!letta) return Reso::NonLetto;
+  if (letta->TestoNonLetto) Segnala(file, "avviso: lettura interrotta: " + TestoErrore(*letta->Errore));
+  const DatiStampa dati{.Testi = {letta->Testi[0], letta->Testi[1], letta->Testi[2]},
+                        .NumSezioni = tipo.NumSezioni,
+                        .RigheCorpo = letta->Corpo.RigheCorpo,
+                        .LineeCorpo = letta->Corpo.LineeCorpo,
+                        .Flag = flag};
+  return GeneraStampa(dati, TipoStampa::File, uscita) ? Reso::Si : Reso::UscitaInterrotta;
+}
+
+/// How many files were rendered; nullopt when the output failed.
+std::optional<std::size_t> RendiTutti(const Opzioni& opzioni, const TipoDoc& tipo, const FlagPerStampe& flag,
+                                      UscitaRighe& uscita) {
+  std::size_t resi = 0;
+  for (const std::filesystem::path& file : opzioni.File) {
+    const Reso reso = Rendi(file, tipo, flag, uscita);
+    if (reso == Reso::UscitaInterrotta) return std::nullopt;
+    if (reso == Reso::Si) ++resi;
+  }
+  return resi;
+}
+
+bool StampaSuFile(const Opzioni& opzioni, const TipoDoc& tipo, const FlagPerStampe& flag) {
+  Esito<ScritturaSicura> file = ScritturaSicura::Apri(*opzioni.Uscita);
+  if (!file) {
+    Segnala(*opzioni.Uscita, file.Errore());
+    return false;
+  }
+  SuFile uscita(*opzioni.Uscita, std::move(*file));
+  const std::optional<std::size_t> resi = RendiTutti(opzioni, tipo, flag, uscita);
+  // Where nothing at all could be rendered, the old file is not replaced by an empty one.
+  if (!resi || *resi == 0) return false;
+  return uscita.Conferma() && *resi == opzioni.File.size();
+}
+
+bool StampaSuUscitaStandard(const Opzioni& opzioni, const TipoDoc& tipo, const FlagPerStampe& flag) {
+  SuUscitaStandard uscita;
+  return RendiTutti(opzioni, tipo, flag, uscita) == opzioni.File.size();
+}
+
+}  // namespace
+
+Uscita Stampa(const Opzioni& opzioni) {
+  const auto catalogo = ApriCatalogo(opzioni);
+  const TipoDoc* tipo = catalogo ? TrovaTipo(*catalogo, opzioni.Tipo) : nullptr;
+  if (tipo == nullptr) return Uscita::NonFatto;
+  FlagPerStampe flag;
+  const FlagCaricati caricati = CaricaFlag(*catalogo, *tipo, flag);
+  if (caricati == FlagCaricati::NonCaricabili) return Uscita::NonFatto;
+  ImpostaVeri(opzioni.Veri, catalogo->File, flag);
+  const bool riuscita =
+      opzioni.Uscita ? StampaSuFile(opzioni, *tipo, flag) : StampaSuUscitaStandard(opzioni, *tipo, flag);
+  return riuscita && caricati == FlagCaricati::Tutti ? Uscita::Fatto : Uscita::NonFatto;
+}
+
+}  // namespace parvik::batch

@@ -1,0 +1,19 @@
+#include <csignal>
+#include <exception>
+
+#include "batch/Messaggi.h"
+#include "batch/RigaDiComando.h"
+
+int main(int argc, char** argv) {
+  using parvik::batch::Uscita;
+  // A reader that goes away shows itself as a failed write, which is reported like any other.
+  static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+  try {
+    return static_cast<int>(parvik::batch::Esegui(argc, argv));
+  } catch (const std::bad_alloc&) {
+    parvik::batch::Segnala(parvik::TestoErrore(parvik::NumeroErrore::MemoriaEsaurita));
+  } catch (const std::exception& errore) {
+    parvik::batch::Segnala(errore.what());
+  }
+  return static_cast<int>(Uscita::NonFatto);
+}

@@ -1,0 +1,95 @@
+#include "common/NumeroLeniente.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace parvik {
+namespace {
+
+bool Cifra(char c) {
+  return c >= '0' && c <= '9';
+}
+
+struct Prefisso {
+  bool Negativo = false;
+  std::string_view Cifre;  // digits with at most one point; empty when no digit was found
+  std::size_t Fine = 0;    // where the text goes on after the number
+};
+
+Prefisso TrovaPrefisso(std::string_view testo) {
+  Prefisso trovato;
+  std::size_t i = 0;
+  while (i < testo.size() && testo[i] == ' ') ++i;
+  if (i < testo.size() && (testo[i] == '-' || testo[i] == '+')) trovato.Negativo = testo[i++] == '-';
+  const std::size_t inizio = i;
+  bool punto = false;
+  bool cifre = false;
+  for (; i < testo.size(); ++i) {
+    if (Cifra(testo[i])) {
+      cifre = true;
+    } else if (testo[i] == '.' && !punto) {
+      punto = true;
+    } else {
+      break;
+    }
+  }
+  if (cifre) {
+    trovato.Cifre = testo.substr(inizio, i - inizio);
+    trovato.Fine = i;
+  }
+  return trovato;
+}
+
+double ValoreLungo(std::string_view cifre) {
+  double valore = 0;
+  const auto [fine, errore] =
+      std::from_chars(cifre.data(), cifre.data() + cifre.size(), valore, std::chars_format::fixed);
+  if (errore != std::errc::result_out_of_range) return valore;
+  // Out of range means too large, or too small: a value below one has nothing but zeros before the point.
+  const std::size_t significativa = cifre.find_first_not_of('0');
+  const bool sottoUno = significativa == std::string_view::npos || cifre[significativa] == '.';
+  return sottoUno ? 0.0 : std::numeric_limits<double>::infinity();
+}
+
+double Valore(std::string_view cifre) {
+  constexpr std::size_t CifreSicure = 15;  // exact in a double, and in 64 bits
+  if (cifre.size() > CifreSicure) return ValoreLungo(cifre);
+  std::int64_t intero = 0;
+  for (const char c : cifre) {
+    if (c == '.') return ValoreLungo(cifre);
+    intero = intero * 10 + (c - '0');
+  }
+  return static_cast<double>(intero);
+}
+
+}  // namespace
+
+double NumeroLeniente(std::string_view testo) {
+  const Prefisso prefisso = TrovaPrefisso(testo);
+  const double valore = Valore(prefisso.Cifre);
+  return prefisso.Negativo ? -valore : valore;
+}
+
+Esito<std::int16_t> InteroLeniente(std::string_view testo) {
+  const double arrotondato = std::nearbyint(NumeroLeniente(testo));  // the default mode: half to even
+  if (arrotondato < std::numeric_limits<std::int16_t>::min() ||
+      arrotondato > std::numeric_limits<std::int16_t>::max()) {
+    return NumeroErrore::Overflow;
+  }
+  return static_cast<std::int16_t>(arrotondato);
+}
+
+std::size_t LunghezzaLeniente(std::string_view testo) {
+  const double arrotondato = std::nearbyint(NumeroLeniente(testo));
+  if (arrotondato <= 0) return 0;
+  if (arrotondato >= static_cast<double>(LunghezzaMassima)) return LunghezzaMassima;
+  return static_cast<std::size_t>(arrotondato);
+}
+
+bool EUnNumero(std::string_view testo) {
+  const Prefisso prefisso = TrovaPrefisso(testo);
+  return !prefisso.Cifre.empty() && testo.find_first_not_of(' ', prefisso.Fine) == std::string_view::npos;
+}
+
+}  // namespace parvik

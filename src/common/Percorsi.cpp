@@ -1,0 +1,53 @@
+#include "common/Percorsi.h"
+
+#include <algorithm>
+#include <system_error>
+
+namespace parvik {
+namespace {
+
+char Minuscola(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool ContinuaCarattere(char c) {
+  return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
+}
+
+}  // namespace
+
+bool UgualiSenzaCaso(std::string_view a, std::string_view b) {
+  return std::ranges::equal(a, b, {}, Minuscola, Minuscola);
+}
+
+bool EsisteFile(const std::filesystem::path& percorso) {
+  std::error_code errore;
+  const std::filesystem::file_status stato = std::filesystem::status(percorso, errore);
+  return std::filesystem::exists(stato) && !std::filesystem::is_directory(stato);
+}
+
+std::filesystem::path TrovaSenzaCaso(const std::filesystem::path& cartella, std::string_view nome) {
+  std::filesystem::path esatto = cartella / nome;
+  std::error_code errore;
+  if (std::filesystem::exists(esatto, errore)) return esatto;
+  std::string migliore;
+  for (std::filesystem::directory_iterator voce(cartella, errore), fine; !errore && voce != fine;
+       voce.increment(errore)) {
+    std::string candidato = voce->path().filename().string();
+    if (UgualiSenzaCaso(candidato, nome) && (migliore.empty() || candidato < migliore)) {
+      migliore = std::move(candidato);
+    }
+  }
+  return migliore.empty() ? esatto : cartella / migliore;
+}
+
+std::string UltimiCaratteri(std::string_view utf8, std::size_t quanti) {
+  std::size_t inizio = utf8.size();
+  while (quanti > 0 && inizio > 0) {
+    --inizio;
+    if (!ContinuaCarattere(utf8[inizio])) --quanti;
+  }
+  return std::string(utf8.substr(inizio));
+}
+
+}  // namespace parvik

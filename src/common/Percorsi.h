@@ -1,0 +1,24 @@
+// Names of files and folders that come from a host installation.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace parvik {
+
+/// `cartella`/`nome` when that exists. Otherwise the entry of `cartella` whose name is `nome` without regard
+/// to the case of the letters A to Z (the first in byte order when there are several), because installations
+/// come from shares that do not tell the cases apart. `cartella`/`nome` again when there is none.
+std::filesystem::path TrovaSenzaCaso(const std::filesystem::path& cartella, std::string_view nome);
+
+/// Equality without regard to the case of the letters A to Z; no locale.
+bool UgualiSenzaCaso(std::string_view a, std::string_view b);
+
+/// Whether something that is not a folder stands at `percorso` (links are followed). Errors read as "no".
+bool EsisteFile(const std::filesystem::path& percorso);
+
+/// The last `quanti` characters (not bytes) of UTF-8 text; the whole of it when it is shorter.
+std::string UltimiCaratteri(std::string_view utf8, std::size_t quanti);
+
+}  // namespace parvik

@@ -1,0 +1,14 @@
+// The host's configuration file, read as the private-profile reader of its platform reads it
+// (docs/installation-lookup.md).
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace parvik {
+
+/// The value of `chiave` in `sezione`, at most 199 bytes of it; empty when section or key is not there.
+/// `contenuto` is the whole file; the names are compared without regard to the case of A to Z.
+std::string LeggiProfilo(std::string_view contenuto, std::string_view sezione, std::string_view chiave);
+
+}  // namespace parvik

@@ -1,0 +1,48 @@
+// Writing a file so that at every moment the disk holds the old one whole or the new one whole
+// (docs/saving.md).
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string_view>
+
+#include "common/Esito.h"
+
+namespace parvik {
+
+/// A file on its way to the disk. Nothing of `destinazione` changes before Conferma; an object that goes away
+/// unconfirmed leaves neither a changed file nor a new one behind.
+///
+/// Links are followed: the file they lead to is replaced, the link stays. A regular file keeps its mode, and
+/// its owner where the system allows. A file with several names, or in a folder that takes no new file, is
+/// written in place, after a copy of the old content was laid aside. A device or a pipe is written to
+/// directly.
+class ScritturaSicura {
+ public:
+  /// Fails when the destination could not be written at all: a folder, a missing folder, no permission.
+  static Esito<ScritturaSicura> Apri(const std::filesystem::path& destinazione);
+
+  ScritturaSicura(ScritturaSicura&& altra) noexcept;
+  ScritturaSicura& operator=(ScritturaSicura&& altra) noexcept;
+  ~ScritturaSicura();
+
+  /// Adds bytes. After a failure the object can only go away.
+  Esito<void> Scrivi(std::string_view byte);
+
+  /// Makes what was written the content of the destination, on the disk. On failure the old content is whole;
+  /// only where nothing but the folder could not be brought to the disk, the new content has its place
+  /// already.
+  Esito<void> Conferma();
+
+  /// How the bytes reach the destination.
+  class Strada;
+
+ private:
+  explicit ScritturaSicura(std::unique_ptr<Strada> strada);
+  std::unique_ptr<Strada> strada_;
+};
+
+/// The whole of it in one call.
+Esito<void> ScriviFile(const std::filesystem::path& destinazione, std::string_view byte);
+
+}  // namespace parvik

@@ -1,0 +1,17 @@
+// Windows-1252, the one encoding of the host's files.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace parvik {
+
+/// The Unicode value of each byte. The five bytes that the code page leaves undefined stand for the C1
+/// control of the same number, so that the table is one to one on all 256 values.
+extern const std::array<char16_t, 256> UnicodeDiAnsi;
+
+/// Windows-1252 bytes as UTF-8, value by value.
+std::string Utf8DaAnsi(std::string_view byte);
+
+}  // namespace parvik

@@ -1,0 +1,21 @@
+#include "common/frmItaliano.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+namespace parvik {
+
+void PreparaLocale() {
+  for (const char* categoria : {"LC_TIME", "LC_NUMERIC", "LC_MEASUREMENT"}) qputenv(categoria, "it_IT.UTF-8");
+}
+
+bool ParlaItaliano(QApplication& programma) {
+  QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+  auto* traduttore = new QTranslator(&programma);
+  return traduttore->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath)) &&
+         QApplication::installTranslator(traduttore);
+}
+
+}  // namespace parvik

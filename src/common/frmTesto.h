@@ -1,0 +1,25 @@
+// The one door between the bytes of the core and the Unicode of the toolkit. No other file names an encoding.
+#pragma once
+
+#include <QString>
+#include <string>
+#include <string_view>
+
+namespace parvik {
+
+/// A Windows-1252 text for the screen. CR LF becomes a line feed; a byte that no glyph shows (a control
+/// character, a lone CR or LF, one of the five values that the code page leaves undefined) gets a visible
+/// stand-in.
+QString PerSchermo(std::string_view ansi);
+
+/// The way back: undoes PerSchermo on all 256 byte values. Line and paragraph separators of the toolkit are
+/// line ends too. What has no Windows-1252 value becomes "?", one for each character.
+std::string DaSchermo(const QString& testo);
+
+/// What of `testo` can stand in a template: every other character is "?".
+QString SoloAnsi(const QString& testo);
+
+/// UTF-8 texts of the core (messages, captions, paths), with CR LF as the toolkit's line end.
+QString DaUtf8(std::string_view utf8);
+
+}  // namespace parvik

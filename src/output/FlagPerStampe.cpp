@@ -1,0 +1,64 @@
+#include "output/FlagPerStampe.h"
+
+#include <string_view>
+
+#include "common/NumeroLeniente.h"
+
+namespace parvik {
+namespace {
+
+constexpr std::size_t LarghezzaNumero = 2;
+constexpr std::size_t LarghezzaDescrizione = 60;
+constexpr char SegnoVero = 'V';
+constexpr char SegnoFalso = 'F';
+
+}  // namespace
+
+void FlagPerStampe::Aggiungi(const Flag& flag) {
+  std::string descrizione = flag.Descrizione;
+  descrizione.resize(LarghezzaDescrizione, ' ');
+  const std::string numero = (std::to_string(flag.Codice) + " ").substr(0, LarghezzaNumero);
+  righe_.push_back("F" + numero + "  " + descrizione + "   " + SegnoFalso);
+}
+
+std::vector<NumeroErrore> FlagPerStampe::Carica(const Catalogo& catalogo, const TipoDoc& tipo) {
+  std::vector<NumeroErrore> errori;
+  Svuota();
+  for (const Sezione sezione : TutteLeSezioni) {
+    if (static_cast<int>(sezione) >= tipo.NumSezioni) break;
+    const Tabella<Flag> tabella = catalogo.LeggiFlag(tipo, sezione);
+    for (const Flag& flag : tabella.Voci) Aggiungi(flag);
+    if (tabella.Errore) errori.push_back(*tabella.Errore);
+    if (tabella.Errore == NumeroErrore::ArgomentoNonValido) return errori;
+  }
+  for (const Flag& condizione : CondPagina()) Aggiungi(condizione);
+  return errori;
+}
+
+void FlagPerStampe::SettaFlag(std::size_t riga, bool vero) {
+  righe_[riga].back() = vero ? SegnoVero : SegnoFalso;
+}
+
+void FlagPerStampe::AzzeraTutti() {
+  for (std::string& riga : righe_) riga.back() = SegnoFalso;
+}
+
+double FlagPerStampe::Numero(std::size_t riga) const {
+  return NumeroLeniente(std::string_view(righe_[riga]).substr(1));
+}
+
+bool FlagPerStampe::Vero(std::size_t riga) const {
+  return righe_[riga].back() == SegnoVero;
+}
+
+bool FlagPerStampe::SettaNumero(double numero, bool vero) {
+  bool trovato = false;
+  for (std::size_t i = 0; i < righe_.size(); ++i) {
+    if (Numero(i) != numero) continue;
+    SettaFlag(i, vero);
+    trovato = true;
+  }
+  return trovato;
+}
+
+}  // namespace parvik

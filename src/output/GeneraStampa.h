@@ -1,0 +1,54 @@
+// The output run: the sections of a template turned into lines in which every code is replaced by a sample of
+// what it prints (docs/rendering.md). One run serves every destination.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "common/Sezione.h"
+#include "output/FlagPerStampe.h"
+#include "output/MettiStili.h"
+#include "output/TrovaVar.h"
+
+namespace parvik {
+
+/// What a run reads. Texts and flags must stay as they are until the run ends.
+struct DatiStampa {
+  std::array<std::string_view, MaxSezioni> Testi;  // Windows-1252, lines separated by CR LF
+  std::int16_t NumSezioni = 0;
+  std::int16_t RigheCorpo = 0;
+  std::int16_t LineeCorpo = 0;
+  const FlagPerStampe& Flag;
+};
+
+/// Where the lines of a run go.
+class UscitaRighe {
+ public:
+  UscitaRighe() = default;
+  UscitaRighe(const UscitaRighe&) = delete;
+  UscitaRighe& operator=(const UscitaRighe&) = delete;
+  virtual ~UscitaRighe() = default;
+
+  /// Takes one or more whole lines, each ended by CR LF. False ends the run there.
+  virtual bool Righe(std::string_view righe) = 0;
+};
+
+/// One run. Takes time proportional to what it reads and produces, and memory proportional to the longest
+/// line. False when `uscita` ended it.
+bool GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita);
+
+/// What the preview pane shows.
+struct Anteprima {
+  std::string Testo;           // Windows-1252, the end marker last; "" when nothing was rendered
+  std::vector<Tratto> Tratti;  // the formatting, in the order of the text, without overlaps
+};
+
+inline constexpr std::string_view FineAnteprima = "--- Fine file ---";
+
+/// A run for the preview: its lines, the end marker, and the style markers turned into formatting.
+Anteprima GeneraAnteprima(const DatiStampa& dati);
+
+}  // namespace parvik

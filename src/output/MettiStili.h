@@ -1,0 +1,46 @@
+// Style markers of the preview turned into formatting (docs/rendering.md).
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "tokens/CodiceStile.h"
+
+namespace parvik {
+
+/// Sizes of the preview's characters.
+enum class CorpoCarattere { Disegno, Normale, Compresso };
+
+/// In points: 9.75, 10 and 8.
+double Punti(CorpoCarattere corpo);
+
+/// How characters look. A default-made one is the pane's own look, before any style.
+struct Aspetto {
+  bool Grassetto = false;
+  bool Italico = false;
+  bool Sottolineato = false;
+  CorpoCarattere Corpo = CorpoCarattere::Disegno;
+
+  bool operator==(const Aspetto&) const = default;
+
+  /// What the style makes of this look: bold, italic and underline exclude each other; only the normal and
+  /// the compressed style set a size.
+  Aspetto Con(Stile stile) const;
+};
+
+/// A run of characters of one look: 0-based byte and bytes.
+struct Tratto {
+  std::size_t Inizio = 0;
+  std::size_t Lunghezza = 0;
+  Aspetto Come;
+
+  bool operator==(const Tratto&) const = default;
+};
+
+/// Takes the style markers out of a rendered text ("S;" and two letters) and returns the looks that they ask
+/// for, as runs that cover the whole text. A marker is whatever reads as one, literal text included; removing
+/// one may make another of its neighbours. Linear in the text.
+std::vector<Tratto> MettiStili(std::string& testo);
+
+}  // namespace parvik

@@ -1,0 +1,168 @@
+#include "template/ComandiFile.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "common/Delimitatori.h"
+#include "common/LetturaFile.h"
+#include "common/Percorsi.h"
+#include "common/ScritturaSicura.h"
+#include "common/Windows1252.h"
+
+namespace parvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t CaratteriTitolo = 12;
+constexpr const char* EstensioneModelli = ".img";
+
+/// The pattern of the one filter entry: the type's, unless it is none that a file name could match.
+std::string ModelloFiltro(const TipoDoc& tipo) {
+  if (tipo.Titolo.find_first_of("*?.") == std::string::npos) return "*.img";
+  return Utf8DaAnsi(tipo.Titolo);
+}
+
+std::string NomeProposto(const TipoDoc& tipo) {
+  std::string nome = Utf8DaAnsi(tipo.Titolo);
+  std::erase_if(nome, [](char c) { return c == '*' || c == '?'; });
+  return nome;
+}
+
+fs::path ConEstensione(fs::path percorso) {
+  if (percorso.filename().string().find('.') == std::string::npos) percorso += EstensioneModelli;
+  return percorso;
+}
+
+/// The file that a chosen or typed name means: as it stands, or with the extension, in any case of its
+/// letters.
+fs::path FileDaAprire(const fs::path& scelto) {
+  if (EsisteFile(scelto)) return scelto;
+  const fs::path completo = ConEstensione(scelto);
+  return TrovaSenzaCaso(completo.parent_path(), completo.filename().string());
+}
+
+RichiestaFile RichiestaModello(RichiestaFile::Scopo uso, const TipoDoc& tipo, const fs::path& cartella) {
+  RichiestaFile richiesta;
+  richiesta.Uso = uso;
+  richiesta.Cartella = cartella;
+  richiesta.EtichettaFiltro = "File IMG (*.img)";
+  richiesta.Modello = ModelloFiltro(tipo);
+  return richiesta;
+}
+
+}  // namespace
+
+ComandiFile::ComandiFile(Documento& documento, Sezioni& sezioni, Interlocutore& interlocutore,
+                         Contorno& contorno, fs::path dirImg)
+    : documento_(documento),
+      sezioni_(sezioni),
+      interlocutore_(interlocutore),
+      contorno_(contorno),
+      dirImg_(std::move(dirImg)) {}
+
+Risposta ComandiFile::FileModificato(const TipoDoc& tipo) {
+  const Risposta risposta = interlocutore_.Chiedi({.Testo = "Il file è stato modificato, vuoi salvare?",
+                                                   .Simbolo = Icona::Domanda,
+                                                   .Tasti = Pulsanti::SiNoAnnulla,
+                                                   .Titolo = "File immagine"});
+  if (risposta == Risposta::Si) Salva(tipo);
+  return risposta;
+}
+
+/// Yes means that nothing gets lost: when nothing was saved, the command that asked must not go on. A
+/// template without a name and with nothing in it has nothing to save.
+bool ComandiFile::ProseguiDopoDomanda(const TipoDoc& tipo) {
+  if (!documento_.Modificato) return true;
+  switch (FileModificato(tipo)) {
+    case Risposta::Si:
+      return !documento_.Modificato || (documento_.NomeFile.empty() && !VerificaStampa(tipo));
+    case Risposta::No:
+      return true;
+    default:
+      return false;
+  }
+}
+
+void ComandiFile::Nuovo(const TipoDoc& tipo) {
+  if (documento_.Modificato) FileModificato(tipo);
+  documento_.Modificato = false;
+  contorno_.TornaSenzaTipo();
+}
+
+void ComandiFile::Apri(const TipoDoc& tipo) {
+  if (!ProseguiDopoDomanda(tipo)) return;
+  RichiestaFile richiesta = RichiestaModello(RichiestaFile::Scopo::Apri, tipo, dirImg_);
+  richiesta.Titolo = "Apri File Immagine";
+  const fs::path scelto = interlocutore_.ScegliFile(richiesta);
+  documento_.NomeFile = scelto.empty() ? scelto : FileDaAprire(scelto);
+  if (scelto.empty()) return;
+  contorno_.SpegniAnteprima();
+  if (!sezioni_.Testo(Sezione::Testata).empty()) contorno_.AzzeraFlagStampe();
+  documento_.Modificato = false;
+  // The command is silent on every failure: what could be read is shown.
+  static_cast<void>(Leggi(tipo));
+}
+
+void ComandiFile::Salva(const TipoDoc& tipo) {
+  if (documento_.NomeFile.empty()) {
+    if (VerificaStampa(tipo)) SalvaConNome(tipo);
+    return;
+  }
+  if (const Esito<void> scritto = Scrivi(documento_.NomeFile, tipo); !scritto) {
+    interlocutore_.Chiedi({.Testo = TestoErrore(scritto.Errore())});
+  }
+}
+
+void ComandiFile::SalvaConNome(const TipoDoc& tipo) {
+  RichiestaFile richiesta = RichiestaModello(RichiestaFile::Scopo::Salva, tipo, dirImg_);
+  richiesta.Titolo = "Salva con nome";
+  richiesta.NomeProposto = NomeProposto(tipo);
+  const fs::path scelto = interlocutore_.ScegliFile(richiesta);
+  if (scelto.empty()) return;
+  const fs::path percorso = ConEstensione(scelto);
+  if (!Scrivi(percorso, tipo)) return;  // silent; the template stays modified
+  documento_.NomeFile = percorso;
+  // The sections show what the file holds. It was written just now: a failure to read it back loses nothing.
+  static_cast<void>(Leggi(tipo));
+}
+
+bool ComandiFile::PuoChiudere(const TipoDoc& tipo) {
+  return ProseguiDopoDomanda(tipo);
+}
+
+bool ComandiFile::VerificaStampa(const TipoDoc& tipo) const {
+  const auto vuota = [this](Sezione sezione) { return sezioni_.Testo(sezione) == FineRiga; };
+  if (tipo.NumSezioni == 1) return !vuota(Sezione::Testata);
+  return !std::ranges::all_of(TutteLeSezioni, vuota);
+}
+
+Esito<void> ComandiFile::Scrivi(const fs::path& percorso, const TipoDoc& tipo) {
+  TestiSezioni testi;
+  for (const Sezione sezione : TutteLeSezioni) testi[Indice(sezione)] = sezioni_.Testo(sezione);
+  const std::size_t corpoPrima = testi[Indice(Sezione::Corpo)].size();
+  documento_.Modificato = true;  // until the file is on the disk
+  const Esito<std::string> immagine = ScriviImmagine(testi, documento_.Corpo, FormatoDi(tipo.NumSezioni));
+  if (!immagine) return immagine.Errore();
+  if (testi[Indice(Sezione::Corpo)].size() != corpoPrima) sezioni_.CompletaUltimaRiga(Sezione::Corpo);
+  if (const Esito<void> scritto = ScriviFile(percorso, *immagine); !scritto) return scritto.Errore();
+  documento_.Modificato = false;
+  return {};
+}
+
+Esito<void> ComandiFile::Leggi(const TipoDoc& tipo) {
+  contorno_.ImpostaTitolo("Ordavia - " + UltimiCaratteri(documento_.NomeFile.string(), CaratteriTitolo));
+  const Esito<std::string> byte = LeggiFile(documento_.NomeFile);
+  if (!byte) return byte.Errore();
+  const Formato formato = FormatoDi(tipo.NumSezioni);
+  const ImmagineLetta letta = LeggiImmagine(*byte, formato, documento_.Corpo);
+  documento_.Corpo = letta.Corpo;
+  for (const Sezione sezione : TutteLeSezioni) {
+    if (formato == Formato::UnaSezione && sezione != Sezione::Testata) continue;
+    sezioni_.ImpostaTesto(sezione, letta.Testi[Indice(sezione)]);
+  }
+  if (letta.Errore) return *letta.Errore;
+  return {};
+}
+
+}  // namespace parvik

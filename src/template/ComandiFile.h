@@ -1,0 +1,73 @@
+// The commands of the File menu that read and write templates, as decisions: what is asked, in which order,
+// what is written, what becomes of the modified state (docs/file-commands.md).
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "catalogue/TipoDoc.h"
+#include "common/Esito.h"
+#include "common/Interlocutore.h"
+#include "template/Documento.h"
+#include "template/Sezioni.h"
+
+namespace parvik {
+
+/// What the file commands change in the program around the template.
+class Contorno {
+ public:
+  Contorno() = default;
+  Contorno(const Contorno&) = delete;
+  Contorno& operator=(const Contorno&) = delete;
+  virtual ~Contorno() = default;
+
+  virtual void ImpostaTitolo(std::string titolo) = 0;  // UTF-8
+  /// Turns the preview off when it is on.
+  virtual void SpegniAnteprima() = 0;
+  /// Sets every print flag to false.
+  virtual void AzzeraFlagStampe() = 0;
+  /// Back to the state without a document type; the print flags are discarded.
+  virtual void TornaSenzaTipo() = 0;
+};
+
+/// The collaborators must outlive the commands. `tipo` is always the current document type.
+class ComandiFile {
+ public:
+  ComandiFile(Documento& documento, Sezioni& sezioni, Interlocutore& interlocutore, Contorno& contorno,
+              std::filesystem::path dirImg);
+
+  /// New: asks whether to save a modified template, and goes on whatever the answer is. Texts and file name
+  /// stay.
+  void Nuovo(const TipoDoc& tipo);
+
+  /// Open. Every failure is silent; the file name is then the chosen one already.
+  void Apri(const TipoDoc& tipo);
+
+  /// Save; without a file name it is Save As, and with nothing in the sections nothing at all. A named file
+  /// that could not be written draws a message, and the template stays modified.
+  void Salva(const TipoDoc& tipo);
+
+  /// Save As: writes, takes the name and reads the file back. Every failure is silent.
+  void SalvaConNome(const TipoDoc& tipo);
+
+  /// Whether the window may close: asks when the template is modified. False when the question was cancelled,
+  /// or when saving was chosen and nothing was saved.
+  bool PuoChiudere(const TipoDoc& tipo);
+
+  /// Whether there is anything to save or print: not every section is a single empty line.
+  bool VerificaStampa(const TipoDoc& tipo) const;
+
+ private:
+  Risposta FileModificato(const TipoDoc& tipo);
+  bool ProseguiDopoDomanda(const TipoDoc& tipo);
+  Esito<void> Scrivi(const std::filesystem::path& percorso, const TipoDoc& tipo);
+  Esito<void> Leggi(const TipoDoc& tipo);
+
+  Documento& documento_;
+  Sezioni& sezioni_;
+  Interlocutore& interlocutore_;
+  Contorno& contorno_;
+  std::filesystem::path dirImg_;
+};
+
+}  // namespace parvik

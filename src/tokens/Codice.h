@@ -1,0 +1,35 @@
+// Codes in a text: where they stand and of which kind they are (docs/code-grammar.md). Texts are Windows-1252
+// bytes; a code's content is what stands between its two delimiters.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace parvik {
+
+enum class TipoCodice { Sconosciuto, Variabile, Costante, Flag, Stile, Lingua, Pagina };
+
+/// The kind that a content's leading text tells. Letters count in their case.
+TipoCodice Riconosci(std::string_view contenuto);
+
+/// A code in a text: from its opening delimiter (0-based byte) over `Lunghezza` bytes, both delimiters
+/// included.
+struct PosizioneCodice {
+  std::size_t Inizio = 0;
+  std::size_t Lunghezza = 0;
+
+  bool operator==(const PosizioneCodice&) const = default;
+};
+
+/// The first code that opens at or after byte `da`; nullopt when none is closed there.
+std::optional<PosizioneCodice> TrovaCodice(std::string_view testo, std::size_t da = 0);
+
+/// The content of a code with its delimiters; `codice` must have both.
+std::string_view ContenutoDi(std::string_view codice);
+
+/// A content with its delimiters around it: what is inserted into a section.
+std::string ConDelimitatori(std::string_view contenuto);
+
+}  // namespace parvik

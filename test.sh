@@ -1,0 +1,13 @@
+#!/bin/sh
+# Installs what is missing, builds everything with its tests, and runs them all. Run it again at any time.
+set -eu
+cd "$(dirname "$0")"
+
+./packaging/install-packages.sh
+echo "Checking the style of the sources ..."
+./packaging/check-style.sh
+echo "Building the programs and their tests ..."
+cmake --preset dev
+cmake --build --preset dev
+echo "Running every test ..."
+ctest --preset dev --parallel "$(nproc)"

@@ -1,0 +1,59 @@
+// The editor on the example installation, with a window made of memory.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "app/Avvio.h"
+#include "app/Editore.h"
+#include "supporto/Cartelle.h"
+#include "supporto/InterlocutoreScritto.h"
+
+namespace parvik::prova {
+
+class VistaFinta final : public Vista {
+ public:
+  std::string Testo(Sezione sezione) const override { return Testi[Indice(sezione)]; }
+  void ImpostaTesto(Sezione sezione, std::string_view testo) override { Testi[Indice(sezione)] = testo; }
+  void CompletaUltimaRiga(Sezione sezione) override { Testi[Indice(sezione)] += "\r\n"; }
+  void Aggiorna() override { ++Aggiornamenti; }
+  void MostraAnteprima(const Anteprima& anteprima) override { Anteprime.push_back(anteprima.Testo); }
+
+  TestiSezioni Testi = {"mai scelto", "mai scelto", "mai scelto"};
+  int Aggiornamenti = 0;
+  std::vector<std::string> Anteprime;
+};
+
+/// Slots of the example catalogue.
+inline constexpr std::size_t Fattura = 0;
+inline constexpr std::size_t Listino = 11;
+
+class BancoEditore : public testing::Test {
+ protected:
+  BancoEditore() : BancoEditore(Contenuto(Esempio() / "D_IMG" / "CAMPI.TXT")) {}
+  explicit BancoEditore(std::string campi)
+      : editore_(Dove(dir_.Percorso()), std::move(*Catalogo::CaricaCampi(std::move(campi))), vista_,
+                 interlocutore_) {}
+
+  static Installazione Dove(const std::filesystem::path& dir) {
+    Installazione installazione;
+    installazione.DirVelkor = dir / "";
+    installazione.DirImg = dir / "D_IMG";
+    installazione.FileCampi = dir / "D_IMG" / "CAMPI.TXT";
+    return installazione;
+  }
+
+  std::filesystem::path FileNuovo() const { return dir_ / "NUOVO001.IMG"; }
+
+  CartellaTemporanea dir_;
+  VistaFinta vista_;
+  InterlocutoreScritto interlocutore_;
+  Editore editore_;
+};
+
+}  // namespace parvik::prova

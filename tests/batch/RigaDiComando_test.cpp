@@ -1,0 +1,135 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "app/Versione.h"
+#include "batch/Esecuzione.h"
+#include "batch/Esempi.h"
+
+namespace parvik::prova {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+TEST(RigaDiComando, ShowsTheVersion) {
+  EXPECT_EQ(Esegui({"--version"}),
+            (Esecuzione{0, "Ordavia (parvik32-batch) Version " + std::string(VersioneVisibile) + "\n", ""}));
+}
+
+TEST(RigaDiComando, ShowsAHelpThatNamesEveryCommand) {
+  for (const std::string opzione : {"--help", "-h"}) {
+    const Esecuzione aiuto = Esegui({opzione});
+    EXPECT_EQ(aiuto.Stato, 0);
+    EXPECT_EQ(aiuto.Errori, "");
+    EXPECT_THAT(aiuto.Uscita, HasSubstr("Uso: parvik32-batch [OPZIONI] COMANDO\n"));
+    for (const char* nome :
+         {"--velkor DIR", "--campi FILE", "\n  tipi ", "\n  campi ", "\n  stampa ", "\n  normalizza "}) {
+      EXPECT_THAT(aiuto.Uscita, HasSubstr(nome));
+    }
+  }
+}
+
+TEST(RigaDiComando, ShowsAHelpForEachCommand) {
+  for (const std::string comando : {"tipi", "campi", "stampa", "normalizza"}) {
+    const Esecuzione aiuto = Esegui({comando, "--help"});
+    EXPECT_EQ(aiuto.Stato, 0) << comando;
+    EXPECT_EQ(aiuto.Errori, "");
+    EXPECT_THAT(aiuto.Uscita, HasSubstr("Uso: parvik32-batch " + comando));
+  }
+}
+
+TEST(RigaDiComando, NeedsNoCatalogueForHelpAndVersion) {
+  EXPECT_EQ(Esegui({"--velkor", "/nonexistent", "--version"}).Stato, 0);
+  EXPECT_EQ(Esegui({"--velkor", "/nonexistent", "stampa", "--help"}).Stato, 0);
+}
+
+struct Caso {
+  const char* Nome;
+  std::vector<std::string> Argomenti;
+  std::string_view Detto;
+};
+
+void PrintTo(const Caso& caso, std::ostream* uscita) {
+  *uscita << caso.Nome;
+}
+
+class ArgomentiErratiTest : public testing::TestWithParam<Caso> {};
+
+TEST_P(ArgomentiErratiTest, EndWithStatus2AndOneLine) {
+  EXPECT_EQ(EseguiEsempio(GetParam().Argomenti), (Esecuzione{2, "", Detto(GetParam().Detto)}));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Casi, ArgomentiErratiTest,
+    testing::Values(
+        Caso{"no_command", {}, "manca il comando, o non è tra quelli previsti (--help elenca gli argomenti)"},
+        Caso{"unknown_command",
+             {"tipo"},
+             "manca il comando, o non è tra quelli previsti (--help elenca gli argomenti)"},
+        Caso{"type_that_is_no_number",
+             {"campi", "--tipo", "uno"},
+             "--tipo: vuole un numero, non \"uno\" (--help elenca gli argomenti)"},
+        Caso{"empty_type",
+             {"campi", "--tipo", ""},
+             "--tipo: vuole un numero, non \"\" (--help elenca gli argomenti)"},
+        Caso{"empty_output",
+             {"stampa", "--tipo", "1", "-o", "", "x.img"},
+             "-o: vuole un nome (--help elenca gli argomenti)"},
+        Caso{"empty_host_directory",
+             {"--velkor", "", "tipi"},
+             "--velkor: vuole un nome (--help elenca gli argomenti)"},
+        Caso{"empty_catalogue",
+             {"--campi", "", "tipi"},
+             "--campi: vuole un nome (--help elenca gli argomenti)"},
+        Caso{"no_type", {"campi"}, "manca --tipo (--help elenca gli argomenti)"},
+        Caso{"no_type_and_a_file", {"stampa", "x.img"}, "manca --tipo (--help elenca gli argomenti)"},
+        Caso{"no_file_to_render", {"stampa", "--tipo", "1"}, "manca IMG (--help elenca gli argomenti)"},
+        Caso{
+            "no_file_to_normalise", {"normalizza", "--tipo", "1"}, "manca IMG (--help elenca gli argomenti)"},
+        Caso{"no_value", {"campi", "--tipo"}, "manca il valore di --tipo (--help elenca gli argomenti)"},
+        Caso{"stray_word", {"tipi", "x"}, "argomento non previsto: x (--help elenca gli argomenti)"},
+        Caso{"unknown_option", {"tipi", "--x"}, "argomento non previsto: --x (--help elenca gli argomenti)"},
+        Caso{"both_catalogues",
+             {"--campi", "x", "tipi"},
+             "--velkor e --campi si escludono (--help elenca gli argomenti)"},
+        Caso{"unknown_section",
+             {"campi", "--tipo", "1", "--sezione", "Testata"},
+             "--sezione: vuole testata, corpo o piede, non \"Testata\" (--help elenca gli argomenti)"},
+        Caso{"flags_that_are_no_numbers",
+             {"stampa", "--tipo", "1", "--veri", "3,x", "x.img"},
+             "--veri: vuole numeri separati da virgole, non \"3,x\" (--help elenca gli argomenti)"},
+        Caso{"one_output_for_two_files",
+             {"normalizza", "--tipo", "1", "-o", "z.img", "x.img", "y.img"},
+             "-o vuole un file solo: z.img"}),
+    [](const auto& caso) { return std::string(caso.param.Nome); });
+
+TEST(RigaDiComando, RefusesAnUnknownCommand) {
+  const Esecuzione esecuzione = EseguiEsempio({"tipo"});
+  EXPECT_EQ(esecuzione.Stato, 2);
+  EXPECT_EQ(esecuzione.Uscita, "");
+  EXPECT_THAT(esecuzione.Errori, StartsWith("parvik32-batch: "));
+}
+
+TEST(RigaDiComando, RefusesATypeThatIsNoNumber) {
+  for (const std::string tipo : {"uno", "1x", "1.5", "99999999999"}) {
+    const Esecuzione esecuzione = EseguiEsempio({"campi", "--tipo", tipo});
+    EXPECT_EQ(esecuzione.Stato, 2) << tipo;
+    EXPECT_EQ(esecuzione.Uscita, "");
+    EXPECT_THAT(esecuzione.Errori, StartsWith("parvik32-batch: "));
+    EXPECT_THAT(esecuzione.Errori, HasSubstr("--tipo"));
+  }
+}
+
+TEST(RigaDiComando, RefusesATypeThatTheCatalogueLacks) {
+  const HostDiProva host;
+  const std::string modello = host.Modello("m.img", "x\r\n").string();
+  for (const std::string tipo : {"0", "3", "22", "24", "-1", "2000000000"}) {
+    const Esecuzione atteso = {2, "", Detto(host.Catalogo(), "tipo di documento " + tipo + " sconosciuto")};
+    EXPECT_EQ(Esegui(host.Argomenti({"campi", "--tipo", tipo})), atteso);
+    EXPECT_EQ(Esegui(host.Argomenti({"stampa", "--tipo", tipo, modello})), atteso);
+    EXPECT_EQ(Esegui(host.Argomenti({"normalizza", "--tipo", tipo, modello})), atteso);
+  }
+}
+
+}  // namespace
+}  // namespace parvik::prova

@@ -1,0 +1,84 @@
+#include "common/ProfiloHost.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "supporto/Cartelle.h"
+
+namespace parvik::prova {
+namespace {
+
+std::string Dir(std::string_view contenuto) {
+  return LeggiProfilo(contenuto, "AMBIENTE", "Dir velkor");
+}
+
+struct Caso {
+  const char* Nome;
+  std::string Contenuto;
+  std::string Atteso;
+};
+
+class ProfiloHostTest : public testing::TestWithParam<Caso> {};
+
+TEST_P(ProfiloHostTest, ReadsAsTheHostsReaderDoes) {
+  EXPECT_EQ(GetParam().Atteso, Dir(GetParam().Contenuto));
+}
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Casi, ProfiloHostTest, testing::Values(
+    Caso{"empty_file", "", ""},
+    Caso{"plain", "[AMBIENTE]\r\nDir velkor=/srv/velkor\r\n", "/srv/velkor"},
+    Caso{"no_line_end_at_the_end", "[AMBIENTE]\r\nDir velkor=/srv", "/srv"},
+    Caso{"line_feeds", "[AMBIENTE]\nDir velkor=/srv\n", "/srv"},
+    Caso{"carriage_returns", "[AMBIENTE]\rDir velkor=/srv\rx=1", "/srv"},
+    Caso{"names_in_another_case", "[ambiente]\r\ndIR VELKOR=/srv\r\n", "/srv"},
+    Caso{"value_keeps_its_case", "[AMBIENTE]\r\nDir velkor=/Srv/Velkor\r\n", "/Srv/Velkor"},
+    Caso{"blanks_around_everything", " \t[ \tAMBIENTE\t ]\t\r\n \tDir velkor \t= \t/srv \t\r\n", "/srv"},
+    Caso{"blanks_inside_the_value_stay", "[AMBIENTE]\r\nDir velkor=/srv/my  host\tdir\r\n", "/srv/my  host\tdir"},
+    Caso{"blanks_inside_the_key_count", "[AMBIENTE]\r\nDir  velkor=/srv\r\n", ""},
+    Caso{"double_quotes", "[AMBIENTE]\r\nDir velkor=\"/srv\"\r\n", "/srv"},
+    Caso{"single_quotes", "[AMBIENTE]\r\nDir velkor='/srv'\r\n", "/srv"},
+    Caso{"blanks_inside_quotes_stay", "[AMBIENTE]\r\nDir velkor=\" /srv \"\r\n", " /srv "},
+    Caso{"one_pair_of_quotes_only", "[AMBIENTE]\r\nDir velkor='\"/srv\"'\r\n", "\"/srv\""},
+    Caso{"unlike_quotes_stay", "[AMBIENTE]\r\nDir velkor=\"/srv'\r\n", "\"/srv'"},
+    Caso{"a_lone_quote_stays", "[AMBIENTE]\r\nDir velkor=\"\r\n", "\""},
+    Caso{"quotes_that_do_not_enclose_stay", "[AMBIENTE]\r\nDir velkor=\"/srv\" x\r\n", "\"/srv\" x"},
+    Caso{"empty_quotes", "[AMBIENTE]\r\nDir velkor=\"\"\r\n", ""},
+    Caso{"comment", "[AMBIENTE]\r\n;Dir velkor=/no\r\nDir velkor=/srv\r\n", "/srv"},
+    Caso{"comment_after_blanks", "[AMBIENTE]\r\n  ;Dir velkor=/no\r\nDir velkor=/srv\r\n", "/srv"},
+    Caso{"section_in_a_comment", ";[AMBIENTE]\r\nDir velkor=/no\r\n", ""},
+    Caso{"semicolon_inside_a_value", "[AMBIENTE]\r\nDir velkor=/srv ; host\r\n", "/srv ; host"},
+    Caso{"equal_sign_inside_a_value", "[AMBIENTE]\r\nDir velkor=a=b\r\n", "a=b"},
+    Caso{"first_of_equal_keys", "[AMBIENTE]\r\nDir velkor=/1\r\nDir velkor=/2\r\n", "/1"},
+    Caso{"first_of_equal_keys_though_empty", "[AMBIENTE]\r\nDir velkor=\r\nDir velkor=/2\r\n", ""},
+    Caso{"first_section_of_a_name_only", "[AMBIENTE]\r\nx=1\r\n[AMBIENTE]\r\nDir velkor=/2\r\n", ""},
+    Caso{"first_section_of_a_name_only_with_another_between",
+         "[AMBIENTE]\r\nx=1\r\n[B]\r\n[AMBIENTE]\r\nDir velkor=/2\r\n", ""},
+    Caso{"key_before_any_section", "Dir velkor=/no\r\n[AMBIENTE]\r\n", ""},
+    Caso{"key_in_another_section", "[ALTRO]\r\nDir velkor=/no\r\n[AMBIENTE]\r\nx=1\r\n", ""},
+    Caso{"section_after_another", "[ALTRO]\r\nDir velkor=/no\r\n[AMBIENTE]\r\nDir velkor=/srv\r\n", "/srv"},
+    Caso{"section_without_its_bracket", "[AMBIENTE\r\nDir velkor=/no\r\n", ""},
+    Caso{"bracketless_line_ends_no_section", "[AMBIENTE]\r\n[ALTRO\r\nDir velkor=/srv\r\n", "/srv"},
+    Caso{"text_after_the_bracket", "[AMBIENTE] host\r\nDir velkor=/srv\r\n", "/srv"},
+    Caso{"key_without_equal_sign", "[AMBIENTE]\r\nDir velkor\r\nDir velkor=/srv\r\n", "/srv"},
+    Caso{"longer_key", "[AMBIENTE]\r\nDir velkor 2=/no\r\n", ""},
+    Caso{"byte_order_mark", "\xEF\xBB\xBF[AMBIENTE]\r\nDir velkor=/srv\r\n", "/srv"},
+    Caso{"empty_lines", "\r\n\r\n[AMBIENTE]\r\n\r\nDir velkor=/srv\r\n", "/srv"},
+    Caso{"bytes_are_kept", "[AMBIENTE]\r\nDir velkor=/srv/\xE0\x80\xFF\r\n", "/srv/\xE0\x80\xFF"}),
+    [](const auto& caso) { return std::string(caso.param.Nome); });
+// clang-format on
+
+TEST(LeggiProfilo, GivesAValueOf199BytesWholeAndCutsALongerOne) {
+  const std::string prima = "[AMBIENTE]\r\nDir velkor=";
+  EXPECT_EQ(std::string(199, 'x'), Dir(prima + std::string(199, 'x') + "\r\n"));
+  EXPECT_EQ(std::string(199, 'x'), Dir(prima + std::string(200, 'x') + "\r\n"));
+  EXPECT_EQ(std::string(199, 'x'), Dir(prima + "\"" + std::string(300, 'x') + "\"\r\n"));
+}
+
+TEST(LeggiProfilo, ReadsTheExampleInstallationsFile) {
+  EXPECT_EQ("C:\\VELKOR", Dir(Contenuto(Esempio() / "VELKOR.INI")));
+}
+
+}  // namespace
+}  // namespace parvik::prova

@@ -1,0 +1,245 @@
+#include "common/ScritturaSicura.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <utility>
+
+#include "common/Descrittore.h"
+#include "common/FileDiProva.h"
+#include "supporto/Cartelle.h"
+
+namespace parvik::prova {
+namespace {
+
+namespace fs = std::filesystem;
+using Elenco = std::vector<std::string>;
+
+TEST(ScriviFile, MakesANewFileAndNothingElse) {
+  const CartellaTemporanea cartella;
+  EXPECT_TRUE(ScriviFile(cartella / "a.img", "nuovo"));
+  EXPECT_EQ("nuovo", Contenuto(cartella / "a.img"));
+  EXPECT_EQ(Elenco{"a.img"}, Nomi(cartella.Percorso()));
+}
+
+TEST(ScriviFile, GivesANewFileTheModeThatTheUserMaskLeaves) {
+  const CartellaTemporanea cartella;
+  const mode_t prima = ::umask(027);
+  EXPECT_TRUE(ScriviFile(cartella / "a.img", "nuovo"));
+  ::umask(prima);
+  EXPECT_EQ(0640U, Modo(cartella / "a.img"));
+}
+
+TEST(ScriviFile, ReplacesAFileAndLeavesNothingElse) {
+  const CartellaTemporanea cartella;
+  Crea(cartella / "a.img", "molto vecchio e piu' lungo");
+  EXPECT_TRUE(ScriviFile(cartella / "a.img", "nuovo"));
+  EXPECT_EQ("nuovo", Contenuto(cartella / "a.img"));
+  EXPECT_EQ(Elenco{"a.img"}, Nomi(cartella.Percorso()));
+}
+
+TEST(ScriviFile, WritesEveryByteValueAsItIs) {
+  const CartellaTemporanea cartella;
+  std::string byte;
+  for (int i = 0; i < 256; ++i) byte.push_back(static_cast<char>(i));
+  EXPECT_TRUE(ScriviFile(cartella / "a.img", byte));
+  EXPECT_EQ(byte, Contenuto(cartella / "a.img"));
+}
+
+TEST(ScriviFile, WritesAnEmptyFile) {
+  const CartellaTemporanea cartella;
+  Crea(cartella / "a.img", "vecchio");
+  EXPECT_TRUE(ScriviFile(cartella / "a.img", ""));
+  EXPECT_EQ("", Contenuto(cartella / "a.img"));
+}
+
+TEST(ScriviFile, KeepsTheModeOfTheFileThatItReplaces) {
+  const CartellaTemporanea cartella;
+  Crea(cartella / "a.img", "vecchio");
+  for (const unsigned int modo : {0600U, 0664U, 0755U, 0666U}) {
+    ASSERT_EQ(0, ::chmod((cartella / "a.img").c_str(), modo));
+    EXPECT_TRUE(ScriviFile(cartella / "a.img", "nuovo"));
+    EXPECT_EQ(modo, Modo(cartella / "a.img"));
+  }
+}
+
+TEST(ScriviFile, KeepsTheOwnerOfTheFileThatItReplaces) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can give a file away";
+  const CartellaTemporanea cartella;
+  Crea(cartella / "a.img", "vecchio");
+  ASSERT_EQ(0, ::chown((cartella / "a.img").c_str(), 1234, 2345));
+  EXPECT_TRUE(ScriviFile(cartella / "a.img", "nuovo"));
+  struct stat stato = {};
+  ASSERT_EQ(0, ::stat((cartella / "a.img").c_str(), &stato));
+  EXPECT_EQ(1234U, stato.st_uid);
+  EXPECT_EQ(2345U, stato.st_gid);
+}
+
+TEST(ScriviFile, WritesToANameWithoutAFolder) {
+  const CartellaTemporanea cartella;
+  const fs::path prima = fs::current_path();
+  fs::current_path(cartella.Percorso());
+  EXPECT_TRUE(ScriviFile("a.img", "nuovo"));
+  fs::current_path(prima);
+  EXPECT_EQ("nuovo", Contenuto(cartella / "a.img"));
+  EXPECT_EQ(Elenco{"a.img"}, Nomi(cartella.Percorso()));
+}
+
+TEST(ScriviFile, WritesToTheLongestNameThatAFileCanHave) {
+  const CartellaTemporanea cartella;
+  const std::string nome(255, 'n');
+  EXPECT_TRUE(ScriviFile(cartella / nome, "uno"));
+  EXPECT_TRUE(ScriviFile(cartella / nome, "due"));
+  EXPECT_EQ("due", Contenuto(cartella / nome));
+  EXPECT_EQ(Elenco{nome}, Nomi(cartella.Percorso()));
+}
+
+TEST(ScriviFile, FollowsALinkWhichStaysALink) {
+  const CartellaTemporanea cartella;
+  Crea(cartella / "vero" / "a.img", "vecchio");
+  fs::create_symlink("vero/a.img", cartella / "link.img");
+  EXPECT_TRUE(ScriviFile(cartella / "link.img", "nuovo"));
+  EXPECT_TRUE(fs::is_symlink(cartella / "link.img"));
+  EXPECT_EQ("vero/a.img", fs::read_symlink(cartella / "link.img"));
+  EXPECT_EQ("nuovo", Contenuto(cartella / "vero" / "a.img"));
+  EXPECT_EQ((Elenco{"link.img", "vero"}), Nomi(cartella.Percorso()));
+  EXPECT_EQ(Elenco{"a.img"}, Nomi(cartella / "vero"));
+}
+
+TEST(ScriviFile, FollowsAChainOfAbsoluteAndRelativeLinks) {
+  const CartellaTemporanea cartella;
+  Crea(cartella / "x" / "a.img", "vecchio");
+  fs::create_symlink("a.img", cartella / "x" / "due.img");
+  fs::create_symlink(cartella / "x" / "due.img", cartella / "uno.img");
+  EXPECT_TRUE(ScriviFile(cartella / "uno.img", "nuovo"));
+  EXPECT_EQ("nuovo", Contenuto(cartella / "x" / "a.img"));
+  EXPECT_TRUE(fs::is_symlink(cartella / "uno.img"));
+  EXPECT_TRUE(fs::is_symlink(cartella / "x" / "due.img"));
+}
+
+TEST(ScriviFile, MakesTheFileThatADanglingLinkNames) {
+  const CartellaTemporanea cartella;
+  fs::create_symlink("manca.img", cartella / "link.img");
+  EXPECT_TRUE(ScriviFile(cartella / "link.img", "nuovo"));
+  EXPECT_TRUE(fs::is_symlink(cartella / "link.img"));
+  EXPECT_EQ("nuovo", Contenuto(cartella / "manca.img"));
+  EXPECT_EQ((Elenco{"link.img", "manca.img"}), Nomi(cartella.Percorso()));
+}
+
+TEST(ScriviFile, ShowsTheNewContentUnderBothNamesOfAFileAndLeavesNoCopyBehind) {
+  const CartellaTemporanea cartella;
+  const CartellaTemporanea copie;
+  const VariabileAmbiente temporanea("TMPDIR", copie.Percorso().c_str());
+  Crea(cartella / "a.img", "vecchio e piu' lungo");
+  fs::create_hard_link(cartella / "a.img", cartella / "b.img");
+  EXPECT_TRUE(ScriviFile(cartella / "a.img", "nuovo"));
+  EXPECT_EQ("nuovo", Contenuto(cartella / "a.img"));
+  EXPECT_EQ("nuovo", Contenuto(cartella / "b.img"));
+  EXPECT_EQ(Inode(cartella / "a.img"), Inode(cartella / "b.img"));
+  EXPECT_EQ((Elenco{"a.img", "b.img"}), Nomi(cartella.Percorso()));
+  EXPECT_EQ(Elenco{}, Nomi(copie.Percorso()));
+}
+
+TEST(ScriviFile, WritesInPlaceWhereTheFolderTakesNoNewFile) {
+  const CartellaTemporanea cartella;
+  Crea(cartella / "a.img", "vecchio");
+  fs::permissions(cartella / "a.img", fs::perms{0666});
+  fs::permissions(cartella.Percorso(), fs::perms{0555});
+  {
+    const UtenteComune utente;
+    if (!utente.Comune()) GTEST_SKIP() << "root cannot become an ordinary user here";
+    EXPECT_TRUE(ScriviFile(cartella / "a.img", "nuovo"));
+    EXPECT_EQ("nuovo", Contenuto(cartella / "a.img"));
+    EXPECT_EQ(Elenco{"a.img"}, Nomi(cartella.Percorso()));
+  }
+  fs::permissions(cartella.Percorso(), fs::perms::owner_all);  // so that it can be removed
+}
+
+TEST(ScriviFile, LeavesADeviceADevice) {
+  EXPECT_TRUE(ScriviFile("/dev/null", "via"));
+  EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+TEST(ScriviFile, HandsItsBytesToThePipeThatSomebodyReads) {
+  const CartellaTemporanea cartella;
+  const fs::path pipe = cartella / "pipe";
+  ASSERT_EQ(0, ::mkfifo(pipe.c_str(), 0600));
+  const Descrittore lettore(::open(pipe.c_str(), O_RDONLY | O_NONBLOCK));
+  ASSERT_TRUE(lettore);
+  EXPECT_TRUE(ScriviFile(pipe, "testo"));
+  std::string letto(100, '\0');
+  letto.resize(
+      static_cast<std::size_t>(std::max<ssize_t>(0, ::read(lettore.Numero(), letto.data(), letto.size()))));
+  EXPECT_EQ("testo", letto);
+  EXPECT_TRUE(fs::is_fifo(pipe));
+}
+
+TEST(ScriviFile, ReplacesWhatAKilledProgramLeftBehind) {
+  const CartellaTemporanea cartella;
+  Crea(cartella / "a.img", "vecchio");
+  {
+    // The name is the writer's own business: it is learnt from one at work.
+    Esito<ScritturaSicura> inCorso = ScritturaSicura::Apri(cartella / "a.img");
+    ASSERT_TRUE(inCorso);
+    const Elenco nomi = Nomi(cartella.Percorso());
+    ASSERT_EQ(2U, nomi.size());
+    const std::string provvisorio = nomi[0] == "a.img" ? nomi[1] : nomi[0];
+    const CartellaTemporanea altrove;
+    Crea(altrove / "suo", "di un altro");
+    fs::remove(cartella / provvisorio);
+    fs::create_symlink(altrove / "suo", cartella / provvisorio);
+    EXPECT_TRUE(ScriviFile(cartella / "a.img", "nuovo"));
+    EXPECT_EQ("di un altro", Contenuto(altrove / "suo"));
+  }
+  EXPECT_EQ("nuovo", Contenuto(cartella / "a.img"));
+  EXPECT_FALSE(fs::is_symlink(cartella / "a.img"));
+  EXPECT_EQ(Elenco{"a.img"}, Nomi(cartella.Percorso()));
+}
+
+TEST(ScritturaSicura, ChangesNothingBeforeItIsConfirmed) {
+  const CartellaTemporanea cartella;
+  Crea(cartella / "a.img", "vecchio");
+  Esito<ScritturaSicura> file = ScritturaSicura::Apri(cartella / "a.img");
+  ASSERT_TRUE(file);
+  EXPECT_TRUE(file->Scrivi("nuo"));
+  EXPECT_TRUE(file->Scrivi("vo"));
+  EXPECT_EQ("vecchio", Contenuto(cartella / "a.img"));
+  EXPECT_TRUE(file->Conferma());
+  EXPECT_EQ("nuovo", Contenuto(cartella / "a.img"));
+}
+
+TEST(ScritturaSicura, LeavesNothingWhenItGoesAwayUnconfirmed) {
+  const CartellaTemporanea cartella;
+  Crea(cartella / "a.img", "vecchio");
+  fs::create_directory(cartella / "doppi");
+  Crea(cartella / "doppi" / "b.img", "doppio");
+  fs::create_hard_link(cartella / "doppi" / "b.img", cartella / "doppi" / "c.img");
+  for (const fs::path& meta : {cartella / "a.img", cartella / "n.img", cartella / "doppi" / "b.img"}) {
+    Esito<ScritturaSicura> file = ScritturaSicura::Apri(meta);
+    ASSERT_TRUE(file);
+    EXPECT_TRUE(file->Scrivi("nuovo"));
+  }
+  EXPECT_EQ("vecchio", Contenuto(cartella / "a.img"));
+  EXPECT_EQ("doppio", Contenuto(cartella / "doppi" / "b.img"));
+  EXPECT_EQ((Elenco{"a.img", "doppi"}), Nomi(cartella.Percorso()));
+  EXPECT_EQ((Elenco{"b.img", "c.img"}), Nomi(cartella / "doppi"));
+}
+
+TEST(ScritturaSicura, CanBeMovedWhileItIsUnderWay) {
+  const CartellaTemporanea cartella;
+  Esito<ScritturaSicura> file = ScritturaSicura::Apri(cartella / "a.img");
+  ASSERT_TRUE(file);
+  EXPECT_TRUE(file->Scrivi("nuo"));
+  ScritturaSicura altra = std::move(*file);
+  EXPECT_TRUE(altra.Scrivi("vo"));
+  EXPECT_TRUE(altra.Conferma());
+  EXPECT_EQ("nuovo", Contenuto(cartella / "a.img"));
+}
+
+}  // namespace
+}  // namespace parvik::prova

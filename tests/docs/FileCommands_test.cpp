@@ -1,0 +1,135 @@
+// docs/file-commands.md
+
+#include <gtest/gtest.h>
+
+#include "docs/Pagine.h"
+#include "supporto/Cartelle.h"
+#include "supporto/InterlocutoreScritto.h"
+#include "template/ComandiFile.h"
+
+namespace parvik::prova {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view Pagina = "file-commands.md";
+
+class SezioniInMemoria final : public Sezioni {
+ public:
+  std::string Testo(Sezione sezione) const override { return Testi[Indice(sezione)]; }
+  void ImpostaTesto(Sezione sezione, std::string_view testo) override { Testi[Indice(sezione)] = testo; }
+  void CompletaUltimaRiga(Sezione sezione) override { Testi[Indice(sezione)] += "\r\n"; }
+
+  TestiSezioni Testi = {"\r\n", "\r\n", "\r\n"};
+};
+
+class ContornoAnnotato final : public Contorno {
+ public:
+  void ImpostaTitolo(std::string titolo) override { Titolo = std::move(titolo); }
+  void SpegniAnteprima() override {}
+  void AzzeraFlagStampe() override {}
+  void TornaSenzaTipo() override { SenzaTipo = true; }
+
+  std::string Titolo;
+  bool SenzaTipo = false;
+};
+
+TipoDoc Tipo(std::int16_t numSezioni, std::string titolo = "FATT*.IMG") {
+  TipoDoc tipo;
+  tipo.Descrizione = "Prova";
+  tipo.Titolo = std::move(titolo);
+  tipo.NumSezioni = numSezioni;
+  return tipo;
+}
+
+/// A template of one section with everything that its commands touch.
+struct Banco {
+  Documento Modello;
+  SezioniInMemoria Testi;
+  InterlocutoreScritto Persona;
+  ContornoAnnotato Attorno;
+  CartellaTemporanea Cartella;
+  ComandiFile Comandi{Modello, Testi, Persona, Attorno, Cartella.Percorso()};
+};
+
+/// Sets the template and the script up so that saving ends as the example says.
+void Prepara(Banco& banco, const RigaEsempio& riga) {
+  const std::string salvataggio = riga.Testo(3);
+  banco.Modello.Modificato = true;
+  if (riga.Si(1))
+    banco.Modello.NomeFile = banco.Cartella / (salvataggio == "fails" ? "manca/A.IMG" : "A.IMG");
+  if (salvataggio != "nothing to save") banco.Testi.Testi[0] = "t\r\n";
+  const std::string risposta = riga.Testo(2);
+  banco.Persona.Rispondera(risposta == "Sì"   ? Risposta::Si
+                           : risposta == "No" ? Risposta::No
+                                              : Risposta::Annulla);
+  if (salvataggio == "fails") banco.Persona.Rispondera(Risposta::Ok);
+  if (salvataggio == "given up") banco.Persona.Scegliera({});
+}
+
+bool Prosegue(Banco& banco, const RigaEsempio& riga) {
+  const std::string comando = riga.Testo(0);
+  if (comando == "close") return banco.Comandi.PuoChiudere(Tipo(1));
+  if (comando == "New") {
+    banco.Comandi.Nuovo(Tipo(1));
+    return banco.Attorno.SenzaTipo;
+  }
+  if (riga.Si(4)) banco.Persona.Scegliera({});  // the choice of the file to open, given up
+  banco.Comandi.Apri(Tipo(1));
+  return !banco.Persona.Richieste.empty() && banco.Persona.Richieste.back().Titolo == "Apri File Immagine";
+}
+
+TEST(FileCommandsPage, TellsWhenACommandGoesOnAfterTheQuestion) {
+  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "question", 5)) {
+    Banco banco;
+    Prepara(banco, riga);
+    EXPECT_EQ(Prosegue(banco, riga), riga.Si(4)) << riga.Posto();
+    EXPECT_EQ(fs::exists(banco.Cartella / "A.IMG"), riga.Testo(3) == "written") << riga.Posto();
+  }
+}
+
+TEST(FileCommandsPage, TellsTheCaptions) {
+  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "captions", 2)) {
+    Banco banco;
+    banco.Persona.Scegliera(riga.Testo(0));
+    banco.Comandi.Apri(Tipo(1));
+    EXPECT_EQ(banco.Attorno.Titolo, riga.Testo(1)) << riga.Posto();
+  }
+}
+
+TEST(FileCommandsPage, TellsWhichFileATypedNameMeans) {
+  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "typed", 2)) {
+    Banco banco;
+    banco.Persona.Scegliera(banco.Cartella / riga.Testo(0));
+    banco.Comandi.SalvaConNome(Tipo(1));
+    EXPECT_EQ(banco.Modello.NomeFile, banco.Cartella / riga.Testo(1)) << riga.Posto();
+    EXPECT_EQ(Contenuto(banco.Cartella / riga.Testo(1)), "\r\n") << riga.Posto();
+  }
+}
+
+TEST(FileCommandsPage, TellsPatternsAndProposedNames) {
+  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "patterns", 3)) {
+    Banco banco;
+    banco.Persona.Scegliera({});
+    banco.Persona.Scegliera({});
+    banco.Comandi.Apri(Tipo(1, riga.Byte(0)));
+    banco.Comandi.SalvaConNome(Tipo(1, riga.Byte(0)));
+    ASSERT_EQ(banco.Persona.Richieste.size(), 2U);
+    EXPECT_EQ(banco.Persona.Richieste[0].Modello, riga.Testo(1)) << riga.Posto();
+    EXPECT_EQ(banco.Persona.Richieste[1].Modello, riga.Testo(1)) << riga.Posto();
+    EXPECT_EQ(banco.Persona.Richieste[0].NomeProposto, "") << riga.Posto();
+    EXPECT_EQ(banco.Persona.Richieste[1].NomeProposto, riga.Testo(2)) << riga.Posto();
+  }
+}
+
+TEST(FileCommandsPage, TellsWhenThereIsNothingToSave) {
+  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "empty", 5)) {
+    Banco banco;
+    banco.Testi.Testi = {riga.Byte(1), riga.Byte(2), riga.Byte(3)};
+    EXPECT_EQ(banco.Comandi.VerificaStampa(Tipo(static_cast<std::int16_t>(riga.Numero(0)))), riga.Si(4))
+        << riga.Posto();
+  }
+}
+
+}  // namespace
+}  // namespace parvik::prova

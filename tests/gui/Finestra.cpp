@@ -1,0 +1,57 @@
+#include "Finestra.h"
+
+#include <gtest/gtest.h>
+
+#include <QListWidget>
+#include <QTest>
+#include <QTimer>
+
+namespace parvik::prova {
+
+void NelProssimoDialogo(const std::function<void(QDialog&)>& compito) {
+  auto* orologio = new QTimer(qApp);
+  orologio->setInterval(1);
+  QObject::connect(orologio, &QTimer::timeout, orologio, [orologio, compito] {
+    auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialogo == nullptr || !dialogo->isVisible()) return;
+    orologio->stop();
+    orologio->deleteLater();
+    compito(*dialogo);
+  });
+  orologio->start();
+}
+
+Finestra::Finestra() {
+  std::filesystem::create_directories(Cartella() / "PARVIK");
+  std::filesystem::copy(Esempio(), Cartella(), std::filesystem::copy_options::recursive);
+  auto dati = Avvia({.DirProgramma = Cartella() / "PARVIK", .CartelleConfigurazione = {}}, persona_);
+  if (!dati) qFatal("the example installation does not start");
+  finestra_ = std::make_unique<frmParvik>(std::move(*dati), persona_);
+  finestra_->show();
+  Attiva();
+}
+
+void Finestra::Attiva() {
+  finestra_->activateWindow();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(finestra_.get()));
+}
+
+QPlainTextEdit& Finestra::Sezione(int indice) {
+  return *Trova<QPlainTextEdit>(*finestra_, qPrintable(QStringLiteral("txtTCP_%1").arg(indice)));
+}
+
+void Finestra::Scegli(int numero) {
+  NelProssimoDialogo([numero](QDialog& dialogo) {
+    Trova<QListWidget>(dialogo, "lstScelta")->setCurrentRow(numero - 1);
+    QTest::keyClick(&dialogo, Qt::Key_Return);
+  });
+  Azione("mnuScelta").trigger();
+  Attiva();
+}
+
+void Finestra::Apri(const char* nome) {
+  persona_.Scegliera(Modello(nome));
+  Azione("mnuApri").trigger();
+}
+
+}  // namespace parvik::prova

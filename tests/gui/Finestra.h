@@ -1,0 +1,64 @@
+// The main window on a copy of the example installation, as tests drive it.
+#pragma once
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <ostream>
+
+#include "app/frmParvik.h"
+#include "supporto/Cartelle.h"
+#include "supporto/InterlocutoreScritto.h"
+
+/// GoogleTest finds it where QString is.
+inline void PrintTo(const QString& testo, std::ostream* uscita) {
+  *uscita << '"' << testo.toStdString() << '"';
+}
+
+namespace parvik::prova {
+
+/// A child by its objectName; fails the test when there is none.
+template <class Controllo>
+Controllo* Trova(const QObject& padre, const char* nome) {
+  auto* trovato = padre.findChild<Controllo*>(nome);
+  if (trovato == nullptr) qFatal("no control named %s", nome);
+  return trovato;
+}
+
+/// Runs `compito` on the next modal dialog that opens. Must be called before what opens it.
+void NelProssimoDialogo(const std::function<void(QDialog&)>& compito);
+
+class Finestra {
+ public:
+  /// Installs a copy of the example, starts, and shows the window.
+  Finestra();
+
+  InterlocutoreScritto& Persona() { return persona_; }
+  std::filesystem::path Cartella() const { return cartella_.Percorso() / "VELKOR"; }
+  std::filesystem::path Modello(const char* nome) const { return Cartella() / "D_IMG" / nome; }
+
+  frmParvik& operator*() { return *finestra_; }
+  frmParvik* operator->() { return finestra_.get(); }
+
+  QAction& Azione(const char* nome) { return *Trova<QAction>(*finestra_, nome); }
+  QPlainTextEdit& Sezione(int indice);
+  QPlainTextEdit& Anteprima() { return *Trova<QPlainTextEdit>(*finestra_, "ricAnte"); }
+
+  /// Chooses a document type through the menu and the dialog, by its number.
+  void Scegli(int numero);
+  /// Opens a template of the installation through the menu.
+  void Apri(const char* nome);
+
+ private:
+  /// What a window manager does when a dialog has closed.
+  void Attiva();
+
+  CartellaTemporanea cartella_;
+  InterlocutoreScritto persona_;
+  std::unique_ptr<frmParvik> finestra_;
+};
+
+}  // namespace parvik::prova

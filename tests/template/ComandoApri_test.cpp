@@ -1,0 +1,238 @@
+// File > Apri.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+#include "template/BancoComandi.h"
+
+namespace parvik::prova {
+namespace {
+
+using Testi = std::vector<std::string>;
+
+class ComandoApri : public BancoComandi {
+ protected:
+  /// What stands before each test in the file that is there to be opened, and what it becomes.
+  void SetUp() override { Crea(dirImg_ / "MODELLO1.IMG", "n\r\n" + Marcatore("7;1;CS") + "m\r\no\r\n"); }
+  static TestiSezioni Aperti() { return {"n\r\n", "m\r\n", "o\r\n"}; }
+  static TestiSezioni Iniziali() { return {"t\r\n", "c\r\n", "p\r\n"}; }
+};
+
+TEST_F(ComandoApri, ReadsTheChosenFileAndShowsItsName) {
+  interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
+  comandi_.Apri(tre_);
+  EXPECT_EQ(Aperti(), sezioni_.Testi);
+  EXPECT_EQ((ImpostazioniCorpo{7, 1, "C", "S"}), documento_.Corpo);
+  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.NomeFile);
+  EXPECT_FALSE(documento_.Modificato);
+  EXPECT_EQ((Testi{"anteprima spenta", "flag azzerati", "titolo Ordavia - MODELLO1.IMG"}), contorno_.Fatti);
+}
+
+TEST_F(ComandoApri, AsksForTheFileByTheTypesPattern) {
+  interlocutore_.Scegliera({});
+  comandi_.Apri(tre_);
+  AttendiRichiesta(RichiestaFile::Scopo::Apri, "Apri File Immagine", "FATT*.IMG", "");
+}
+
+TEST_F(ComandoApri, AsksForEveryTemplateWhenTheTypesTextIsNoPattern) {
+  for (const char* titolo : {"", "FATTURA", "   "}) {
+    interlocutore_.Richieste.clear();
+    tre_.Titolo = titolo;
+    interlocutore_.Scegliera({});
+    comandi_.Apri(tre_);
+    AttendiRichiesta(RichiestaFile::Scopo::Apri, "Apri File Immagine", "*.img", "");
+  }
+}
+
+TEST_F(ComandoApri, TakesATextWithOneOfThePatternCharactersForAPattern) {
+  for (const char* titolo : {"FATT*", "FATT?", "FATT.IMG"}) {
+    interlocutore_.Richieste.clear();
+    tre_.Titolo = titolo;
+    interlocutore_.Scegliera({});
+    comandi_.Apri(tre_);
+    AttendiRichiesta(RichiestaFile::Scopo::Apri, "Apri File Immagine", titolo, "");
+  }
+}
+
+TEST_F(ComandoApri, GivesThePatternAsUtf8) {
+  tre_.Titolo = "QUALIT\xC0*.IMG";
+  interlocutore_.Scegliera({});
+  comandi_.Apri(tre_);
+  AttendiRichiesta(RichiestaFile::Scopo::Apri, "Apri File Immagine", "QUALITÀ*.IMG", "");
+}
+
+TEST_F(ComandoApri, ForgetsTheFileNameAndNothingElseWhenTheChoiceIsGivenUp) {
+  documento_.NomeFile = "prima.img";
+  interlocutore_.Scegliera({});
+  comandi_.Apri(tre_);
+  EXPECT_EQ("", documento_.NomeFile);
+  EXPECT_EQ(Iniziali(), sezioni_.Testi);
+  EXPECT_EQ(Testi{}, contorno_.Fatti);
+}
+
+TEST_F(ComandoApri, StaysModifiedWhenTheChoiceIsGivenUp) {
+  documento_.Modificato = true;
+  interlocutore_.Rispondera(Risposta::No);
+  interlocutore_.Scegliera({});
+  comandi_.Apri(tre_);
+  EXPECT_TRUE(documento_.Modificato);
+}
+
+TEST_F(ComandoApri, AsksNothingAboutAnUnmodifiedTemplate) {
+  interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
+  comandi_.Apri(tre_);
+  AttendiMessaggi({});
+}
+
+TEST_F(ComandoApri, DoesNothingWhenTheQuestionIsCancelled) {
+  documento_.Modificato = true;
+  documento_.NomeFile = dirImg_ / "prima.img";
+  interlocutore_.Rispondera(Risposta::Annulla);
+  comandi_.Apri(tre_);
+  AttendiMessaggi({Domanda()});
+  EXPECT_EQ(dirImg_ / "prima.img", documento_.NomeFile);
+  EXPECT_TRUE(documento_.Modificato);
+  EXPECT_EQ(Iniziali(), sezioni_.Testi);
+  EXPECT_EQ(Testi{}, contorno_.Fatti);
+}
+
+TEST_F(ComandoApri, OpensWithoutSavingWhenTheAnswerIsNo) {
+  documento_.Modificato = true;
+  documento_.NomeFile = dirImg_ / "prima.img";
+  interlocutore_.Rispondera(Risposta::No);
+  interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
+  comandi_.Apri(tre_);
+  EXPECT_EQ(Testi{"MODELLO1.IMG"}, Nomi(dirImg_.Percorso()));
+  EXPECT_EQ(Aperti(), sezioni_.Testi);
+  EXPECT_FALSE(documento_.Modificato);
+}
+
+TEST_F(ComandoApri, SavesFirstWhenTheAnswerIsYes) {
+  documento_.Modificato = true;
+  documento_.NomeFile = dirImg_ / "prima.img";
+  interlocutore_.Rispondera(Risposta::Si);
+  interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
+  comandi_.Apri(tre_);
+  EXPECT_EQ(FileIniziale(), Contenuto(dirImg_ / "prima.img"));
+  EXPECT_EQ(Aperti(), sezioni_.Testi);
+  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.NomeFile);
+}
+
+TEST_F(ComandoApri, SavesANamelessTemplateUnderANameFirstWhenTheAnswerIsYes) {
+  documento_.Modificato = true;
+  interlocutore_.Rispondera(Risposta::Si);
+  interlocutore_.Scegliera(dirImg_ / "nuovo.img");
+  interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
+  comandi_.Apri(tre_);
+  EXPECT_EQ(FileIniziale(), Contenuto(dirImg_ / "nuovo.img"));
+  EXPECT_EQ(Aperti(), sezioni_.Testi);
+}
+
+TEST_F(ComandoApri, DoesNothingWhenTheAnswerWasYesAndSaveAsWasGivenUp) {
+  documento_.Modificato = true;
+  interlocutore_.Rispondera(Risposta::Si);
+  interlocutore_.Scegliera({});
+  comandi_.Apri(tre_);
+  EXPECT_EQ(1U, interlocutore_.Richieste.size());
+  EXPECT_TRUE(documento_.Modificato);
+  EXPECT_EQ(Iniziali(), sezioni_.Testi);
+}
+
+TEST_F(ComandoApri, DoesNothingWhenTheAnswerWasYesAndTheWriteFailed) {
+  documento_.Modificato = true;
+  documento_.NomeFile = FileImpossibile();
+  interlocutore_.Rispondera(Risposta::Si);
+  interlocutore_.Rispondera(Risposta::Ok);
+  comandi_.Apri(tre_);
+  AttendiMessaggi({Domanda(), Errore(NumeroErrore::PercorsoNonTrovato)});
+  EXPECT_EQ(FileImpossibile(), documento_.NomeFile);
+  EXPECT_TRUE(documento_.Modificato);
+}
+
+TEST_F(ComandoApri, GoesOnWhenTheAnswerWasYesAndThereIsNothingToSave) {
+  documento_.Modificato = true;
+  sezioni_.Testi = {"\r\n", "\r\n", "\r\n"};
+  interlocutore_.Rispondera(Risposta::Si);
+  interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
+  comandi_.Apri(tre_);
+  EXPECT_EQ(Aperti(), sezioni_.Testi);
+  EXPECT_FALSE(documento_.Modificato);
+}
+
+TEST_F(ComandoApri, IsSilentAboutAMissingFileWhoseNameItKeeps) {
+  documento_.Modificato = true;
+  interlocutore_.Rispondera(Risposta::No);
+  interlocutore_.Scegliera(dirImg_ / "MANCA001.IMG");
+  comandi_.Apri(tre_);
+  AttendiMessaggi({Domanda()});
+  EXPECT_EQ(dirImg_ / "MANCA001.IMG", documento_.NomeFile);
+  EXPECT_EQ(Iniziali(), sezioni_.Testi);
+  EXPECT_FALSE(documento_.Modificato);
+  EXPECT_EQ((Testi{"anteprima spenta", "flag azzerati", "titolo Ordavia - MANCA001.IMG"}), contorno_.Fatti);
+}
+
+TEST_F(ComandoApri, ShowsWhatCouldBeReadOfAFileThatEndsTooEarly) {
+  Crea(dirImg_ / "CORTO.IMG", "n\r\n" + Marcatore("7;5;") + "m\r\n");
+  interlocutore_.Scegliera(dirImg_ / "CORTO.IMG");
+  comandi_.Apri(tre_);
+  AttendiMessaggi({});
+  EXPECT_EQ((TestiSezioni{"n\r\n", "m\r\n", ""}), sezioni_.Testi);
+  EXPECT_EQ((ImpostazioniCorpo{7, 5, "", ""}), documento_.Corpo);
+}
+
+TEST_F(ComandoApri, LeavesThePrintFlagsAloneWhenTheTestataIsEmpty) {
+  sezioni_.Testi[0] = "";
+  interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
+  comandi_.Apri(tre_);
+  EXPECT_EQ((Testi{"anteprima spenta", "titolo Ordavia - MODELLO1.IMG"}), contorno_.Fatti);
+}
+
+TEST_F(ComandoApri, TouchesOnlyTheTestataUnderATypeOfOneSection) {
+  Crea(dirImg_ / "LISTINO1.IMG", "uno\r\n" + CodiceFile("V1") + "\r\n");
+  interlocutore_.Scegliera(dirImg_ / "LISTINO1.IMG");
+  comandi_.Apri(una_);
+  EXPECT_EQ((TestiSezioni{"uno\r\n" + Codice("V1") + "\r\n", "c\r\n", "p\r\n"}), sezioni_.Testi);
+  EXPECT_EQ(std::vector<Sezione>{Sezione::Testata}, sezioni_.Impostate);
+  EXPECT_EQ(ImpostazioniPredefinite(), documento_.Corpo);
+}
+
+TEST_F(ComandoApri, CompletesANameTypedWithoutItsExtension) {
+  Crea(dirImg_ / "uno.img", "uno\r\n");
+  interlocutore_.Scegliera(dirImg_ / "uno");
+  comandi_.Apri(una_);
+  EXPECT_EQ(dirImg_ / "uno.img", documento_.NomeFile);
+  EXPECT_EQ("uno\r\n", sezioni_.Testi[0]);
+}
+
+TEST_F(ComandoApri, FindsTheCompletedNameInAnyCase) {
+  interlocutore_.Scegliera(dirImg_ / "modello1");
+  comandi_.Apri(tre_);
+  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.NomeFile);
+  EXPECT_EQ(Aperti(), sezioni_.Testi);
+}
+
+TEST_F(ComandoApri, PrefersAFileThatBearsTheNameAsItWasTyped) {
+  Crea(dirImg_ / "uno", "senza\r\n");
+  Crea(dirImg_ / "uno.img", "con\r\n");
+  interlocutore_.Scegliera(dirImg_ / "uno");
+  comandi_.Apri(una_);
+  EXPECT_EQ(dirImg_ / "uno", documento_.NomeFile);
+  EXPECT_EQ("senza\r\n", sezioni_.Testi[0]);
+}
+
+TEST_F(ComandoApri, ShowsTheLastTwelveCharactersOfTheWholePath) {
+  Crea(dirImg_ / "x" / "à.img", "uno\r\n");
+  Crea(dirImg_ / "UN-NOME-LUNGO.IMG", "due\r\n");
+  interlocutore_.Scegliera(dirImg_ / "UN-NOME-LUNGO.IMG");
+  comandi_.Apri(una_);
+  EXPECT_EQ("titolo Ordavia - ME-LUNGO.IMG", contorno_.Fatti.back());
+
+  const std::string percorso = (dirImg_ / "x" / "à.img").string();
+  interlocutore_.Scegliera(percorso);
+  comandi_.Apri(una_);
+  EXPECT_EQ("titolo Ordavia - " + percorso.substr(percorso.size() - 13), contorno_.Fatti.back());
+}
+
+}  // namespace
+}  // namespace parvik::prova
