@@ -5,6 +5,8 @@
 #include "app/Avvio.h"
 #include "common/Delimitatori.h"
 #include "common/Windows1252.h"
+#include "template/RigheSezione.h"
+#include "tokens/DescriviCodice.h"
 
 namespace parvik {
 namespace {
@@ -25,6 +27,7 @@ Editore::Editore(Installazione installazione, Catalogo catalogo, Vista& vista, I
 void Editore::ScegliTipo(std::size_t slot) {
   tipoDocCorrente_ = slot;
   anteSpuntata_ = true;
+  tabelle_ = {};
   ApplicaTipoDoc();
   documento_.Modificato = false;
 }
@@ -42,14 +45,66 @@ void Editore::ApplicaTipoDoc() {
 }
 
 void Editore::CaricaFlagStampe() {
-  for (const NumeroErrore errore : flag_.Carica(catalogo_, Tipo())) {
-    if (errore == NumeroErrore::ArgomentoNonValido) {
-      interlocutore_.Chiedi({.Testo = MessaggioVersioneDiversa});
-      interlocutore_.Termina(UscitaPerErrore);
-    } else {
-      interlocutore_.Chiedi({.Testo = TestoErrore(errore)});
-    }
+  for (const NumeroErrore errore : flag_.Carica(catalogo_, Tipo())) SegnalaErroreCatalogo(errore);
+  vista_.RicaricaFlagStampe();
+}
+
+void Editore::SegnalaErroreCatalogo(NumeroErrore errore) {
+  if (errore == NumeroErrore::ArgomentoNonValido) {
+    interlocutore_.Chiedi({.Testo = MessaggioVersioneDiversa});
+    interlocutore_.Termina(UscitaPerErrore);
+  } else {
+    interlocutore_.Chiedi({.Testo = TestoErrore(errore)});
   }
+}
+
+std::vector<Variabile> Editore::VariabiliDaOffrire() {
+  Tabella<Variabile> tabella = catalogo_.CaricaVariabili(Tipo(), sezioneAttiva_);
+  if (tabella.Errore) SegnalaErroreCatalogo(*tabella.Errore);
+  tabella.Voci.pop_back();  // the empty slot
+  return std::move(tabella.Voci);
+}
+
+std::vector<parvik::Flag> Editore::FlagDaOffrire() {
+  Tabella<parvik::Flag> tabella = catalogo_.CaricaFlag(Tipo(), sezioneAttiva_);
+  if (tabella.Errore) SegnalaErroreCatalogo(*tabella.Errore);
+  if (!tabella.Errore) tabella.Voci.pop_back();  // the empty slot
+  return std::move(tabella.Voci);
+}
+
+std::string Editore::Descrivi(Sezione sezione, std::string_view contenuto) {
+  std::optional<TabelleSezione>& tabelle = tabelle_[Indice(sezione)];
+  if (!tabelle) {
+    // What the catalogue has wrong is told by the dialogs, not by a tooltip.
+    tabelle = TabelleSezione{.Variabili = catalogo_.LeggiVariabili(Tipo(), sezione).Voci,
+                             .Flag = catalogo_.CaricaFlag(Tipo(), sezione).Voci};
+  }
+  return DescriviCodice(contenuto, tabelle->Variabili, tabelle->Flag);
+}
+
+void Editore::InserisciCodice(std::string_view codice) {
+  documento_.Modificato = true;
+  vista_.InserisciCodice(sezioneAttiva_, codice);
+}
+
+std::optional<std::int16_t> Editore::ContaRigheCorpo() {
+  const Esito<ConteggioRighe> conteggio = ContaRigheSezione(vista_.Testo(Sezione::Corpo));
+  if (!conteggio) {
+    interlocutore_.Chiedi({.Testo = TestoErrore(conteggio.Errore())});
+    return std::nullopt;
+  }
+  if (conteggio->DaCompletare) vista_.CompletaUltimaRiga(Sezione::Corpo);
+  return conteggio->Righe;
+}
+
+void Editore::ImpostaCorpo(const ImpostazioniCorpo& corpo) {
+  if (corpo != documento_.Corpo) documento_.Modificato = true;  // the file would be another one
+  documento_.Corpo = corpo;
+}
+
+void Editore::CommutaSettaFlag() {
+  settaFlagSpuntata_ = !settaFlagSpuntata_;
+  vista_.Aggiorna();
 }
 
 void Editore::Nuovo() {
@@ -103,12 +158,15 @@ void Editore::SpegniAnteprima() {
 
 void Editore::AzzeraFlagStampe() {
   flag_.AzzeraTutti();
+  vista_.RicaricaFlagStampe();
 }
 
 void Editore::TornaSenzaTipo() {
   tipoDocCorrente_ = NessunTipo;
   titolo_ = TitoloSenzaTipo;
   flag_.Svuota();
+  settaFlagSpuntata_ = false;
+  vista_.RicaricaFlagStampe();
   vista_.Aggiorna();
 }
 

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "app/Installazione.h"
 #include "app/Menu.h"
@@ -24,6 +26,10 @@ class Vista : public Sezioni {
   /// The editor's state has changed: caption, menus, what is visible, layout.
   virtual void Aggiorna() = 0;
   virtual void MostraAnteprima(const Anteprima& anteprima) = 0;
+  /// Puts a finished code (bytes, with its delimiters) in place of the section's selection.
+  virtual void InserisciCodice(Sezione sezione, std::string_view codice) = 0;
+  /// The print flags were loaded anew, set to false or discarded.
+  virtual void RicaricaFlagStampe() = 0;
 };
 
 class Editore final : private Contorno {
@@ -45,6 +51,10 @@ class Editore final : private Contorno {
   const Installazione& Dove() const { return installazione_; }
   const Documento& Modello() const { return documento_; }
   FlagPerStampe& Flag() { return flag_; }
+  /// The check mark of the print-flags window.
+  bool SettaFlagSpuntata() const { return settaFlagSpuntata_; }
+  /// The section that last had the focus; the Testata before any had it.
+  Sezione SezioneAttiva() const { return sezioneAttiva_; }
 
   // --- what the user does
 
@@ -56,6 +66,27 @@ class Editore final : private Contorno {
   void SalvaConNome();
   /// The menu entry of the preview: turns it on, which renders, or off.
   void CommutaAnteprima();
+  /// The menu entry of the print-flags window, and that window's own close box.
+  void CommutaSettaFlag();
+  void AttivaSezione(Sezione sezione) { sezioneAttiva_ = sezione; }
+
+  /// The one routine through which every dialog inserts a finished code: at the caret of the active section,
+  /// in place of its selection. The template is modified by it, even if the code is empty.
+  void InserisciCodice(std::string_view codice);
+
+  /// The variables and flags that the active section offers to a dialog. Errors in the catalogue have been
+  /// shown.
+  std::vector<Variabile> VariabiliDaOffrire();
+  std::vector<parvik::Flag> FlagDaOffrire();
+
+  /// What a code of that section is, for a tooltip. UTF-8.
+  std::string Descrivi(Sezione sezione, std::string_view contenuto);
+
+  /// The lines of the Corpo, its last line completed; nullopt after a message when there are too many to
+  /// count.
+  std::optional<std::int16_t> ContaRigheCorpo();
+  void ImpostaCorpo(const ImpostazioniCorpo& corpo);
+
   /// Whether the window may close. Asks when the template is modified.
   bool PuoChiudere();
   /// A section was edited, or a key was pressed in it.
@@ -67,6 +98,7 @@ class Editore final : private Contorno {
   const TipoDoc& Tipo() const { return catalogo_.TipiDoc()[tipoDocCorrente_]; }
   void ApplicaTipoDoc();
   void CaricaFlagStampe();
+  void SegnalaErroreCatalogo(NumeroErrore errore);
   void Genera();
 
   void ImpostaTitolo(std::string titolo) override;
@@ -84,6 +116,14 @@ class Editore final : private Contorno {
   std::string titolo_;
   std::size_t tipoDocCorrente_ = NessunTipo;
   bool anteSpuntata_ = false;
+  bool settaFlagSpuntata_ = false;
+  Sezione sezioneAttiva_ = Sezione::Testata;
+  /// What Descrivi reads: loaded for one section of the current type when it is first asked for.
+  struct TabelleSezione {
+    std::vector<Variabile> Variabili;
+    std::vector<parvik::Flag> Flag;
+  };
+  std::array<std::optional<TabelleSezione>, MaxSezioni> tabelle_;
 };
 
 }  // namespace parvik

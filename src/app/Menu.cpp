@@ -36,7 +36,7 @@ constexpr std::array Voci = {
     VoceMenu{"mnuComando",    Voce,       "Co&mando corpo",          "",             TreSezioni, false},
     VoceMenu{"mnuOpzioni",    Menu,       "&Opzioni",                "",             Sempre,     false},
     VoceMenu{"mnuRighe",      Voce,       "Totali &righe",           "",             ConTipo,    false},
-    VoceMenu{"mnuSettaFlag",  Voce,       "&Setta Flag per stampe",  "",             ConTipo,    false},
+    VoceMenu{"mnuSettaFlag",  Voce,       "&Setta Flag per stampe",  "",             ConTipo,    true},
     VoceMenu{"mnuTool",       Menu,       "&Tools Comandi",          "",             ConTipo,    false},
 };
 // clang-format on

@@ -10,6 +10,7 @@
 #include "app/frmAbout.h"
 #include "catalogue/frmScelta.h"
 #include "common/frmTesto.h"
+#include "template/txtAccessibile.h"
 
 namespace parvik {
 namespace {
@@ -40,7 +41,8 @@ void Colloca(QWidget& controllo, const std::optional<Rettangolo>& posto) {
 }  // namespace
 
 frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
-    : editore_(std::move(dati.Dove), std::move(dati.Campi), *this, interlocutore) {
+    : editore_(std::move(dati.Dove), std::move(dati.Campi), *this, interlocutore),
+      maschere_(editore_, *this) {
   setObjectName("frmParvik");
   CreaControlli();
   CreaMenu();
@@ -50,19 +52,32 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
 }
 
 void frmParvik::CreaControlli() {
+  txtAccessibile::Registra();
   area_ = new QWidget(this);
   area_->installEventFilter(this);
   setCentralWidget(area_);
   for (const Sezione sezione : TutteLeSezioni) {
     CreaEtichetta(sezione);
-    auto* editor = new txtTCP(sezione, area_);
-    connect(editor, &txtTCP::Modificata, this, [this] { editore_.SegnaModificato(); });
-    connect(editor, &txtTCP::Attivata, this, &frmParvik::ColoraLabel);
-    sezioni_[Indice(sezione)] = editor;
+    CreaSezione(sezione);
   }
   lblRighe_ = new QLabel(area_);
   lblRighe_->setObjectName("lblRighe");
   anteprima_ = new ricAnte(area_);
+  connect(anteprima_, &ricAnte::CursoreMosso, this, &frmParvik::AggiornaRigaColonna);
+}
+
+void frmParvik::CreaSezione(Sezione sezione) {
+  auto* editor = new txtTCP(sezione, area_);
+  editor->ImpostaDescrizione(
+      [this, sezione](std::string_view contenuto) { return DaUtf8(editore_.Descrivi(sezione, contenuto)); });
+  connect(editor, &txtTCP::Modificata, this, [this] { editore_.SegnaModificato(); });
+  connect(editor, &txtTCP::Attivata, this, &frmParvik::AttivaSezione);
+  connect(editor, &txtTCP::CodiceDaAprire, this, [this, sezione](const std::string& contenuto) {
+    AttivaSezione(sezione);
+    maschere_.ApriMaschera(contenuto);
+  });
+  connect(editor, &txtTCP::VariabileDaInserire, this, [this] { maschere_.ApriForm(TipoCodice::Variabile); });
+  sezioni_[Indice(sezione)] = editor;
 }
 
 /// A narrow strip: a fixed-pitch font makes the spaced caption wrap after every letter.
@@ -110,6 +125,14 @@ void frmParvik::CollegaMenu() {
   collega("mnuInfo", [this] { MostraInformazioni(); });
   collega("mnuEsci", [this] { close(); });
   collega("mnuAnte", [this] { editore_.CommutaAnteprima(); });
+  collega("mnuVar", [this] { maschere_.ApriForm(TipoCodice::Variabile); });
+  collega("mnuFlag", [this] { maschere_.ApriForm(TipoCodice::Flag); });
+  collega("mnuStile", [this] { maschere_.ApriForm(TipoCodice::Stile); });
+  collega("mnuLingua", [this] { maschere_.ApriForm(TipoCodice::Lingua); });
+  collega("mnuPagina", [this] { maschere_.ApriForm(TipoCodice::Pagina); });
+  collega("mnuCostante", [this] { maschere_.ApriForm(TipoCodice::Costante); });
+  collega("mnuComando", [this] { maschere_.ApriComando(); });
+  collega("mnuSettaFlag", [this] { editore_.CommutaSettaFlag(); });
 }
 
 void frmParvik::ScegliTipo() {
@@ -120,7 +143,7 @@ void frmParvik::ScegliTipo() {
   const auto voce = scelta.Scelta();
   if (!voce) return;
   editore_.ScegliTipo(*voce);
-  ColoraLabel(Sezione::Testata);
+  AttivaSezione(Sezione::Testata);
   sezioni_[Indice(Sezione::Testata)]->setFocus();
 }
 
@@ -133,12 +156,40 @@ void frmParvik::Aggiorna() {
   setWindowTitle(DaUtf8(editore_.Titolo()).replace("[*]", "[*][*]"));
   AggiornaMenu();
   ResizeControls();
+  MostraFlagStampe();
+}
+
+void frmParvik::MostraFlagStampe() {
+  const bool visibile = editore_.SettaFlagSpuntata();
+  if (settaFlag_ == nullptr && !visibile) return;
+  if (settaFlag_ == nullptr) {
+    settaFlag_ = new frmSettaFlag(editore_.Flag(), this);
+    connect(settaFlag_, &frmSettaFlag::Nascosta, this, [this] {
+      if (editore_.SettaFlagSpuntata()) editore_.CommutaSettaFlag();
+    });
+  }
+  settaFlag_->setVisible(visibile);
+}
+
+void frmParvik::RicaricaFlagStampe() {
+  if (settaFlag_ != nullptr) settaFlag_->Ricarica();
+}
+
+void frmParvik::AttivaSezione(Sezione sezione) {
+  editore_.AttivaSezione(sezione);
+  ColoraLabel(sezione);
+}
+
+void frmParvik::AggiornaRigaColonna() {
+  const auto [riga, colonna] = anteprima_->RigaColonna();
+  lblRighe_->setText(QStringLiteral("Riga: %1 Col.: %2").arg(riga).arg(colonna));
 }
 
 void frmParvik::AggiornaMenu() {
   for (const VoceMenu& voce : VociMenu())
     azioni_.value(voce.Nome)->setEnabled(Abilitata(voce, editore_.PerMenu()));
   azioni_.value("mnuAnte")->setChecked(editore_.AnteSpuntata());
+  azioni_.value("mnuSettaFlag")->setChecked(editore_.SettaFlagSpuntata());
 }
 
 void frmParvik::ResizeControls() {
@@ -183,6 +234,10 @@ void frmParvik::CompletaUltimaRiga(Sezione sezione) {
 
 void frmParvik::MostraAnteprima(const Anteprima& anteprima) {
   anteprima_->Mostra(anteprima);
+}
+
+void frmParvik::InserisciCodice(Sezione sezione, std::string_view codice) {
+  sezioni_[Indice(sezione)]->InserisciCodice(codice);
 }
 
 void frmParvik::closeEvent(QCloseEvent* evento) {

@@ -10,9 +10,10 @@
 
 #include "app/Avvio.h"
 #include "app/Editore.h"
-#include "common/frmDialoghi.h"
+#include "app/frmMaschere.h"
 #include "output/ricAnte.h"
 #include "template/txtTCP.h"
+#include "tokens/frmSettaFlag.h"
 
 namespace parvik {
 
@@ -34,9 +35,12 @@ class frmParvik final : public QMainWindow, private Vista {
   void CompletaUltimaRiga(Sezione sezione) override;
   void Aggiorna() override;
   void MostraAnteprima(const Anteprima& anteprima) override;
+  void InserisciCodice(Sezione sezione, std::string_view codice) override;
+  void RicaricaFlagStampe() override;
 
   void CreaControlli();
   void CreaEtichetta(Sezione sezione);
+  void CreaSezione(Sezione sezione);
   void CreaMenu();
   void CollegaMenu();
   void AggiornaMenu();
@@ -45,6 +49,9 @@ class frmParvik final : public QMainWindow, private Vista {
 
   void ScegliTipo();
   void MostraInformazioni();
+  void MostraFlagStampe();
+  void AttivaSezione(Sezione sezione);
+  void AggiornaRigaColonna();
 
   QWidget* area_ = nullptr;
   std::array<txtTCP*, MaxSezioni> sezioni_ = {};
@@ -52,7 +59,9 @@ class frmParvik final : public QMainWindow, private Vista {
   QLabel* lblRighe_ = nullptr;
   ricAnte* anteprima_ = nullptr;
   QHash<QString, QAction*> azioni_;
+  frmSettaFlag* settaFlag_ = nullptr;  // made when it is first shown
   Editore editore_;
+  frmMaschere maschere_;
 };
 
 }  // namespace parvik

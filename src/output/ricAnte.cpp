@@ -1,6 +1,7 @@
 #include "output/ricAnte.h"
 
 #include <QFont>
+#include <QKeyEvent>
 #include <QPlainTextDocumentLayout>
 #include <QTextCharFormat>
 #include <QTextCursor>
@@ -56,6 +57,25 @@ void ricAnte::Mostra(const Anteprima& anteprima) {
   documento->setParent(this);  // from now on the pane's own: the one it replaces is deleted with it
   setDocument(documento.release());
   moveCursor(QTextCursor::Start);
+}
+
+ricAnte::Posto ricAnte::RigaColonna() const {
+  QTextCursor cursore(document());
+  cursore.setPosition(textCursor().selectionStart());
+  return {.Riga = cursore.blockNumber() + 1, .Colonna = cursore.positionInBlock() + 1};
+}
+
+void ricAnte::keyReleaseEvent(QKeyEvent* evento) {
+  QPlainTextEdit::keyReleaseEvent(evento);
+  const int tasto = evento->key();
+  if (tasto == Qt::Key_Left || tasto == Qt::Key_Up || tasto == Qt::Key_Right || tasto == Qt::Key_Down) {
+    emit CursoreMosso();
+  }
+}
+
+void ricAnte::mouseReleaseEvent(QMouseEvent* evento) {
+  QPlainTextEdit::mouseReleaseEvent(evento);
+  emit CursoreMosso();
 }
 
 }  // namespace parvik

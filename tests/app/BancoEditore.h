@@ -23,9 +23,14 @@ class VistaFinta final : public Vista {
   void CompletaUltimaRiga(Sezione sezione) override { Testi[Indice(sezione)] += "\r\n"; }
   void Aggiorna() override { ++Aggiornamenti; }
   void MostraAnteprima(const Anteprima& anteprima) override { Anteprime.push_back(anteprima.Testo); }
+  void InserisciCodice(Sezione sezione, std::string_view codice) override {
+    Testi[Indice(sezione)] += codice;
+  }
+  void RicaricaFlagStampe() override { ++RicaricheFlag; }
 
   TestiSezioni Testi = {"mai scelto", "mai scelto", "mai scelto"};
   int Aggiornamenti = 0;
+  int RicaricheFlag = 0;
   std::vector<std::string> Anteprime;
 };
 

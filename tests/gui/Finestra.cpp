@@ -14,6 +14,7 @@ void NelProssimoDialogo(const std::function<void(QDialog&)>& compito) {
   QObject::connect(orologio, &QTimer::timeout, orologio, [orologio, compito] {
     auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialogo == nullptr || !dialogo->isVisible()) return;
+    if (!dialogo->isActiveWindow()) return dialogo->activateWindow();  // a window manager's work
     orologio->stop();
     orologio->deleteLater();
     compito(*dialogo);

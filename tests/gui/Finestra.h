@@ -52,10 +52,10 @@ class Finestra {
   /// Opens a template of the installation through the menu.
   void Apri(const char* nome);
 
- private:
   /// What a window manager does when a dialog has closed.
   void Attiva();
 
+ private:
   CartellaTemporanea cartella_;
   InterlocutoreScritto persona_;
   std::unique_ptr<frmParvik> finestra_;

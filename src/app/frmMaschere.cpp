@@ -1,0 +1,63 @@
+#include "app/frmMaschere.h"
+
+#include "tokens/frmComando.h"
+#include "tokens/frmCostante.h"
+#include "tokens/frmFlag.h"
+#include "tokens/frmLingua.h"
+#include "tokens/frmPagina.h"
+#include "tokens/frmStile.h"
+#include "tokens/frmVar.h"
+
+namespace parvik {
+
+void frmMaschere::ApriForm(TipoCodice genere) {
+  if (const auto maschera = Crea(genere)) Esegui(*maschera);
+}
+
+void frmMaschere::ApriMaschera(const std::string& contenuto) {
+  const auto maschera = Crea(Riconosci(contenuto));
+  if (!maschera) return;
+  maschera->Mostra(contenuto);
+  Esegui(*maschera);
+}
+
+void frmMaschere::ApriComando() {
+  const std::optional<std::int16_t> linee = editore_.ContaRigheCorpo();
+  if (!linee) return;
+  frmComando comando(editore_.Modello().Corpo, *linee, &finestra_);
+  if (comando.exec() == QDialog::Accepted) editore_.ImpostaCorpo(comando.Scelte());
+}
+
+std::unique_ptr<frmCodice> frmMaschere::Crea(TipoCodice genere) {
+  switch (genere) {
+    case TipoCodice::Variabile:
+      return std::make_unique<frmVar>(
+          editore_.VariabiliDaOffrire(), [this](QWidget* padre) { return ChiediFlag(padre); }, &finestra_);
+    case TipoCodice::Flag:
+      return std::make_unique<frmFlag>(editore_.FlagDaOffrire(), &finestra_);
+    case TipoCodice::Stile:
+      return std::make_unique<frmStile>(&finestra_);
+    case TipoCodice::Lingua:
+      return std::make_unique<frmLingua>(&finestra_);
+    case TipoCodice::Pagina:
+      return std::make_unique<frmPagina>(&finestra_);
+    case TipoCodice::Costante:
+      return std::make_unique<frmCostante>(&finestra_);
+    default:
+      return nullptr;
+  }
+}
+
+void frmMaschere::Esegui(frmCodice& maschera) {
+  maschera.exec();
+  for (const std::string& codice : maschera.Codici()) editore_.InserisciCodice(codice);
+}
+
+std::string frmMaschere::ChiediFlag(QWidget* padre) {
+  frmFlag maschera(editore_.FlagDaOffrire(), padre);
+  maschera.exec();
+  const std::vector<std::string> codici = maschera.Codici();
+  return codici.empty() ? std::string() : codici.front();
+}
+
+}  // namespace parvik

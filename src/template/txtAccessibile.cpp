@@ -1,0 +1,153 @@
+#include "template/txtAccessibile.h"
+
+#include <QTextBlock>
+#include <algorithm>
+
+#include "template/txtTCP.h"
+
+namespace parvik {
+namespace {
+
+QAccessibleInterface* Crea(const QString& classe, QObject* oggetto) {
+  auto* editor = qobject_cast<txtTCP*>(oggetto);
+  const bool nostra = editor != nullptr && classe == txtTCP::staticMetaObject.className();
+  return nostra ? new txtAccessibile(*editor) : nullptr;  // the toolkit owns it
+}
+
+}  // namespace
+
+txtAccessibile::txtAccessibile(txtTCP& editor) : QAccessibleWidget(&editor, QAccessible::EditableText) {}
+
+void txtAccessibile::Registra() {
+  QAccessible::installFactory(Crea);
+}
+
+txtTCP& txtAccessibile::Editor() const {
+  return *static_cast<txtTCP*>(widget());
+}
+
+QString txtAccessibile::Testo() const {
+  return Editor().document()->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+}
+
+void* txtAccessibile::interface_cast(QAccessible::InterfaceType tipo) {
+  if (tipo == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
+  if (tipo == QAccessible::EditableTextInterface) return static_cast<QAccessibleEditableTextInterface*>(this);
+  return QAccessibleWidget::interface_cast(tipo);
+}
+
+QAccessible::State txtAccessibile::state() const {
+  QAccessible::State stato = QAccessibleWidget::state();
+  stato.editable = true;
+  stato.multiLine = true;
+  stato.selectableText = true;
+  return stato;
+}
+
+QString txtAccessibile::text(QAccessible::Text cosa) const {
+  return cosa == QAccessible::Value ? Testo() : QAccessibleWidget::text(cosa);
+}
+
+void txtAccessibile::selection(int indice, int* inizio, int* fine) const {
+  const QTextCursor cursore = Editor().textCursor();
+  const bool presente = indice == 0 && cursore.hasSelection();
+  *inizio = presente ? cursore.selectionStart() : 0;
+  *fine = presente ? cursore.selectionEnd() : 0;
+}
+
+int txtAccessibile::selectionCount() const {
+  return Editor().textCursor().hasSelection() ? 1 : 0;
+}
+
+void txtAccessibile::addSelection(int inizio, int fine) {
+  setSelection(0, inizio, fine);
+}
+
+void txtAccessibile::removeSelection(int indice) {
+  if (indice == 0) Seleziona(cursorPosition(), cursorPosition());
+}
+
+void txtAccessibile::setSelection(int indice, int inizio, int fine) {
+  if (indice == 0) Seleziona(inizio, fine);
+}
+
+void txtAccessibile::Seleziona(int inizio, int fine) {
+  const int ultimo = characterCount();
+  QTextCursor cursore(Editor().document());
+  cursore.setPosition(std::clamp(inizio, 0, ultimo));
+  cursore.setPosition(std::clamp(fine, 0, ultimo), QTextCursor::KeepAnchor);
+  Editor().setTextCursor(cursore);
+}
+
+int txtAccessibile::cursorPosition() const {
+  return Editor().textCursor().position();
+}
+
+void txtAccessibile::setCursorPosition(int posizione) {
+  Seleziona(posizione, posizione);
+}
+
+QString txtAccessibile::text(int inizio, int fine) const {
+  const int ultimo = fine < 0 ? characterCount() : fine;
+  return Testo().mid(inizio, std::max(0, ultimo - inizio));
+}
+
+int txtAccessibile::characterCount() const {
+  return Editor().document()->characterCount() - 1;
+}
+
+QRect txtAccessibile::characterRect(int posizione) const {
+  QTextCursor cursore(Editor().document());
+  cursore.setPosition(std::clamp(posizione, 0, characterCount()));
+  QRect rettangolo = Editor().cursorRect(cursore);
+  rettangolo.setWidth(Editor().fontMetrics().horizontalAdvance(u'M'));  // one width for all
+  return {Editor().viewport()->mapToGlobal(rettangolo.topLeft()), rettangolo.size()};
+}
+
+int txtAccessibile::offsetAtPoint(const QPoint& punto) const {
+  return Editor().cursorForPosition(Editor().viewport()->mapFromGlobal(punto)).position();
+}
+
+void txtAccessibile::scrollToSubstring(int inizio, int fine) {
+  Seleziona(inizio, fine);
+  Editor().ensureCursorVisible();
+}
+
+QString txtAccessibile::attributes(int posizione, int* inizio, int* fine) const {
+  // One look for the whole text: the colours of codes are decoration.
+  const bool dentro = posizione >= 0 && posizione <= characterCount();
+  *inizio = dentro ? 0 : -1;
+  *fine = dentro ? characterCount() : -1;
+  return {};
+}
+
+void txtAccessibile::deleteText(int inizio, int fine) {
+  Seleziona(inizio, fine);
+  Editor().CancellaSelezione();
+}
+
+void txtAccessibile::insertText(int posizione, const QString& testo) {
+  setCursorPosition(posizione);
+  Inserisci(testo);
+}
+
+void txtAccessibile::replaceText(int inizio, int fine, const QString& testo) {
+  Seleziona(inizio, fine);
+  const int prima = characterCount();
+  Editor().CancellaSelezione();
+  const bool cancellata = inizio == fine || characterCount() < prima;
+  if (cancellata) Inserisci(testo);
+}
+
+/// A text with line ends or whole codes in it was not typed.
+void txtAccessibile::Inserisci(const QString& testo) {
+  const bool incollato = std::ranges::any_of(
+      testo, [](QChar c) { return c == u'\u00AB' || c == u'\u00BB' || c == u'\n' || c == u'\r'; });
+  if (incollato) {
+    Editor().Incolla(testo);
+  } else {
+    Editor().Scrivi(testo);
+  }
+}
+
+}  // namespace parvik

@@ -1,0 +1,36 @@
+#include "tokens/frmCostante.h"
+
+#include <QFontDatabase>
+
+#include "common/frmCampi.h"
+#include "common/frmTesto.h"
+#include "tokens/CodiceCostante.h"
+#include "ui_frmCostante.h"
+
+namespace parvik {
+
+frmCostante::frmCostante(QWidget* padre) : frmCodice(padre), ui_(std::make_unique<Ui::frmCostante>()) {
+  ui_->setupUi(this);
+  SelezionaTuttoAlFuoco(*ui_->txtDescri);
+  connect(ui_->txtDescri, &QLineEdit::textChanged, this, &frmCostante::RicostruisciCodice);
+  ui_->txtCost->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  connect(ui_->cmdOk, &QPushButton::clicked, this, &QDialog::accept);
+  connect(ui_->cmdCanc, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+frmCostante::~frmCostante() = default;
+
+void frmCostante::Mostra(std::string_view contenuto) {
+  ui_->txtDescri->setText(PerSchermo(LeggiCostante(contenuto)));
+}
+
+std::vector<std::string> frmCostante::Codici() const {
+  if (result() != Accepted) return {};
+  return {DaSchermo(ui_->txtCost->text())};
+}
+
+void frmCostante::RicostruisciCodice() {
+  ui_->txtCost->setText(PerSchermo(CostruisciCostante(DaSchermo(ui_->txtDescri->text()))));
+}
+
+}  // namespace parvik

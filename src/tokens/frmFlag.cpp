@@ -1,0 +1,97 @@
+#include "tokens/frmFlag.h"
+
+#include <QEvent>
+#include <QFontDatabase>
+#include <QSignalBlocker>
+#include <algorithm>
+
+#include "common/NumeroLeniente.h"
+#include "common/frmTesto.h"
+#include "tokens/CodiceFlag.h"
+#include "ui_frmFlag.h"
+
+namespace parvik {
+namespace {
+
+std::string CodiceDi(const Flag& flag) {
+  return CostruisciFlag({.Numero = std::to_string(flag.Codice), .Interruttore = flag.Valore});
+}
+
+/// Nobody can edit a disabled box, but everybody should be able to read the code in it.
+void RendiLeggibile(QLineEdit& casella, const QPalette& tavolozza) {
+  QPalette leggibile = casella.palette();
+  leggibile.setBrush(QPalette::Disabled, QPalette::Text,
+                     tavolozza.brush(QPalette::Active, QPalette::WindowText));
+  casella.setPalette(leggibile);
+}
+
+}  // namespace
+
+frmFlag::frmFlag(std::vector<Flag> flag, QWidget* padre)
+    : frmCodice(padre), ui_(std::make_unique<Ui::frmFlag>()), flag_(std::move(flag)) {
+  ui_->setupUi(this);
+  ui_->txtFlag->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  RendiLeggibile(*ui_->txtFlag, palette());
+  for (const Flag& voce : flag_) ui_->lstFlag->addItem(PerSchermo(voce.Descrizione));
+  connect(ui_->lstFlag, &QListWidget::currentRowChanged, this, &frmFlag::CaricaVoce);
+  connect(ui_->chkSost, &QCheckBox::toggled, this, &frmFlag::CambiaInterruttore);
+  connect(ui_->cmdOk, &QPushButton::clicked, this, &QDialog::accept);
+  connect(ui_->cmdCanc, &QPushButton::clicked, this, &QDialog::reject);
+  ui_->lstFlag->setCurrentRow(0);
+}
+
+frmFlag::~frmFlag() = default;
+
+void frmFlag::Mostra(std::string_view contenuto) {
+  if (flag_.empty()) return;
+  const CodiceFlag codice = LeggiFlag(contenuto);
+  const std::size_t voce = VoceDi(codice.Numero);
+  flag_[voce].Valore = codice.Interruttore;
+  ui_->lstFlag->setCurrentRow(static_cast<int>(voce));
+  CaricaVoce();  // the entry may have been the selected one
+}
+
+/// Numbers are compared as numbers: one of any size is no other entry's.
+std::size_t frmFlag::VoceDi(std::string_view numero) const {
+  const auto voce = std::ranges::find(flag_, NumeroLeniente(numero), &Flag::Codice);
+  return voce == flag_.end() ? 0 : static_cast<std::size_t>(voce - flag_.begin());
+}
+
+std::vector<std::string> frmFlag::Codici() const {
+  const auto voce = VoceSelezionata();
+  if (result() != Accepted || !voce || flag_[*voce].Descrizione.empty()) return {};
+  return {CodiceDi(flag_[*voce])};
+}
+
+std::optional<std::size_t> frmFlag::VoceSelezionata() const {
+  const int riga = ui_->lstFlag->currentRow();
+  if (riga < 0) return std::nullopt;
+  return static_cast<std::size_t>(riga);
+}
+
+void frmFlag::CaricaVoce() {
+  const auto voce = VoceSelezionata();
+  if (!voce) return;
+  const QSignalBlocker muto(ui_->chkSost);  // showing a switch does not choose one
+  ui_->chkSost->setChecked(flag_[*voce].Valore != "N");
+  MostraCodice(flag_[*voce]);
+}
+
+void frmFlag::CambiaInterruttore() {
+  const auto voce = VoceSelezionata();
+  if (!voce) return;
+  flag_[*voce].Valore = ui_->chkSost->isChecked() ? "S" : "N";
+  MostraCodice(flag_[*voce]);
+}
+
+void frmFlag::MostraCodice(const Flag& flag) {
+  ui_->txtFlag->setText(PerSchermo(CodiceDi(flag)));
+  ui_->txtFlag->setCursorPosition(0);
+}
+
+void frmFlag::changeEvent(QEvent* evento) {
+  frmCodice::changeEvent(evento);
+  if (evento->type() == QEvent::PaletteChange) RendiLeggibile(*ui_->txtFlag, palette());
+}
+
+}  // namespace parvik

@@ -1,0 +1,214 @@
+// The main window around the code dialogs: print flags, caret status, tooltips, assistive technologies.
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QRadioButton>
+#include <QTest>
+#include <QToolTip>
+
+#include "Finestra.h"
+#include "common/frmTesto.h"
+#include "tokens/frmSettaFlag.h"
+
+namespace parvik {
+namespace {
+
+using prova::Finestra;
+using prova::Trova;
+
+frmSettaFlag& FlagPerStampe(Finestra& finestra) {
+  return *Trova<frmSettaFlag>(*finestra, "frmSettaFlag");
+}
+
+void ImpostaTesto(QPlainTextEdit& editor, const char* utf8) {
+  editor.setPlainText(QString::fromUtf8(utf8));
+}
+
+TEST(FinestraFlag, TheMenuEntryShowsAndHidesTheWindow) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  finestra.Azione("mnuSettaFlag").trigger();
+  EXPECT_TRUE(FlagPerStampe(finestra).isVisible());
+  EXPECT_FALSE(FlagPerStampe(finestra).isModal());
+  EXPECT_TRUE(finestra.Azione("mnuSettaFlag").isChecked());
+  finestra.Azione("mnuSettaFlag").trigger();
+  EXPECT_FALSE(FlagPerStampe(finestra).isVisible());
+  EXPECT_FALSE(finestra.Azione("mnuSettaFlag").isChecked());
+}
+
+TEST(FinestraFlag, TheCloseBoxHidesTheWindowAndUnchecksTheEntry) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  finestra.Azione("mnuSettaFlag").trigger();
+  FlagPerStampe(finestra).close();
+  EXPECT_FALSE(FlagPerStampe(finestra).isVisible());
+  EXPECT_FALSE(finestra.Azione("mnuSettaFlag").isChecked());
+}
+
+TEST(FinestraFlag, AFlagThatIsSetShowsItsCodeInThePreview) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  ImpostaTesto(finestra.Sezione(0), "«F1N»«V0;\"estero\"»\n");
+  finestra.Azione("mnuSettaFlag").trigger();
+  auto* lista = Trova<QListWidget>(FlagPerStampe(finestra), "lstFlag");
+  lista->item(0)->setSelected(true);
+  QTest::mouseClick(Trova<QRadioButton>(FlagPerStampe(finestra), "optVEFA_0"), Qt::LeftButton);
+  finestra.Azione("mnuSettaFlag").trigger();
+  finestra.Azione("mnuAnte").trigger();
+  finestra.Azione("mnuAnte").trigger();
+  EXPECT_TRUE(finestra.Anteprima().toPlainText().startsWith("estero\n"));
+}
+
+TEST(FinestraFlag, OpeningAFileSetsEveryRowToFalse) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  finestra.Azione("mnuSettaFlag").trigger();
+  auto* lista = Trova<QListWidget>(FlagPerStampe(finestra), "lstFlag");
+  lista->selectAll();
+  QTest::mouseClick(Trova<QRadioButton>(FlagPerStampe(finestra), "optVEFA_0"), Qt::LeftButton);
+  EXPECT_TRUE(lista->item(3)->text().endsWith('V'));
+  finestra.Apri("FATT01.IMG");
+  for (int i = 0; i < lista->count(); ++i) EXPECT_TRUE(lista->item(i)->text().endsWith('F')) << i;
+}
+
+TEST(FinestraFlag, NewHidesTheWindowAndAnotherTypeBringsItsOwnRows) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  finestra.Azione("mnuSettaFlag").trigger();
+  const int fattura = Trova<QListWidget>(FlagPerStampe(finestra), "lstFlag")->count();
+  finestra.Azione("mnuNuovo").trigger();
+  EXPECT_FALSE(FlagPerStampe(finestra).isVisible());
+  EXPECT_FALSE(finestra.Azione("mnuSettaFlag").isChecked());
+  finestra.Scegli(12);
+  EXPECT_EQ(Trova<QListWidget>(FlagPerStampe(finestra), "lstFlag")->count(), 4 + 3);
+  EXPECT_NE(fattura, 4 + 3);
+}
+
+TEST(FinestraStato, ArrowKeysAndClicksInThePreviewShowLineAndColumn) {
+  Finestra finestra;
+  finestra.Scegli(12);
+  ImpostaTesto(finestra.Sezione(0), "ab\ncd\n");
+  finestra.Azione("mnuAnte").trigger();
+  finestra.Azione("mnuAnte").trigger();
+  const auto* stato = Trova<QLabel>(*finestra, "lblRighe");
+  QPlainTextEdit& anteprima = finestra.Anteprima();
+  QTest::keyClick(&anteprima, Qt::Key_Up);
+  EXPECT_EQ(stato->text(), "Riga: 1 Col.: 1");
+  QTest::keyClick(&anteprima, Qt::Key_Down);
+  QTest::keyClick(&anteprima, Qt::Key_Right);
+  EXPECT_EQ(stato->text(), "Riga: 2 Col.: 2");
+  QTest::keyClick(&anteprima, Qt::Key_End);
+  EXPECT_EQ(stato->text(), "Riga: 2 Col.: 2") << "other keys leave it as it is";
+  QTest::mouseClick(anteprima.viewport(), Qt::LeftButton, {},
+                    anteprima.cursorRect().topLeft() + QPoint(0, 3));
+  EXPECT_EQ(stato->text(), "Riga: 2 Col.: 3");
+}
+
+TEST(FinestraStato, LabelsKeepTheirColoursWhileADialogHasTheFocus) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  finestra.Sezione(1).setFocus();
+  const auto rossa = [&finestra](const char* nome) {
+    return Trova<QLabel>(*finestra, nome)->palette().color(QPalette::WindowText) == QColor(255, 0, 0);
+  };
+  prova::NelProssimoDialogo([&rossa](QDialog& dialogo) {
+    EXPECT_TRUE(rossa("lblTCP_1"));
+    EXPECT_FALSE(rossa("lblTCP_0"));
+    dialogo.reject();
+  });
+  finestra.Azione("mnuPagina").trigger();
+  EXPECT_TRUE(rossa("lblTCP_1"));
+}
+
+TEST(FinestraCodici, TheDialogOffersTheVariablesOfTheActiveSection) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  finestra.Sezione(2).setFocus();
+  QString prima;
+  prova::NelProssimoDialogo([&prima](QDialog& dialogo) {
+    prima = Trova<QListWidget>(dialogo, "lstVar")->item(0)->text();
+    dialogo.reject();
+  });
+  finestra.Azione("mnuVar").trigger();
+  EXPECT_EQ(prima, "Totale merce");
+}
+
+TEST(FinestraCodici, TheMouseOverACodeTellsWhatItIs) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  QPlainTextEdit& piede = finestra.Sezione(2);
+  ImpostaTesto(piede, "«V201;15R;.0,2;1» «V9;1L»");
+  const auto descrizione = [&piede](int posizione) {
+    QTextCursor cursore(piede.document());
+    cursore.setPosition(posizione);
+    const QPoint punto = piede.cursorRect(cursore).center() + QPoint(3, 0);
+    QHelpEvent evento(QEvent::ToolTip, punto, piede.viewport()->mapToGlobal(punto));
+    QApplication::sendEvent(piede.viewport(), &evento);
+    return QToolTip::text();
+  };
+  EXPECT_TRUE(
+      descrizione(3).startsWith(QString::fromUtf8("Variabile 201 · Totale merce · 15 caratteri a destra")))
+      << descrizione(3).toStdString();
+  EXPECT_TRUE(descrizione(20).startsWith(QString::fromUtf8("Variabile 9 · sconosciuta")))
+      << descrizione(20).toStdString();
+}
+
+class FinestraAssistiva : public testing::Test {
+ protected:
+  FinestraAssistiva() {
+    finestra_.Scegli(12);
+    interfaccia_ = QAccessible::queryAccessibleInterface(&finestra_.Sezione(0));
+  }
+  std::string Testo() { return DaSchermo(finestra_.Sezione(0).toPlainText()); }
+
+  Finestra finestra_;
+  QAccessibleInterface* interfaccia_ = nullptr;
+};
+
+TEST_F(FinestraAssistiva, ReadsTheSectionAsAnEditableText) {
+  ImpostaTesto(finestra_.Sezione(0), "ab\n«V1»");
+  ASSERT_NE(interfaccia_, nullptr);
+  EXPECT_EQ(interfaccia_->role(), QAccessible::EditableText);
+  EXPECT_EQ(interfaccia_->text(QAccessible::Name), "Testata");
+  EXPECT_EQ(interfaccia_->text(QAccessible::Value), QString::fromUtf8("ab\n«V1»"));
+  EXPECT_EQ(interfaccia_->textInterface()->text(0, 3), "ab\n");
+  EXPECT_EQ(interfaccia_->textInterface()->characterCount(), 7);
+  EXPECT_TRUE(interfaccia_->state().editable);
+}
+
+TEST_F(FinestraAssistiva, InsertedTextIsTypedFullStopsAreNot) {
+  ImpostaTesto(finestra_.Sezione(0), "ab");
+  interfaccia_->editableTextInterface()->insertText(1, "x.y");
+  EXPECT_EQ(Testo(), "axyb");
+}
+
+TEST_F(FinestraAssistiva, DeletingCannotCutACodeInHalf) {
+  ImpostaTesto(finestra_.Sezione(0), "ab«V1;2L»c");
+  interfaccia_->editableTextInterface()->deleteText(0, 4);
+  EXPECT_EQ(Testo(),
+            "ab\xAB"
+            "V1;2L\xBB"
+            "c");
+  interfaccia_->editableTextInterface()->deleteText(0, 9);
+  EXPECT_EQ(Testo(), "c");
+}
+
+TEST_F(FinestraAssistiva, AWholeTextWithCodesIsReplacedAtOnce) {
+  ImpostaTesto(finestra_.Sezione(0), "ab");
+  interfaccia_->editableTextInterface()->replaceText(0, 2, QString::fromUtf8("«V8;9R;.0;0»\nfine."));
+  EXPECT_EQ(Testo(),
+            "\xAB"
+            "V8;9R;.0;0\xBB\r\nfine.");
+}
+
+TEST_F(FinestraAssistiva, AnEditMakesTheTemplateModified) {
+  interfaccia_->editableTextInterface()->insertText(0, "x");
+  finestra_.Persona().Rispondera(Risposta::Annulla);
+  EXPECT_FALSE(finestra_->close());
+}
+
+}  // namespace
+}  // namespace parvik

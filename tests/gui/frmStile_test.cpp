@@ -1,0 +1,197 @@
+#include "tokens/frmStile.h"
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTest>
+
+#include "Finestra.h"
+
+namespace parvik {
+namespace {
+
+using prova::Trova;
+using Codici = std::vector<std::string>;
+
+std::string FraDelimitatori(const std::string& contenuto) {
+  return '\xAB' + contenuto + '\xBB';
+}
+
+constexpr int NumeroStili = 5;
+
+QRadioButton* Opzione(const frmStile& dialogo, int indice) {
+  return Trova<QRadioButton>(dialogo, qPrintable(QStringLiteral("optStile_%1").arg(indice)));
+}
+
+/// The option that is selected; -1 when none is.
+int Scelta(const frmStile& dialogo) {
+  for (int i = 0; i < NumeroStili; ++i) {
+    if (Opzione(dialogo, i)->isChecked()) return i;
+  }
+  return -1;
+}
+
+QString Codice(const frmStile& dialogo) {
+  return Trova<QLineEdit>(dialogo, "txtStile")->text();
+}
+
+void Apri(frmStile& dialogo) {
+  dialogo.show();
+  dialogo.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialogo));
+}
+
+void Conferma(frmStile& dialogo) {
+  QTest::mouseClick(Trova<QPushButton>(dialogo, "cmdOk"), Qt::LeftButton);
+  EXPECT_FALSE(dialogo.isVisible());
+}
+
+TEST(FrmStile, CaptionsAreThoseOfTheStyles) {
+  const frmStile dialogo(nullptr);
+  QStringList didascalie = {dialogo.windowTitle(), Trova<QGroupBox>(dialogo, "fraStili")->title()};
+  for (int i = 0; i < NumeroStili; ++i) didascalie += Opzione(dialogo, i)->text();
+  for (const char* nome : {"cmdOk", "cmdCanc"}) didascalie += Trova<QPushButton>(dialogo, nome)->text();
+  EXPECT_EQ(didascalie, QStringList({"Stile carattere", "Stili", "Normale", "Grassetto", "Compresso",
+                                     "Corsivo o Italico", "Sottolineato", "OK", "Cancel"}));
+}
+
+TEST(FrmStile, TheCodeBoxIsDisabledAndHasAName) {
+  const frmStile dialogo(nullptr);
+  auto* casella = Trova<QLineEdit>(dialogo, "txtStile");
+  EXPECT_FALSE(casella->isEnabled());
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(casella)->text(QAccessible::Name), "Codice dello stile");
+}
+
+TEST(FrmStile, OpenedFromTheMenuNothingIsChosen) {
+  frmStile dialogo(nullptr);
+  Apri(dialogo);
+  EXPECT_EQ(Scelta(dialogo), -1);
+  EXPECT_EQ(Codice(dialogo), "");
+  EXPECT_TRUE(Trova<QPushButton>(dialogo, "cmdOk")->hasFocus());
+}
+
+TEST(FrmStile, OkWithoutAChoiceInsertsTheEmptyText) {
+  frmStile dialogo(nullptr);
+  Apri(dialogo);
+  QTest::keyClick(&dialogo, Qt::Key_Return);
+  EXPECT_EQ(dialogo.Codici(), Codici({""}));
+}
+
+struct Caso {
+  const char* nome;
+  int opzione;
+  const char* contenuto;
+};
+
+const Caso Casi[] = {{"Normale", 0, "S;NORMALE"},
+                     {"Grassetto", 1, "S;GRASSETTO"},
+                     {"Compresso", 2, "S;COMPRESSO"},
+                     {"Italico", 3, "S;ITALICO"},
+                     {"Sottolineato", 4, "S;SOTTOLINEATO"}};
+
+class FrmStileTest : public testing::TestWithParam<Caso> {};
+
+TEST_P(FrmStileTest, AClickOnAnOptionWritesItsCode) {
+  frmStile dialogo(nullptr);
+  Apri(dialogo);
+  QTest::mouseClick(Opzione(dialogo, GetParam().opzione), Qt::LeftButton, {}, {8, 8});
+  EXPECT_EQ(Scelta(dialogo), GetParam().opzione);
+  Conferma(dialogo);
+  EXPECT_EQ(dialogo.Codici(), Codici({FraDelimitatori(GetParam().contenuto)}));
+}
+
+TEST_P(FrmStileTest, TheFocusSelectsAnOptionAndWritesItsCode) {
+  frmStile dialogo(nullptr);
+  Apri(dialogo);
+  Opzione(dialogo, GetParam().opzione)->setFocus(Qt::OtherFocusReason);
+  EXPECT_EQ(Scelta(dialogo), GetParam().opzione);
+  Conferma(dialogo);
+  EXPECT_EQ(dialogo.Codici(), Codici({FraDelimitatori(GetParam().contenuto)}));
+}
+
+TEST_P(FrmStileTest, ACodeComesBackUnchanged) {
+  frmStile dialogo(nullptr);
+  dialogo.Mostra(GetParam().contenuto);
+  Apri(dialogo);
+  EXPECT_TRUE(Opzione(dialogo, GetParam().opzione)->hasFocus());
+  EXPECT_EQ(Scelta(dialogo), GetParam().opzione);
+  Conferma(dialogo);
+  EXPECT_EQ(dialogo.Codici(), Codici({FraDelimitatori(GetParam().contenuto)}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Stili, FrmStileTest, testing::ValuesIn(Casi),
+                         [](const auto& caso) { return std::string(caso.param.nome); });
+
+TEST(FrmStile, ArrowKeysMoveTheChoice) {
+  frmStile dialogo(nullptr);
+  dialogo.Mostra("S;NORMALE");
+  Apri(dialogo);
+  QStringList codici;
+  for (const auto tasto : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Up}) {
+    QTest::keyClick(QApplication::focusWidget(), tasto);
+    codici += Codice(dialogo);
+  }
+  EXPECT_EQ(codici, QStringList({"«S;GRASSETTO»", "«S;COMPRESSO»", "«S;ITALICO»", "«S;SOTTOLINEATO»",
+                                 "«S;ITALICO»"}));
+}
+
+TEST(FrmStile, TheKeyboardAloneChoosesFromTheMenu) {
+  frmStile dialogo(nullptr);
+  Apri(dialogo);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(Codice(dialogo), "");  // Cancel
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(Codice(dialogo), "«S;NORMALE»");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(dialogo.Codici(), Codici({FraDelimitatori("S;GRASSETTO")}));
+}
+
+TEST(FrmStile, TheWordIsKnownByTwoLettersInAnyCase) {
+  frmStile dialogo(nullptr);
+  dialogo.Mostra("S;Italico");
+  Apri(dialogo);
+  EXPECT_EQ(Opzione(dialogo, Scelta(dialogo))->text(), "Corsivo o Italico");
+  EXPECT_EQ(Codice(dialogo), "«S;ITALICO»");
+}
+
+TEST(FrmStile, AnUnknownWordSelectsNormale) {
+  for (const char* contenuto : {"S;XX", "S;", "S"}) {
+    frmStile dialogo(nullptr);
+    dialogo.Mostra(contenuto);
+    Apri(dialogo);
+    EXPECT_TRUE(Opzione(dialogo, 0)->hasFocus()) << contenuto;
+    EXPECT_EQ(Scelta(dialogo), 0) << contenuto;
+    EXPECT_EQ(Codice(dialogo), "«S;NORMALE»") << contenuto;
+  }
+}
+
+TEST(FrmStile, CancelAndEscapeInsertNothing) {
+  frmStile conPulsante(nullptr);
+  conPulsante.Mostra("S;GRASSETTO");
+  Apri(conPulsante);
+  QTest::mouseClick(Trova<QPushButton>(conPulsante, "cmdCanc"), Qt::LeftButton);
+  EXPECT_FALSE(conPulsante.isVisible());
+  EXPECT_EQ(conPulsante.Codici(), Codici());
+
+  frmStile conTasto(nullptr);
+  conTasto.Mostra("S;GRASSETTO");
+  Apri(conTasto);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+  EXPECT_FALSE(conTasto.isVisible());
+  EXPECT_EQ(conTasto.Codici(), Codici());
+}
+
+TEST(FrmStile, TheCloseBoxDoesNothing) {
+  frmStile dialogo(nullptr);
+  Apri(dialogo);
+  EXPECT_FALSE(dialogo.close());
+  EXPECT_TRUE(dialogo.isVisible());
+}
+
+}  // namespace
+}  // namespace parvik

@@ -1,0 +1,306 @@
+// The section editor under the key rules: real keys sent to the real widget.
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "Finestra.h"
+#include "common/frmTesto.h"
+#include "supporto/TestoConSelezione.h"
+#include "template/txtTCP.h"
+
+namespace parvik {
+namespace {
+
+using prova::ConSelezione;
+
+/// An editor on a drawn text, and what it drew back.
+class Editor {
+ public:
+  explicit Editor(const char* disegno) : editor_(Sezione::Testata, nullptr) {
+    const ConSelezione caso(disegno);
+    editor_.setPlainText(PerSchermo(caso.Testo));
+    Seleziona(caso.Selezionato);
+    QObject::connect(&editor_, &txtTCP::CodiceDaAprire, &editor_,
+                     [this](const std::string& contenuto) { Aperti.push_back(contenuto); });
+    QObject::connect(&editor_, &txtTCP::VariabileDaInserire, &editor_, [this] { ++Variabili; });
+  }
+
+  void Seleziona(Selezione selezione) {
+    QTextCursor cursore(editor_.document());
+    cursore.setPosition(static_cast<int>(selezione.Inizio));
+    cursore.setPosition(static_cast<int>(selezione.Fine()), QTextCursor::KeepAnchor);
+    editor_.setTextCursor(cursore);
+  }
+  Editor& Premi(Qt::Key tasto, Qt::KeyboardModifiers con = {}) {
+    QTest::keyClick(&editor_, tasto, con);
+    return *this;
+  }
+  Editor& Scrivi(const QString& testo) {
+    QTest::keyClicks(&editor_, testo);
+    return *this;
+  }
+  std::string Testo() const {
+    return DaSchermo(editor_.document()->toRawText().replace(QChar(0x2029), u' '));
+  }
+  std::string Disegno() const {
+    const QTextCursor cursore = editor_.textCursor();
+    const Selezione selezione{
+        .Inizio = static_cast<std::size_t>(cursore.selectionStart()),
+        .Lunghezza = static_cast<std::size_t>(cursore.selectionEnd() - cursore.selectionStart())};
+    return prova::Scritto(Testo(), selezione);
+  }
+  txtTCP& Widget() { return editor_; }
+
+  std::vector<std::string> Aperti;
+  int Variabili = 0;
+
+ private:
+  txtTCP editor_;
+};
+
+TEST(Tasti, BackspaceAtTheVeryStartOfASectionDoesNothing) {
+  EXPECT_EQ(Editor("|abc").Premi(Qt::Key_Backspace).Disegno(), "|abc");
+}
+
+TEST(Tasti, BackspaceDeletesASelectedCode) {
+  EXPECT_EQ(Editor("a[«ABC»]b").Premi(Qt::Key_Backspace).Disegno(), "a|b");
+}
+
+TEST(Tasti, BackspaceOnASelectionWithoutTheOpeningDelimiterLooksTheCodeUp) {
+  Editor editor("x«[ABC»]y");
+  editor.Premi(Qt::Key_Backspace);
+  EXPECT_EQ(editor.Testo(), ConSelezione("x«ABC»y").Testo);
+}
+
+TEST(Tasti, AFullStopCannotBeTyped) {
+  EXPECT_EQ(Editor("|").Scrivi("a.b").Disegno(), "ab|");
+  Editor tastierino("|");
+  QTest::keyClick(&tastierino.Widget(), Qt::Key_Period, Qt::KeypadModifier);
+  EXPECT_EQ(tastierino.Disegno(), "|");
+}
+
+TEST(Tasti, ACodeBringsItsFullStopIn) {
+  Editor editor("a|b");
+  editor.Widget().InserisciCodice(ConSelezione("«V8;9R;.0,2;0»").Testo);
+  EXPECT_EQ(editor.Disegno(), "a«V8;9R;.0,2;0»|b");
+}
+
+TEST(Tasti, ASpaceInsideACodeOpensTheCodeAndElsewhereIsTyped) {
+  Editor editor("«V1|;2L» ");
+  editor.Premi(Qt::Key_Space);
+  EXPECT_EQ(editor.Disegno(), "|«V1;2L» ");
+  EXPECT_EQ(editor.Aperti, std::vector<std::string>{"V1;2L"});
+  EXPECT_EQ(Editor("a|b").Premi(Qt::Key_Space).Disegno(), "a |b");
+}
+
+TEST(Tasti, PressingLeftIsToldAsAnEdit) {
+  Editor editor("ab|c");
+  const QSignalSpy spia(&editor.Widget(), &txtTCP::Modificata);
+  editor.Premi(Qt::Key_Left);
+  EXPECT_EQ(spia.count(), 1);
+  EXPECT_EQ(editor.Disegno(), "a|bc");
+}
+
+TEST(Tasti, InsertingACodePutsTheCaretBehindItAndReplacesTheSelection) {
+  Editor senza("ab|cd");
+  senza.Widget().InserisciCodice(ConSelezione("«X»").Testo);
+  EXPECT_EQ(senza.Disegno(), "ab«X»|cd");
+  Editor con("a[bc]d");
+  con.Widget().InserisciCodice(ConSelezione("«X»").Testo);
+  EXPECT_EQ(con.Disegno(), "a«X»|d");
+}
+
+TEST(Tasti, AnInsertedCodeIsOneStepToUndoAndNeverHalfOfIt) {
+  Editor editor("a[bc]d");
+  editor.Scrivi("xy");
+  editor.Widget().InserisciCodice(ConSelezione("«V1;2L»").Testo);
+  editor.Scrivi("z");
+  editor.Widget().undo();
+  EXPECT_EQ(editor.Testo(), ConSelezione("axy«V1;2L»d").Testo);
+  editor.Widget().undo();
+  EXPECT_EQ(editor.Testo(), "axyd");
+}
+
+TEST(Tasti, CancelledBackspacePutsTheCaretInFrontOfTheCode) {
+  Editor editor("a«V1;2L»|b");
+  editor.Premi(Qt::Key_Backspace);
+  EXPECT_EQ(editor.Disegno(), "a|«V1;2L»b");
+  EXPECT_EQ(editor.Aperti, std::vector<std::string>{"V1;2L"});
+}
+
+TEST(Tasti, ACodeOfUnknownKindStaysSelectedAndASecondKeyDeletesIt) {
+  Editor editor("a«XYZ»|b");
+  editor.Premi(Qt::Key_Backspace);
+  EXPECT_EQ(editor.Disegno(), "a[«XYZ»]b");
+  EXPECT_TRUE(editor.Aperti.empty());
+  EXPECT_EQ(editor.Premi(Qt::Key_Backspace).Disegno(), "a|b");
+}
+
+TEST(Tasti, WhatTheDialogGivesTakesThePlaceOfTheCode) {
+  Editor editor("a«V1|;2L»b");
+  QObject::connect(&editor.Widget(), &txtTCP::CodiceDaAprire, &editor.Widget(),
+                   [&editor] { editor.Widget().InserisciCodice(ConSelezione("«V2;9R»").Testo); });
+  editor.Premi(Qt::Key_F4);
+  EXPECT_EQ(editor.Disegno(), "a«V2;9R»|b");
+}
+
+TEST(Tasti, F4OutsideACodeAsksForANewVariable) {
+  Editor editor("ab|«V1»");
+  editor.Premi(Qt::Key_F4);
+  EXPECT_EQ(editor.Variabili, 1);
+  EXPECT_EQ(editor.Disegno(), "ab|«V1»");
+}
+
+TEST(Tasti, DeleteRemovesTheCharacterBehindTheCaretAndLeavesTheCaret) {
+  EXPECT_EQ(Editor("a|bc").Premi(Qt::Key_Delete).Disegno(), "a|c");
+  EXPECT_EQ(Editor("«A»b|cd").Premi(Qt::Key_Delete).Disegno(), "«A»b|d");
+}
+
+TEST(Tasti, DeleteOnALineEndJoinsTheLines) {
+  EXPECT_EQ(Editor("ab|\ncd").Premi(Qt::Key_Delete).Disegno(), "ab|cd");
+}
+
+TEST(Tasti, ModifiersMakeNoDifferenceToDeletingKeys) {
+  EXPECT_EQ(Editor("uno due|").Premi(Qt::Key_Backspace, Qt::ControlModifier).Disegno(), "uno du|");
+  EXPECT_EQ(Editor("|uno due").Premi(Qt::Key_Delete, Qt::ControlModifier).Disegno(), "|no due");
+  Editor editor("a«V1»|");
+  editor.Premi(Qt::Key_Backspace, Qt::ShiftModifier);
+  EXPECT_EQ(editor.Aperti, std::vector<std::string>{"V1"});
+}
+
+TEST(Tasti, HalfACodeInTheSelectionGrowsToTheWholeBeforeItIsDeleted) {
+  Editor editor("x[ab«V1];2L»y");
+  editor.Premi(Qt::Key_Delete);
+  EXPECT_EQ(editor.Disegno(), "x[ab«V1;2L»]y");
+  EXPECT_EQ(editor.Premi(Qt::Key_Delete).Disegno(), "x|y");
+}
+
+TEST(Tasti, TabMovesTheFocusAndTypesNothing) {
+  Editor editor("a|b");
+  const QSignalSpy spia(&editor.Widget(), &txtTCP::Modificata);
+  EXPECT_EQ(editor.Premi(Qt::Key_Tab).Disegno(), "a|b");
+  EXPECT_EQ(spia.count(), 1);
+}
+
+TEST(Tasti, ComposedTextObeysTheSameRules) {
+  Editor editor("«V1|»a");
+  QInputMethodEvent composto;
+  composto.setCommitString(QStringLiteral("è. "));
+  QApplication::sendEvent(&editor.Widget(), &composto);
+  EXPECT_EQ(editor.Testo(),
+            "\xAB"
+            "V1\xE8\xBB"
+            "a");
+  EXPECT_EQ(editor.Aperti, std::vector<std::string>{"V1\xE8"});
+}
+
+TEST(Tasti, ADoubleClickOnACodeOpensItAndElsewhereSelectsAWord) {
+  Editor editor("parola «V1;2L» fine|");
+  editor.Widget().resize(400, 100);
+  editor.Widget().show();
+  const auto punto = [&editor](int posizione) {
+    QTextCursor cursore(editor.Widget().document());
+    cursore.setPosition(posizione);
+    return editor.Widget().cursorRect(cursore).center() + QPoint(3, 0);
+  };
+  for (const int posizione : {7, 9, 13}) {  // the opening delimiter, the middle, the closing delimiter
+    editor.Aperti.clear();
+    QTest::mouseDClick(editor.Widget().viewport(), Qt::LeftButton, {}, punto(posizione));
+    EXPECT_EQ(editor.Aperti, std::vector<std::string>{"V1;2L"}) << posizione;
+  }
+  editor.Aperti.clear();
+  QTest::mouseDClick(editor.Widget().viewport(), Qt::LeftButton, {}, punto(2));
+  EXPECT_TRUE(editor.Aperti.empty());
+  EXPECT_EQ(editor.Widget().textCursor().selectedText(), "parola");
+}
+
+TEST(Tasti, TheCodeUnderTheCaretIsMarkedAsAUnit) {
+  Editor editor("ab «V1|;2L» cd");
+  ASSERT_EQ(editor.Widget().extraSelections().size(), 1);
+  EXPECT_EQ(DaSchermo(editor.Widget().extraSelections().constFirst().cursor.selectedText()),
+            ConSelezione("«V1;2L»").Testo);
+  editor.Premi(Qt::Key_Home);
+  EXPECT_TRUE(editor.Widget().extraSelections().isEmpty());
+}
+
+/// The rules' own idea of an editor: a text, a selection, and dialogs that are always cancelled.
+struct Copia {
+  std::string Testo;
+  Selezione Scelta;
+
+  void Scrivi(char c) {
+    Testo.replace(Scelta.Inizio, Scelta.Lunghezza, 1, c);
+    Scelta = {.Inizio = Scelta.Inizio + 1, .Lunghezza = 0};
+  }
+  void Premi(TastoSezione tasto) {
+    const EsitoTasto esito = PremiTasto(Testo, Scelta, tasto);
+    if (esito.Azione == AzioneTasto::Allarga) Scelta = esito.Nuova;
+    if (esito.Azione == AzioneTasto::ApriCodice) Apri(esito.Nuova);
+    if (esito.Azione == AzioneTasto::Consueta) Consueta(tasto);
+  }
+  void Apri(Selezione codice) {
+    const std::string_view contenuto =
+        ContenutoDi(std::string_view(Testo).substr(codice.Inizio, codice.Lunghezza));
+    const bool nessuno = Riconosci(contenuto) == TipoCodice::Sconosciuto;
+    Scelta = {.Inizio = codice.Inizio, .Lunghezza = nessuno ? codice.Lunghezza : 0};
+  }
+  void Consueta(TastoSezione tasto) {
+    if (tasto == TastoSezione::Spazio) return Scrivi(' ');
+    if (Scelta.Lunghezza == 0 && tasto == TastoSezione::Backspace)
+      Scelta = {.Inizio = Scelta.Inizio - 1, .Lunghezza = 1};
+    if (Scelta.Lunghezza == 0 && Scelta.Inizio < Testo.size()) Scelta.Lunghezza = 1;
+    Testo.erase(Scelta.Inizio, Scelta.Lunghezza);
+    Scelta.Lunghezza = 0;
+  }
+};
+
+struct Passo {
+  Qt::Key Tasto;
+  TastoSezione Regola;
+};
+
+TEST(TastiProprieta, WidgetAndRulesAgreeAtEveryStep) {
+  EXPECT_TRUE(rc::check([] {
+    Copia copia;
+    for (const int pezzo : *rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 8))) {
+      const char* const pezzi[] = {"«V1;2L»", "«XY»", "«»", "\n", "«", "»", "ab", " "};
+      copia.Testo += ConSelezione(pezzi[pezzo]).Testo;
+    }
+    Editor editor("|");
+    editor.Widget().setPlainText(PerSchermo(copia.Testo).replace(u'\u240A', u'\n'));
+    const auto disegno = [&copia] {
+      std::string testo = copia.Testo;
+      std::ranges::replace(testo, '\n', ' ');
+      return prova::Scritto(testo, copia.Scelta);
+    };
+    for (int passo = 0; passo < 40; ++passo) {
+      const auto lunghezza = static_cast<int>(copia.Testo.size());
+      if (*rc::gen::inRange(0, 3) == 0) {
+        copia.Scelta.Inizio = static_cast<std::size_t>(*rc::gen::inRange(0, lunghezza + 1));
+        const int resto = lunghezza - static_cast<int>(copia.Scelta.Inizio);
+        copia.Scelta.Lunghezza = static_cast<std::size_t>(*rc::gen::inRange(0, resto + 1));
+        editor.Seleziona(copia.Scelta);
+      }
+      const int scelta = *rc::gen::inRange(0, 6);
+      if (scelta < 4) {
+        const Passo passi[] = {{Qt::Key_Backspace, TastoSezione::Backspace},
+                               {Qt::Key_Delete, TastoSezione::Canc},
+                               {Qt::Key_F4, TastoSezione::F4},
+                               {Qt::Key_Space, TastoSezione::Spazio}};
+        editor.Premi(passi[scelta].Tasto);
+        copia.Premi(passi[scelta].Regola);
+      } else {
+        editor.Scrivi(scelta == 4 ? "q" : ".");
+        if (scelta == 4) copia.Scrivi('q');
+      }
+      RC_ASSERT(editor.Disegno() == disegno());
+    }
+  }));
+}
+
+}  // namespace
+}  // namespace parvik

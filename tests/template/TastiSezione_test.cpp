@@ -1,0 +1,194 @@
+#include "template/TastiSezione.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "common/Delimitatori.h"
+#include "supporto/TestoConSelezione.h"
+
+namespace parvik {
+namespace {
+
+using prova::ConSelezione;
+using prova::Scritto;
+
+/// What became of the text and the selection, and in words what else happened.
+std::string Premuto(const char* prima, TastoSezione tasto) {
+  const ConSelezione caso(prima);
+  const EsitoTasto esito = PremiTasto(caso.Testo, caso.Selezionato, tasto);
+  switch (esito.Azione) {
+    case AzioneTasto::Consueta:
+      return "consueta";
+    case AzioneTasto::Nessuna:
+      return "nessuna";
+    case AzioneTasto::Allarga:
+      return "allarga " + Scritto(caso.Testo, esito.Nuova);
+    case AzioneTasto::ApriCodice:
+      return "apre " + Scritto(caso.Testo, esito.Nuova);
+    case AzioneTasto::ApriVariabile:
+      return "variabile";
+  }
+  return "";
+}
+
+struct Caso {
+  const char* Nome;
+  const char* Prima;  // | is the caret, [ ] the selection
+  TastoSezione Tasto;
+  const char* Atteso;
+};
+
+void PrintTo(const Caso& caso, std::ostream* uscita) {
+  *uscita << caso.Nome;
+}
+
+class TastiSezioneTest : public testing::TestWithParam<Caso> {};
+
+TEST_P(TastiSezioneTest, DoesWhatTheRuleSays) {
+  EXPECT_EQ(Premuto(GetParam().Prima, GetParam().Tasto), GetParam().Atteso);
+}
+
+using enum TastoSezione;
+
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Regole, TastiSezioneTest, testing::Values(
+    Caso{"backspace_at_the_very_start", "|abc", Backspace, "nessuna"},
+    Caso{"backspace_in_an_empty_section", "|", Backspace, "nessuna"},
+    Caso{"backspace_on_plain_text", "abc|", Backspace, "consueta"},
+    Caso{"backspace_behind_a_code", "a«V1;2L»|b", Backspace, "apre a[«V1;2L»]b"},
+    Caso{"backspace_inside_a_code", "a«V1|;2L»b", Backspace, "apre a[«V1;2L»]b"},
+    Caso{"backspace_behind_the_opening_delimiter", "a«|V1»b", Backspace, "apre a[«V1»]b"},
+    Caso{"backspace_in_front_of_the_closing_delimiter", "a«V1|»b", Backspace, "apre a[«V1»]b"},
+    Caso{"backspace_in_front_of_a_code", "a|«V1»b", Backspace, "consueta"},
+    Caso{"backspace_one_further_behind_a_code", "«V1»a|", Backspace, "consueta"},
+    Caso{"backspace_between_two_codes", "«A»|«B»", Backspace, "apre [«A»]«B»"},
+    Caso{"backspace_on_a_selected_code", "a[«ABC»]b", Backspace, "consueta"},
+    Caso{"backspace_on_a_selected_code_at_the_start", "[«ABC»]", Backspace, "consueta"},
+    Caso{"backspace_on_selected_codes_with_text_between", "a[«A» e «B»]b", Backspace, "consueta"},
+    Caso{"backspace_on_a_code_without_its_opening", "x«[ABC»]y", Backspace, "apre x[«ABC»]y"},
+    Caso{"backspace_on_text_and_half_a_code", "x[abc«V1];2L»y", Backspace, "allarga x[abc«V1;2L»]y"},
+    Caso{"backspace_on_text_and_a_whole_code", "x[abc«V1;2L»]y", Backspace, "consueta"},
+    Caso{"backspace_on_selected_text", "x[abc]y", Backspace, "consueta"},
+    Caso{"backspace_on_a_selection_from_the_start", "[abc]y", Backspace, "nessuna"},
+    Caso{"backspace_behind_a_stray_closing_delimiter", "ab»|c", Backspace, "consueta"},
+    Caso{"backspace_behind_a_second_closing_delimiter", "«A»b»|", Backspace, "consueta"},
+    Caso{"backspace_behind_a_code_that_is_not_closed", "«abc|", Backspace, "consueta"},
+    Caso{"backspace_inside_a_code_over_a_line_end", "«ab\ncd|e»", Backspace, "apre [«ab\ncde»]"},
+    Caso{"delete_on_plain_text", "|abc", Canc, "consueta"},
+    Caso{"delete_at_the_very_end", "abc|", Canc, "consueta"},
+    Caso{"delete_in_front_of_a_code", "a|«V1»b", Canc, "apre a[«V1»]b"},
+    Caso{"delete_inside_a_code", "a«V|1»b", Canc, "apre a[«V1»]b"},
+    Caso{"delete_in_front_of_the_closing_delimiter", "a«V1|»b", Canc, "apre a[«V1»]b"},
+    Caso{"delete_behind_a_code", "a«V1»|b", Canc, "consueta"},
+    Caso{"delete_on_a_selected_code", "a[«V1»]b", Canc, "consueta"},
+    Caso{"delete_on_half_a_code_from_its_start", "a[«V]1»b", Canc, "apre a[«V1»]b"},
+    Caso{"delete_on_text_and_half_a_code", "[a«V]1»b", Canc, "allarga [a«V1»]b"},
+    Caso{"delete_on_a_selection_from_the_start", "[abc]y", Canc, "consueta"},
+    Caso{"delete_on_the_rest_of_a_code_and_text", "«V[1»ab]c", Canc, "apre [«V1»]abc"},
+    Caso{"delete_in_front_of_an_unclosed_code", "a|«bc", Canc, "consueta"},
+    Caso{"f4_inside_a_code", "a«V1|»b", F4, "apre a[«V1»]b"},
+    Caso{"f4_in_front_of_a_code", "a|«V1»b", F4, "variabile"},
+    Caso{"f4_behind_a_code", "a«V1»|b", F4, "variabile"},
+    Caso{"f4_on_plain_text", "ab|c", F4, "variabile"},
+    Caso{"f4_in_an_unclosed_code", "a«b|c", F4, "variabile"},
+    Caso{"f4_with_a_selection_goes_by_its_start", "a«V[1»b]", F4, "apre a[«V1»]b"},
+    Caso{"space_inside_a_code", "«V1|;2L»", Spazio, "apre [«V1;2L»]"},
+    Caso{"space_outside_codes", "«V1»| a", Spazio, "consueta"},
+    Caso{"space_at_the_start", "|a", Spazio, "consueta"},
+    Caso{"space_in_an_unclosed_code", "«V1| a", Spazio, "consueta"}),
+    [](const auto& caso) { return std::string(caso.param.Nome); });
+// clang-format on
+
+TEST(CodiceSotto, CoversTheDelimitersAndNothingBesideThem) {
+  const ConSelezione caso("a«V1»b");
+  EXPECT_EQ(CodiceSotto(caso.Testo, 0), std::nullopt);
+  for (std::size_t i = 1; i <= 4; ++i) {
+    EXPECT_EQ(CodiceSotto(caso.Testo, i), (PosizioneCodice{.Inizio = 1, .Lunghezza = 4})) << i;
+  }
+  EXPECT_EQ(CodiceSotto(caso.Testo, 5), std::nullopt);
+  EXPECT_EQ(CodiceSotto(caso.Testo, 6), std::nullopt);
+}
+
+TEST(CarattereScartato, IsTheFullStopOnly) {
+  EXPECT_TRUE(CarattereScartato(U'.'));
+  EXPECT_FALSE(CarattereScartato(U','));
+  EXPECT_FALSE(CarattereScartato(U' '));
+}
+
+/// The codes of a text, in its order.
+std::vector<std::string> Codici(const std::string& testo) {
+  std::vector<std::string> codici;
+  for (std::size_t i = 0; i < testo.size(); ++i) {
+    const auto codice = testo[i] == DelimApertura ? CodiceSotto(testo, i) : std::nullopt;
+    if (codice && codice->Inizio == i) codici.push_back(testo.substr(codice->Inizio, codice->Lunghezza));
+  }
+  return codici;
+}
+
+/// A key as an editor obeys it; a dialog that opens is cancelled.
+void Obbedisci(std::string& testo, Selezione& selezione, TastoSezione tasto) {
+  const EsitoTasto esito = PremiTasto(testo, selezione, tasto);
+  if (esito.Azione == AzioneTasto::Allarga || esito.Azione == AzioneTasto::ApriCodice)
+    selezione = esito.Nuova;
+  if (esito.Azione != AzioneTasto::Consueta) return;
+  if (selezione.Lunghezza == 0 && tasto == Backspace)
+    selezione = {.Inizio = selezione.Inizio - 1, .Lunghezza = 1};
+  if (selezione.Lunghezza == 0 && selezione.Inizio < testo.size()) selezione.Lunghezza = 1;
+  testo.erase(selezione.Inizio, selezione.Lunghezza);
+  selezione.Lunghezza = 0;
+}
+
+TEST(TastiSezioneProprieta, NoSequenceOfBackspaceAndDeleteLeavesHalfACode) {
+  EXPECT_TRUE(rc::check([] {
+    std::string testo;
+    for (const int pezzo : *rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 6))) {
+      testo += ConSelezione(pezzo < 2 ? "«V1;2L»" : pezzo == 2 ? "«»" : pezzo == 3 ? "\n" : "ab").Testo;
+    }
+    const std::vector<std::string> prima = Codici(testo);
+    for (int passo = 0; passo < 30; ++passo) {
+      const auto lunghezza = static_cast<int>(testo.size());
+      Selezione selezione;
+      selezione.Inizio = static_cast<std::size_t>(*rc::gen::inRange(0, lunghezza + 1));
+      const int resto = lunghezza - static_cast<int>(selezione.Inizio);
+      selezione.Lunghezza = static_cast<std::size_t>(
+          *rc::gen::weightedOneOf<int>({{2, rc::gen::just(0)}, {1, rc::gen::inRange(0, resto + 1)}}));
+      const TastoSezione tasto = *rc::gen::element(Backspace, Canc);
+      Obbedisci(testo, selezione, tasto);
+      Obbedisci(testo, selezione, tasto);
+      // Every delimiter still belongs to a whole code, and every code is one of those that were there.
+      const std::vector<std::string> ora = Codici(testo);
+      RC_ASSERT(std::ranges::count(testo, DelimApertura) == static_cast<std::ptrdiff_t>(ora.size()));
+      RC_ASSERT(std::ranges::count(testo, DelimChiusura) == static_cast<std::ptrdiff_t>(ora.size()));
+      for (const std::string& codice : ora) RC_ASSERT(std::ranges::count(prima, codice) > 0);
+    }
+  }));
+}
+
+TEST(TastiSezioneProprieta, OnlyTheTextUpToTheNextDelimitersMatters) {
+  EXPECT_TRUE(rc::check([] {
+    const auto lettere =
+        rc::gen::container<std::string>(rc::gen::element('a', '\n', DelimApertura, DelimChiusura));
+    const std::string testo = *lettere;
+    const auto lunghezza = static_cast<int>(testo.size());
+    const auto inizio = static_cast<std::size_t>(*rc::gen::inRange(0, lunghezza + 1));
+    const auto fine = static_cast<std::size_t>(*rc::gen::inRange(static_cast<int>(inizio), lunghezza + 1));
+    const TastoSezione tasto = *rc::gen::element(Backspace, Canc, F4, Spazio);
+    const std::size_t davanti =
+        std::string_view(testo).substr(0, inizio == 0 ? 0 : inizio - 1).find_last_of("\xAB\xBB");
+    const std::size_t dietro = testo.find(DelimChiusura, fine);
+    const std::size_t da = davanti == std::string::npos ? 0 : davanti;
+    const std::string parte = testo.substr(da, dietro == std::string::npos ? dietro : dietro + 1 - da);
+    const EsitoTasto intero = PremiTasto(testo, {.Inizio = inizio, .Lunghezza = fine - inizio}, tasto);
+    EsitoTasto ridotto = PremiTasto(parte, {.Inizio = inizio - da, .Lunghezza = fine - inizio}, tasto);
+    if (ridotto.Azione == AzioneTasto::Allarga || ridotto.Azione == AzioneTasto::ApriCodice)
+      ridotto.Nuova.Inizio += da;
+    RC_ASSERT(intero == ridotto);
+  }));
+}
+
+}  // namespace
+}  // namespace parvik

@@ -1,0 +1,99 @@
+#include "tokens/TrovaVoce.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
+#include "tokens/Generatori.h"
+
+namespace parvik::prova {
+namespace {
+
+constexpr std::array<std::string_view, 4> Quattro = {"Numero fattura", "Data fattura", "Totale", "Note"};
+
+TEST(TrovaVoce, TakesTheFirstEntryAfterTheSelectedOne) {
+  EXPECT_EQ(TrovaVoce(Quattro, 0, "fattura"), 1U);
+  EXPECT_EQ(TrovaVoce(Quattro, 0, "t"), 1U);
+  EXPECT_EQ(TrovaVoce(Quattro, 1, "t"), 2U);
+}
+
+TEST(TrovaVoce, GoesOnFromTheFirstEntryPastTheEnd) {
+  EXPECT_EQ(TrovaVoce(Quattro, 2, "fattura"), 0U);
+}
+
+TEST(TrovaVoce, WrapsWhenTheLastEntryIsSelected) {
+  EXPECT_EQ(TrovaVoce(Quattro, 3, "Totale"), 2U);
+  EXPECT_EQ(TrovaVoce(Quattro, 3, "Numero"), 0U);
+}
+
+TEST(TrovaVoce, TestsTheSelectedEntryLast) {
+  EXPECT_EQ(TrovaVoce(Quattro, 1, "fattura"), 0U);
+  EXPECT_EQ(TrovaVoce(Quattro, 1, "Data"), 1U);
+  EXPECT_EQ(TrovaVoce(Quattro, 3, "Note"), 3U);
+}
+
+TEST(TrovaVoce, FindsNothingWhereNoEntryHasTheText) {
+  EXPECT_EQ(TrovaVoce(Quattro, 0, "sconto"), std::nullopt);
+  EXPECT_EQ(TrovaVoce(Quattro, 3, "Totale fattura"), std::nullopt);
+  EXPECT_EQ(TrovaVoce({}, 0, "Totale"), std::nullopt);
+}
+
+TEST(TrovaVoce, TreatsSpacesAsText) {
+  EXPECT_EQ(TrovaVoce(Quattro, 0, "a f"), 1U);
+  EXPECT_EQ(TrovaVoce(Quattro, 0, " Totale"), std::nullopt);
+}
+
+struct Caso {
+  const char* nome;
+  std::string_view voce;
+  std::string_view cercato;
+  bool trovata;
+};
+
+class SenzaBadareAlleMaiuscole : public testing::TestWithParam<Caso> {};
+
+TEST_P(SenzaBadareAlleMaiuscole, ComparesSmallLetters) {
+  const std::array<std::string_view, 1> voci = {GetParam().voce};
+  EXPECT_EQ(TrovaVoce(voci, 0, GetParam().cercato).has_value(), GetParam().trovata);
+}
+
+INSTANTIATE_TEST_SUITE_P(TrovaVoce, SenzaBadareAlleMaiuscole,
+                         testing::Values(Caso{"capitals_sought", "partita iva", "PARTITA IVA", true},
+                                         Caso{"capitals_listed", "PARTITA IVA", "partita", true},
+                                         Caso{"the_ends_of_the_alphabet", "AZ", "az", true},
+                                         Caso{"beside_the_alphabet", "@[", "`{", false},
+                                         Caso{"an_accented_capital", "QUANTIT\xC0", "quantit\xE0", true},
+                                         Caso{"an_accented_capital_sought", "unit\xE0", "UNIT\xC0", true},
+                                         Caso{"the_last_accented_capital", "\xDE", "\xFE", true},
+                                         Caso{"multiplied_is_not_divided", "\xD7", "\xF7", false},
+                                         Caso{"sharp_s_has_no_capital", "\xDF", "\xFF", false},
+                                         Caso{"s_with_caron", "\x8A", "\x9A", true},
+                                         Caso{"ligature_oe", "\x8C", "\x9C", true},
+                                         Caso{"z_with_caron", "\x8E", "\x9E", true},
+                                         Caso{"y_with_diaeresis", "\x9F", "\xFF", true},
+                                         Caso{"an_accent_is_a_difference", "quantit\xE0", "quantita", false}),
+                         [](const auto& caso) { return std::string(caso.param.nome); });
+
+TEST(TrovaVoce, LooksAtEveryEntryInTheOrderOfTheList) {
+  EXPECT_TRUE(rc::check([] {
+    const auto testi = *rc::gen::nonEmpty(rc::gen::container<std::vector<std::string>>(
+        rc::gen::container<std::string>(rc::gen::element('a', 'b'))));
+    const std::vector<std::string_view> voci(testi.begin(), testi.end());
+    const auto selezionata = *rc::gen::inRange<std::size_t>(0, voci.size());
+    const auto cercato = *rc::gen::container<std::string>(rc::gen::element('a', 'b'));
+    std::vector<std::size_t> ordine;
+    for (std::size_t i = selezionata + 1; i < voci.size(); ++i) ordine.push_back(i);
+    for (std::size_t i = 0; i <= selezionata; ++i) ordine.push_back(i);
+    const auto prima = std::ranges::find_if(
+        ordine, [&](std::size_t voce) { return voci[voce].find(cercato) != std::string_view::npos; });
+    const auto attesa = prima == ordine.end() ? std::nullopt : std::optional(*prima);
+    RC_ASSERT(TrovaVoce(voci, selezionata, cercato) == attesa);
+  }));
+}
+
+}  // namespace
+}  // namespace parvik::prova
