@@ -1,6 +1,6 @@
 #include "app/frmMaschere.h"
 
-#include "tokens/frmComando.h"
+#include "template/frmComando.h"
 #include "tokens/frmCostante.h"
 #include "tokens/frmFlag.h"
 #include "tokens/frmLingua.h"

@@ -11,9 +11,9 @@
 #include "app/Avvio.h"
 #include "app/Editore.h"
 #include "app/frmMaschere.h"
+#include "output/frmSettaFlag.h"
 #include "output/ricAnte.h"
 #include "template/txtTCP.h"
-#include "tokens/frmSettaFlag.h"
 
 namespace parvik {
 

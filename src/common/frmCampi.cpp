@@ -1,6 +1,7 @@
 #include "common/frmCampi.h"
 
 #include <QFocusEvent>
+#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QValidator>
@@ -109,6 +110,31 @@ class Filtro final : public QValidator {
   QString comeSta_;  // what ImpostaComeSta put there: undoing may bring it back
 };
 
+/// Nobody can edit a disabled box, but everybody should be able to read the code in it.
+class Leggibile final : public QObject {
+ public:
+  explicit Leggibile(QLineEdit& campo) : QObject(&campo), campo_(campo) {
+    campo.installEventFilter(this);
+    Aggiorna();
+  }
+
+  bool eventFilter(QObject* oggetto, QEvent* evento) override {
+    if (evento->type() == QEvent::PaletteChange) Aggiorna();
+    return QObject::eventFilter(oggetto, evento);
+  }
+
+ private:
+  void Aggiorna() {
+    const QBrush testo = campo_.palette().brush(QPalette::Active, QPalette::WindowText);
+    if (campo_.palette().brush(QPalette::Disabled, QPalette::Text) == testo) return;
+    QPalette tavolozza;
+    tavolozza.setBrush(QPalette::Disabled, QPalette::Text, testo);
+    campo_.setPalette(tavolozza);
+  }
+
+  QLineEdit& campo_;
+};
+
 }  // namespace
 
 void SelezionaTuttoAlFuoco(QLineEdit& campo) {
@@ -118,6 +144,11 @@ void SelezionaTuttoAlFuoco(QLineEdit& campo) {
 void SoloCifre(QLineEdit& campo, int massimo, const QString& altri) {
   campo.setMaxLength(std::numeric_limits<int>::max());  // the filter counts
   campo.setValidator(new Filtro(campo, massimo, altri));
+}
+
+void MostraCodici(QLineEdit& campo) {
+  campo.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  new Leggibile(campo);  // the box owns it
 }
 
 void ImpostaComeSta(QLineEdit& campo, const QString& testo) {

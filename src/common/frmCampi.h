@@ -18,4 +18,8 @@ void SoloCifre(QLineEdit& campo, int massimo, const QString& altri = QString());
 /// Puts a text into a box of SoloCifre as it stands, unchecked and uncut.
 void ImpostaComeSta(QLineEdit& campo, const QString& testo);
 
+/// Makes a box ready to show a code: columns of one width, and legible although it is disabled, in every
+/// palette.
+void MostraCodici(QLineEdit& campo);
+
 }  // namespace parvik

@@ -7,6 +7,7 @@
 #include <QMimeData>
 #include <QSignalBlocker>
 #include <QTextBlock>
+#include <QTextDocument>
 #include <QTextEdit>
 #include <QToolTip>
 #include <vector>
@@ -115,6 +116,11 @@ void Seleziona(QPlainTextEdit& editor, Selezione selezione) {
 Selezione SelezioneDi(const QTextCursor& cursore) {
   return {.Inizio = static_cast<std::size_t>(cursore.selectionStart()),
           .Lunghezza = static_cast<std::size_t>(cursore.selectionEnd() - cursore.selectionStart())};
+}
+
+/// What a tooltip would take for mark-up is the catalogue's or the user's own text.
+QString ComeTestoSemplice(const QString& testo) {
+  return Qt::mightBeRichText(testo) ? "<p>" + testo.toHtmlEscaped() + "</p>" : testo;
 }
 
 }  // namespace
@@ -310,7 +316,7 @@ bool txtTCP::MostraDescrizione(QPoint punto, QPoint globale) {
   cursore.setPosition(static_cast<int>(codice->Inizio));
   cursore.setPosition(static_cast<int>(codice->Fine()), QTextCursor::KeepAnchor);
   const std::string testo = DaSchermo(cursore.selectedText());
-  QToolTip::showText(globale, descrizione_(ContenutoDi(testo)), viewport());
+  QToolTip::showText(globale, ComeTestoSemplice(descrizione_(ContenutoDi(testo))), viewport());
   return true;
 }
 

@@ -1,7 +1,5 @@
 #include "tokens/frmCostante.h"
 
-#include <QFontDatabase>
-
 #include "common/frmCampi.h"
 #include "common/frmTesto.h"
 #include "tokens/CodiceCostante.h"
@@ -13,7 +11,7 @@ frmCostante::frmCostante(QWidget* padre) : frmCodice(padre), ui_(std::make_uniqu
   ui_->setupUi(this);
   SelezionaTuttoAlFuoco(*ui_->txtDescri);
   connect(ui_->txtDescri, &QLineEdit::textChanged, this, &frmCostante::RicostruisciCodice);
-  ui_->txtCost->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  MostraCodici(*ui_->txtCost);
   connect(ui_->cmdOk, &QPushButton::clicked, this, &QDialog::accept);
   connect(ui_->cmdCanc, &QPushButton::clicked, this, &QDialog::reject);
 }

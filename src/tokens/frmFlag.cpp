@@ -1,11 +1,10 @@
 #include "tokens/frmFlag.h"
 
-#include <QEvent>
-#include <QFontDatabase>
 #include <QSignalBlocker>
 #include <algorithm>
 
 #include "common/NumeroLeniente.h"
+#include "common/frmCampi.h"
 #include "common/frmTesto.h"
 #include "tokens/CodiceFlag.h"
 #include "ui_frmFlag.h"
@@ -17,21 +16,12 @@ std::string CodiceDi(const Flag& flag) {
   return CostruisciFlag({.Numero = std::to_string(flag.Codice), .Interruttore = flag.Valore});
 }
 
-/// Nobody can edit a disabled box, but everybody should be able to read the code in it.
-void RendiLeggibile(QLineEdit& casella, const QPalette& tavolozza) {
-  QPalette leggibile = casella.palette();
-  leggibile.setBrush(QPalette::Disabled, QPalette::Text,
-                     tavolozza.brush(QPalette::Active, QPalette::WindowText));
-  casella.setPalette(leggibile);
-}
-
 }  // namespace
 
 frmFlag::frmFlag(std::vector<Flag> flag, QWidget* padre)
     : frmCodice(padre), ui_(std::make_unique<Ui::frmFlag>()), flag_(std::move(flag)) {
   ui_->setupUi(this);
-  ui_->txtFlag->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  RendiLeggibile(*ui_->txtFlag, palette());
+  MostraCodici(*ui_->txtFlag);
   for (const Flag& voce : flag_) ui_->lstFlag->addItem(PerSchermo(voce.Descrizione));
   connect(ui_->lstFlag, &QListWidget::currentRowChanged, this, &frmFlag::CaricaVoce);
   connect(ui_->chkSost, &QCheckBox::toggled, this, &frmFlag::CambiaInterruttore);
@@ -87,11 +77,6 @@ void frmFlag::CambiaInterruttore() {
 void frmFlag::MostraCodice(const Flag& flag) {
   ui_->txtFlag->setText(PerSchermo(CodiceDi(flag)));
   ui_->txtFlag->setCursorPosition(0);
-}
-
-void frmFlag::changeEvent(QEvent* evento) {
-  frmCodice::changeEvent(evento);
-  if (evento->type() == QEvent::PaletteChange) RendiLeggibile(*ui_->txtFlag, palette());
 }
 
 }  // namespace parvik

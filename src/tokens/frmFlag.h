@@ -28,9 +28,6 @@ class frmFlag final : public frmCodice {
   /// The flag code of the selected entry; none for an entry without a text.
   std::vector<std::string> Codici() const override;
 
- protected:
-  void changeEvent(QEvent* evento) override;
-
  private:
   std::optional<std::size_t> VoceSelezionata() const;
   std::size_t VoceDi(std::string_view numero) const;

@@ -1,7 +1,5 @@
 #include "tokens/frmLingua.h"
 
-#include <QFontDatabase>
-
 #include "common/frmCampi.h"
 #include "common/frmTesto.h"
 #include "ui_frmLingua.h"
@@ -21,7 +19,7 @@ frmLingua::frmLingua(QWidget* padre) : frmCodice(padre), ui_(std::make_unique<Ui
     SelezionaTuttoAlFuoco(*campo);
     connect(campo, &QLineEdit::textChanged, this, &frmLingua::RicostruisciCodice);
   }
-  ui_->txtLingua->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  MostraCodici(*ui_->txtLingua);
   Carica(Predefinita);
   connect(ui_->cmdOk, &QPushButton::clicked, this, &QDialog::accept);
   connect(ui_->cmdCanc, &QPushButton::clicked, this, &QDialog::reject);

@@ -1,7 +1,5 @@
 #include "tokens/frmPagina.h"
 
-#include <QFontDatabase>
-
 #include "common/frmCampi.h"
 #include "common/frmTesto.h"
 #include "tokens/CodicePagina.h"
@@ -20,7 +18,7 @@ frmPagina::frmPagina(QWidget* padre) : frmCodice(padre), ui_(std::make_unique<Ui
   SoloCifre(*ui_->txtNum, CifreNumero);
   SelezionaTuttoAlFuoco(*ui_->txtNum);
   connect(ui_->txtNum, &QLineEdit::textChanged, this, &frmPagina::RicostruisciCodice);
-  ui_->txtPag->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  MostraCodici(*ui_->txtPag);
   ui_->txtNum->setText(NumeroPredefinito);
   connect(ui_->cmdOk, &QPushButton::clicked, this, &QDialog::accept);
   connect(ui_->cmdCanc, &QPushButton::clicked, this, &QDialog::reject);

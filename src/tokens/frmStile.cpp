@@ -1,8 +1,8 @@
 #include "tokens/frmStile.h"
 
 #include <QEvent>
-#include <QFontDatabase>
 
+#include "common/frmCampi.h"
 #include "common/frmTesto.h"
 #include "ui_frmStile.h"
 
@@ -17,7 +17,7 @@ frmStile::frmStile(QWidget* padre) : frmCodice(padre), ui_(std::make_unique<Ui::
       if (scelta) ScriviCodice(static_cast<Stile>(i));
     });
   }
-  ui_->txtStile->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  MostraCodici(*ui_->txtStile);
   connect(ui_->cmdOk, &QPushButton::clicked, this, &QDialog::accept);
   connect(ui_->cmdCanc, &QPushButton::clicked, this, &QDialog::reject);
   ui_->cmdOk->setFocus();  // the first option would be chosen by its focus

@@ -1,7 +1,5 @@
 #include "tokens/frmVar.h"
 
-#include <QEvent>
-#include <QFontDatabase>
 #include <QMessageBox>
 #include <QScopedValueRollback>
 #include <QValidator>
@@ -90,20 +88,8 @@ void frmVar::PreparaCaselle() {
   for (QLineEdit* casella : {ui_->txtTrova, ui_->txtLungh, ui_->txtMulti, ui_->txtDecimali}) {
     SelezionaTuttoAlFuoco(*casella);
   }
-  for (QLineEdit* casella : {ui_->txtVar, ui_->txtFlag, ui_->txtValCampo, ui_->txtCar}) {
-    casella->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  }
-  RendiLeggibili();
-}
-
-/// Nobody can edit a disabled box, but everybody should be able to read the code in it.
-void frmVar::RendiLeggibili() {
-  const QBrush testo = palette().brush(QPalette::Active, QPalette::WindowText);
-  for (QLineEdit* casella : {ui_->txtVar, ui_->txtFlag}) {
-    QPalette leggibile = casella->palette();
-    leggibile.setBrush(QPalette::Disabled, QPalette::Text, testo);
-    casella->setPalette(leggibile);
-  }
+  for (QLineEdit* casella : {ui_->txtVar, ui_->txtFlag, ui_->txtValCampo, ui_->txtCar})
+    MostraCodici(*casella);
 }
 
 void frmVar::Collega() {
@@ -270,11 +256,6 @@ void frmVar::ScegliFlag() {
   if (codice.empty()) return;
   codiceFlag_ = codice;
   MostraDallInizio(*ui_->txtFlag, codiceFlag_);
-}
-
-void frmVar::changeEvent(QEvent* evento) {
-  frmCodice::changeEvent(evento);
-  if (evento->type() == QEvent::PaletteChange) RendiLeggibili();
 }
 
 }  // namespace parvik

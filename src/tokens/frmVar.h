@@ -36,12 +36,8 @@ class frmVar final : public frmCodice {
   /// has no text: that is a section without variables.
   std::vector<std::string> Codici() const override;
 
- protected:
-  void changeEvent(QEvent* evento) override;
-
  private:
   void PreparaCaselle();
-  void RendiLeggibili();
   void Collega();
   void CollegaFormato();
   void CollegaNumero(QLineEdit& casella, std::int16_t Variabile::*campo);

@@ -11,7 +11,7 @@
 
 #include "Finestra.h"
 #include "common/frmTesto.h"
-#include "tokens/frmSettaFlag.h"
+#include "output/frmSettaFlag.h"
 
 namespace parvik {
 namespace {

@@ -1,4 +1,4 @@
-#include "tokens/frmComando.h"
+#include "template/frmComando.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tokens/frmComando.h"
+#include "template/frmComando.h"
 
 #include "common/NumeroLeniente.h"
 #include "common/frmCampi.h"

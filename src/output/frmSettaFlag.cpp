@@ -1,4 +1,4 @@
-#include "tokens/frmSettaFlag.h"
+#include "output/frmSettaFlag.h"
 
 #include <QFocusEvent>
 #include <QFontDatabase>
