@@ -87,19 +87,39 @@ void Editore::InserisciCodice(std::string_view codice) {
   vista_.InserisciCodice(sezioneAttiva_, codice);
 }
 
-std::optional<std::int16_t> Editore::ContaRigheCorpo() {
-  const Esito<ConteggioRighe> conteggio = ContaRigheSezione(vista_.Testo(Sezione::Corpo));
+std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
+  const Esito<ConteggioRighe> conteggio = ContaRigheSezione(vista_.Testo(sezione));
   if (!conteggio) {
     interlocutore_.Chiedi({.Testo = TestoErrore(conteggio.Errore())});
     return std::nullopt;
   }
-  if (conteggio->DaCompletare) vista_.CompletaUltimaRiga(Sezione::Corpo);
+  if (conteggio->DaCompletare) vista_.CompletaUltimaRiga(sezione);
   return conteggio->Righe;
 }
 
 void Editore::ImpostaCorpo(const ImpostazioniCorpo& corpo) {
   if (corpo != documento_.Corpo) documento_.Modificato = true;  // the file would be another one
   documento_.Corpo = corpo;
+}
+
+std::optional<Editore::RigheMostrate> Editore::CalcolaTotali() {
+  TotaliRighe righe;
+  righe.UnaSezione = Tipo().NumSezioni == 1;
+  const std::optional<std::int16_t> testata = ContaRighe(Sezione::Testata);
+  const std::optional<std::int16_t> piede = righe.UnaSezione ? std::int16_t{0} : ContaRighe(Sezione::Piede);
+  if (!testata || !piede) return std::nullopt;
+  righe.Testata = *testata;
+  righe.Corpo = documento_.Corpo.RigheCorpo;
+  righe.Piede = *piede;
+  const Esito<std::int16_t> pagina = righe.Pagina();
+  if (pagina) return RigheMostrate{.Righe = righe, .Pagina = *pagina};
+  interlocutore_.Chiedi({.Testo = TestoErrore(pagina.Errore())});
+  return std::nullopt;
+}
+
+void Editore::CommutaRighe() {
+  totali_ = totali_ ? std::nullopt : CalcolaTotali();
+  vista_.Aggiorna();
 }
 
 void Editore::CommutaSettaFlag() {
@@ -166,6 +186,7 @@ void Editore::TornaSenzaTipo() {
   titolo_ = TitoloSenzaTipo;
   flag_.Svuota();
   settaFlagSpuntata_ = false;
+  totali_.reset();
   vista_.RicaricaFlagStampe();
   vista_.Aggiorna();
 }

@@ -14,6 +14,7 @@
 #include "common/Interlocutore.h"
 #include "output/FlagPerStampe.h"
 #include "output/GeneraStampa.h"
+#include "output/TotaliRighe.h"
 #include "template/ComandiFile.h"
 #include "template/Documento.h"
 #include "template/Sezioni.h"
@@ -53,6 +54,13 @@ class Editore final : private Contorno {
   FlagPerStampe& Flag() { return flag_; }
   /// The check mark of the print-flags window.
   bool SettaFlagSpuntata() const { return settaFlagSpuntata_; }
+  /// The numbers of the line-totals window; nullopt while it is not shown. They are those of the moment at
+  /// which it was shown.
+  struct RigheMostrate {
+    TotaliRighe Righe;
+    std::int16_t Pagina = 0;
+  };
+  const std::optional<RigheMostrate>& Totali() const { return totali_; }
   /// The section that last had the focus; the Testata before any had it.
   Sezione SezioneAttiva() const { return sezioneAttiva_; }
 
@@ -68,6 +76,8 @@ class Editore final : private Contorno {
   void CommutaAnteprima();
   /// The menu entry of the print-flags window, and that window's own close box.
   void CommutaSettaFlag();
+  /// The menu entry of the line totals: shows the numbers of this moment, or hides them.
+  void CommutaRighe();
   void AttivaSezione(Sezione sezione) { sezioneAttiva_ = sezione; }
 
   /// The one routine through which every dialog inserts a finished code: at the caret of the active section,
@@ -82,9 +92,9 @@ class Editore final : private Contorno {
   /// What a code of that section is, for a tooltip. UTF-8.
   std::string Descrivi(Sezione sezione, std::string_view contenuto);
 
-  /// The lines of the Corpo, its last line completed; nullopt after a message when there are too many to
+  /// The lines of a section, its last line completed; nullopt after a message when there are too many to
   /// count.
-  std::optional<std::int16_t> ContaRigheCorpo();
+  std::optional<std::int16_t> ContaRighe(Sezione sezione);
   void ImpostaCorpo(const ImpostazioniCorpo& corpo);
 
   /// Whether the window may close. Asks when the template is modified.
@@ -99,6 +109,7 @@ class Editore final : private Contorno {
   void ApplicaTipoDoc();
   void CaricaFlagStampe();
   void SegnalaErroreCatalogo(NumeroErrore errore);
+  std::optional<RigheMostrate> CalcolaTotali();
   void Genera();
 
   void ImpostaTitolo(std::string titolo) override;
@@ -117,6 +128,7 @@ class Editore final : private Contorno {
   std::size_t tipoDocCorrente_ = NessunTipo;
   bool anteSpuntata_ = false;
   bool settaFlagSpuntata_ = false;
+  std::optional<RigheMostrate> totali_;
   Sezione sezioneAttiva_ = Sezione::Testata;
   /// What Descrivi reads: loaded for one section of the current type when it is first asked for.
   struct TabelleSezione {

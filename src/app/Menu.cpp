@@ -35,7 +35,7 @@ constexpr std::array Voci = {
     VoceMenu{"sep4",          Separatore, "",                        "",             Sempre,     false},
     VoceMenu{"mnuComando",    Voce,       "Co&mando corpo",          "",             TreSezioni, false},
     VoceMenu{"mnuOpzioni",    Menu,       "&Opzioni",                "",             Sempre,     false},
-    VoceMenu{"mnuRighe",      Voce,       "Totali &righe",           "",             ConTipo,    false},
+    VoceMenu{"mnuRighe",      Voce,       "Totali &righe",           "",             ConTipo,    true},
     VoceMenu{"mnuSettaFlag",  Voce,       "&Setta Flag per stampe",  "",             ConTipo,    true},
     VoceMenu{"mnuTool",       Menu,       "&Tools Comandi",          "",             ConTipo,    false},
 };

@@ -22,7 +22,7 @@ void frmMaschere::ApriMaschera(const std::string& contenuto) {
 }
 
 void frmMaschere::ApriComando() {
-  const std::optional<std::int16_t> linee = editore_.ContaRigheCorpo();
+  const std::optional<std::int16_t> linee = editore_.ContaRighe(Sezione::Corpo);
   if (!linee) return;
   frmComando comando(editore_.Modello().Corpo, *linee, &finestra_);
   if (comando.exec() == QDialog::Accepted) editore_.ImpostaCorpo(comando.Scelte());

@@ -132,6 +132,7 @@ void frmParvik::CollegaMenu() {
   collega("mnuPagina", [this] { maschere_.ApriForm(TipoCodice::Pagina); });
   collega("mnuCostante", [this] { maschere_.ApriForm(TipoCodice::Costante); });
   collega("mnuComando", [this] { maschere_.ApriComando(); });
+  collega("mnuRighe", [this] { editore_.CommutaRighe(); });
   collega("mnuSettaFlag", [this] { editore_.CommutaSettaFlag(); });
 }
 
@@ -157,6 +158,14 @@ void frmParvik::Aggiorna() {
   AggiornaMenu();
   ResizeControls();
   MostraFlagStampe();
+  MostraTotali();
+}
+
+void frmParvik::MostraTotali() {
+  const auto& totali = editore_.Totali();
+  if (totali.has_value() == (totali_ != nullptr)) return;
+  totali_ = totali ? std::make_unique<frmTotRighe>(totali->Righe, totali->Pagina, this) : nullptr;
+  if (totali_) totali_->show();
 }
 
 void frmParvik::MostraFlagStampe() {
@@ -189,6 +198,7 @@ void frmParvik::AggiornaMenu() {
   for (const VoceMenu& voce : VociMenu())
     azioni_.value(voce.Nome)->setEnabled(Abilitata(voce, editore_.PerMenu()));
   azioni_.value("mnuAnte")->setChecked(editore_.AnteSpuntata());
+  azioni_.value("mnuRighe")->setChecked(editore_.Totali().has_value());
   azioni_.value("mnuSettaFlag")->setChecked(editore_.SettaFlagSpuntata());
 }
 

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <array>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,7 @@
 #include "app/Editore.h"
 #include "app/frmMaschere.h"
 #include "output/frmSettaFlag.h"
+#include "output/frmTotRighe.h"
 #include "output/ricAnte.h"
 #include "template/txtTCP.h"
 
@@ -50,6 +52,7 @@ class frmParvik final : public QMainWindow, private Vista {
   void ScegliTipo();
   void MostraInformazioni();
   void MostraFlagStampe();
+  void MostraTotali();
   void AttivaSezione(Sezione sezione);
   void AggiornaRigaColonna();
 
@@ -59,7 +62,8 @@ class frmParvik final : public QMainWindow, private Vista {
   QLabel* lblRighe_ = nullptr;
   ricAnte* anteprima_ = nullptr;
   QHash<QString, QAction*> azioni_;
-  frmSettaFlag* settaFlag_ = nullptr;  // made when it is first shown
+  std::unique_ptr<frmTotRighe> totali_;  // made anew each time it is shown
+  frmSettaFlag* settaFlag_ = nullptr;    // made when it is first shown
   Editore editore_;
   frmMaschere maschere_;
 };

@@ -146,9 +146,13 @@ void SoloCifre(QLineEdit& campo, int massimo, const QString& altri) {
   campo.setValidator(new Filtro(campo, massimo, altri));
 }
 
+void RendiLeggibile(QLineEdit& campo) {
+  new Leggibile(campo);  // the box owns it
+}
+
 void MostraCodici(QLineEdit& campo) {
   campo.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  new Leggibile(campo);  // the box owns it
+  RendiLeggibile(campo);
 }
 
 void ImpostaComeSta(QLineEdit& campo, const QString& testo) {

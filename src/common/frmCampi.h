@@ -18,6 +18,9 @@ void SoloCifre(QLineEdit& campo, int massimo, const QString& altri = QString());
 /// Puts a text into a box of SoloCifre as it stands, unchecked and uncut.
 void ImpostaComeSta(QLineEdit& campo, const QString& testo);
 
+/// Keeps the text of a box legible although it is disabled, in every palette.
+void RendiLeggibile(QLineEdit& campo);
+
 /// Makes a box ready to show a code: columns of one width, and legible although it is disabled, in every
 /// palette.
 void MostraCodici(QLineEdit& campo);

@@ -66,7 +66,7 @@ TEST(VociMenu, AreSeparatorsExactlyWhereTheNameSaysSo) {
 TEST(VociMenu, ShowACheckMarkForWhatIsShownAndHidden) {
   for (const VoceMenu& voce : VociMenu()) {
     const std::string nome = voce.Nome;
-    EXPECT_EQ(nome == "mnuAnte" || nome == "mnuSettaFlag", voce.ConSpunta) << nome;
+    EXPECT_EQ(nome == "mnuAnte" || nome == "mnuRighe" || nome == "mnuSettaFlag", voce.ConSpunta) << nome;
   }
 }
 
