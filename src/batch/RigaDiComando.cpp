@@ -18,7 +18,7 @@ using Comando = Uscita (*)(const Opzioni&);
 
 /// What the library says of the arguments, in the user's language.
 std::string Spiega(const CLI::ParseError& errore) {
-  const std::string detto = errore.what();
+  std::string detto = errore.what();
   const auto finoA = [&detto](std::string_view segno) { return detto.substr(0, detto.find(segno)); };
   if (dynamic_cast<const CLI::RequiredError*>(&errore) != nullptr) {
     if (detto.starts_with("A subcommand")) return "manca il comando, o non è tra quelli previsti";
