@@ -9,17 +9,15 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include "Finestra.h"
+#include "Maschera.h"
 
 namespace parvik {
 namespace {
 
+using prova::Apri;
+using prova::Codici;
+using prova::Conferma;
 using prova::Trova;
-using Codici = std::vector<std::string>;
-
-std::string FraDelimitatori(const std::string& contenuto) {
-  return '\xAB' + contenuto + '\xBB';
-}
 
 constexpr int NumeroStili = 5;
 
@@ -37,17 +35,6 @@ int Scelta(const frmStile& dialogo) {
 
 QString Codice(const frmStile& dialogo) {
   return Trova<QLineEdit>(dialogo, "txtStile")->text();
-}
-
-void Apri(frmStile& dialogo) {
-  dialogo.show();
-  dialogo.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&dialogo));
-}
-
-void Conferma(frmStile& dialogo) {
-  QTest::mouseClick(Trova<QPushButton>(dialogo, "cmdOk"), Qt::LeftButton);
-  EXPECT_FALSE(dialogo.isVisible());
 }
 
 TEST(FrmStile, CaptionsAreThoseOfTheStyles) {
@@ -101,7 +88,7 @@ TEST_P(FrmStileTest, AClickOnAnOptionWritesItsCode) {
   QTest::mouseClick(Opzione(dialogo, GetParam().opzione), Qt::LeftButton, {}, {8, 8});
   EXPECT_EQ(Scelta(dialogo), GetParam().opzione);
   Conferma(dialogo);
-  EXPECT_EQ(dialogo.Codici(), Codici({FraDelimitatori(GetParam().contenuto)}));
+  EXPECT_EQ(dialogo.Codici(), Codici({ConDelimitatori(GetParam().contenuto)}));
 }
 
 TEST_P(FrmStileTest, TheFocusSelectsAnOptionAndWritesItsCode) {
@@ -110,7 +97,7 @@ TEST_P(FrmStileTest, TheFocusSelectsAnOptionAndWritesItsCode) {
   Opzione(dialogo, GetParam().opzione)->setFocus(Qt::OtherFocusReason);
   EXPECT_EQ(Scelta(dialogo), GetParam().opzione);
   Conferma(dialogo);
-  EXPECT_EQ(dialogo.Codici(), Codici({FraDelimitatori(GetParam().contenuto)}));
+  EXPECT_EQ(dialogo.Codici(), Codici({ConDelimitatori(GetParam().contenuto)}));
 }
 
 TEST_P(FrmStileTest, ACodeComesBackUnchanged) {
@@ -120,7 +107,7 @@ TEST_P(FrmStileTest, ACodeComesBackUnchanged) {
   EXPECT_TRUE(Opzione(dialogo, GetParam().opzione)->hasFocus());
   EXPECT_EQ(Scelta(dialogo), GetParam().opzione);
   Conferma(dialogo);
-  EXPECT_EQ(dialogo.Codici(), Codici({FraDelimitatori(GetParam().contenuto)}));
+  EXPECT_EQ(dialogo.Codici(), Codici({ConDelimitatori(GetParam().contenuto)}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Stili, FrmStileTest, testing::ValuesIn(Casi),
@@ -148,7 +135,7 @@ TEST(FrmStile, TheKeyboardAloneChoosesFromTheMenu) {
   EXPECT_EQ(Codice(dialogo), "«S;NORMALE»");
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-  EXPECT_EQ(dialogo.Codici(), Codici({FraDelimitatori("S;GRASSETTO")}));
+  EXPECT_EQ(dialogo.Codici(), Codici({ConDelimitatori("S;GRASSETTO")}));
 }
 
 TEST(FrmStile, TheWordIsKnownByTwoLettersInAnyCase) {
@@ -168,29 +155,6 @@ TEST(FrmStile, AnUnknownWordSelectsNormale) {
     EXPECT_EQ(Scelta(dialogo), 0) << contenuto;
     EXPECT_EQ(Codice(dialogo), "«S;NORMALE»") << contenuto;
   }
-}
-
-TEST(FrmStile, CancelAndEscapeInsertNothing) {
-  frmStile conPulsante(nullptr);
-  conPulsante.Mostra("S;GRASSETTO");
-  Apri(conPulsante);
-  QTest::mouseClick(Trova<QPushButton>(conPulsante, "cmdCanc"), Qt::LeftButton);
-  EXPECT_FALSE(conPulsante.isVisible());
-  EXPECT_EQ(conPulsante.Codici(), Codici());
-
-  frmStile conTasto(nullptr);
-  conTasto.Mostra("S;GRASSETTO");
-  Apri(conTasto);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-  EXPECT_FALSE(conTasto.isVisible());
-  EXPECT_EQ(conTasto.Codici(), Codici());
-}
-
-TEST(FrmStile, TheCloseBoxDoesNothing) {
-  frmStile dialogo(nullptr);
-  Apri(dialogo);
-  EXPECT_FALSE(dialogo.close());
-  EXPECT_TRUE(dialogo.isVisible());
 }
 
 }  // namespace
