@@ -1,5 +1,6 @@
 #include "app/frmParvik.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFontDatabase>
 #include <QMenuBar>
@@ -36,6 +37,12 @@ QRect InPixel(const Rettangolo& twip) {
 void Colloca(QWidget& controllo, const std::optional<Rettangolo>& posto) {
   controllo.setVisible(posto.has_value());
   if (posto) controllo.setGeometry(InPixel(*posto));
+}
+
+/// Over a label no column is being resized: the sizing pointer goes, any other stays.
+void RipristinaPuntatore() {
+  const QCursor* puntatore = QApplication::overrideCursor();
+  if (puntatore != nullptr && puntatore->shape() == Qt::SizeHorCursor) QApplication::restoreOverrideCursor();
 }
 
 }  // namespace
@@ -86,6 +93,8 @@ void frmParvik::CreaEtichetta(Sezione sezione) {
   etichetta->setObjectName(QStringLiteral("lblTCP_%1").arg(Indice(sezione)));
   etichetta->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   etichetta->setWordWrap(true);
+  etichetta->setMouseTracking(true);
+  etichetta->installEventFilter(this);
   etichetta->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   const int larghezza = etichetta->fontMetrics().horizontalAdvance('M') + 2 * MargineEtichette;
   etichetta->resize(larghezza, etichetta->heightForWidth(larghezza));
@@ -256,6 +265,7 @@ void frmParvik::closeEvent(QCloseEvent* evento) {
 
 bool frmParvik::eventFilter(QObject* oggetto, QEvent* evento) {
   if (oggetto == area_ && evento->type() == QEvent::Resize) ResizeControls();
+  if (oggetto != area_ && evento->type() == QEvent::MouseMove) RipristinaPuntatore();
   return QMainWindow::eventFilter(oggetto, evento);
 }
 

@@ -123,6 +123,20 @@ TEST(FinestraStato, LabelsKeepTheirColoursWhileADialogHasTheFocus) {
   EXPECT_TRUE(rossa("lblTCP_1"));
 }
 
+TEST(FinestraStato, TheMouseOverALabelEndsTheSizingPointerAndNoOther) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  auto* etichetta = Trova<QLabel>(*finestra, "lblTCP_1");
+  QApplication::setOverrideCursor(Qt::IBeamCursor);
+  QTest::mouseMove(etichetta, QPoint(3, 3));
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::IBeamCursor);
+  QApplication::changeOverrideCursor(Qt::SizeHorCursor);
+  QTest::mouseMove(etichetta, QPoint(4, 9));
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+  while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
+}
+
 TEST(FinestraCodici, TheDialogOffersTheVariablesOfTheActiveSection) {
   Finestra finestra;
   finestra.Scegli(1);
