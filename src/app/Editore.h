@@ -61,8 +61,6 @@ class Editore final : private Contorno {
     std::int16_t Pagina = 0;
   };
   const std::optional<RigheMostrate>& Totali() const { return totali_; }
-  /// The section that last had the focus; the Testata before any had it.
-  Sezione SezioneAttiva() const { return sezioneAttiva_; }
 
   // --- what the user does
 
@@ -129,7 +127,7 @@ class Editore final : private Contorno {
   bool anteSpuntata_ = false;
   bool settaFlagSpuntata_ = false;
   std::optional<RigheMostrate> totali_;
-  Sezione sezioneAttiva_ = Sezione::Testata;
+  Sezione sezioneAttiva_ = Sezione::Testata;  // the one that last had the focus
   /// What Descrivi reads: loaded for one section of the current type when it is first asked for.
   struct TabelleSezione {
     std::vector<Variabile> Variabili;

@@ -233,7 +233,7 @@ void frmParvik::ResizeControls() {
 
 void frmParvik::ColoraLabel(Sezione attiva) {
   for (const Sezione sezione : TutteLeSezioni) {
-    QPalette colori = palette();
+    QPalette colori;  // all else is the window's, whatever palette comes
     if (sezione == attiva) colori.setColor(QPalette::WindowText, RossoAttiva);
     etichette_[Indice(sezione)]->setPalette(colori);
   }

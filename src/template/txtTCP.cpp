@@ -272,6 +272,13 @@ void txtTCP::Incolla(QString testo) {
   insertPlainText(SoloAnsi(testo));
 }
 
+// Not the base class's: it turns the no-break space into a space, and a copy would not be what was copied.
+QMimeData* txtTCP::createMimeDataFromSelection() const {
+  auto* dati = new QMimeData;  // the caller owns it
+  dati->setText(textCursor().selectedText().replace(QChar::ParagraphSeparator, u'\n'));
+  return dati;
+}
+
 void txtTCP::insertFromMimeData(const QMimeData* dati) {
   if (dati->hasText()) Incolla(dati->text());
 }

@@ -61,6 +61,7 @@ class txtTCP final : public QPlainTextEdit {
   bool event(QEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
   void inputMethodEvent(QInputMethodEvent* evento) override;
+  QMimeData* createMimeDataFromSelection() const override;
   void insertFromMimeData(const QMimeData* dati) override;
   void focusInEvent(QFocusEvent* evento) override;
   void mouseDoubleClickEvent(QMouseEvent* evento) override;

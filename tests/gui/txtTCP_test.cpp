@@ -80,6 +80,18 @@ TEST(TxtTCP, PastedTextKeepsItsLinesAndLosesWhatTheCodePageDoesNotHave) {
   EXPECT_EQ(editor.Ansi(), "a\r\nb\r\nc\r\n?\x80");
 }
 
+TEST(TxtTCP, WhatIsCopiedAndPastedIsTheSameByteForByte) {
+  std::string byte;
+  for (int valore = 0; valore < 256; ++valore) byte += static_cast<char>(static_cast<unsigned char>(valore));
+  txtTCP editor(Sezione::Corpo, nullptr);
+  editor.ImpostaAnsi(byte + "\r\n");
+  editor.selectAll();
+  editor.copy();
+  editor.ImpostaAnsi("");
+  editor.paste();
+  EXPECT_EQ(editor.Ansi(), byte + "\r\n");
+}
+
 TEST(TxtTCP, ComposedTextGoesThroughTheSameDoor) {
   txtTCP editor(Sezione::Corpo, nullptr);
   editor.ImpostaAnsi("");
