@@ -3,7 +3,10 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,10 +37,17 @@ class UscitaRighe {
 
   /// Takes one or more whole lines, each ended by CR LF. False ends the run there.
   virtual bool Righe(std::string_view righe) = 0;
+
+  /// Asked each time that the run has gone over another PassoStampa bytes since it last called anything here,
+  /// within a line too. False ends the run there.
+  virtual bool Continua() { return true; }
 };
 
+/// In bytes: those that a run writes, and those of the sections that it reads without writing anything.
+inline constexpr std::size_t PassoStampa = 64UL * 1024UL;
+
 /// One run. Takes time proportional to what it reads and produces, and memory proportional to the longest
-/// line. False when `uscita` ended it.
+/// line, as far as `uscita` lets it grow. False when `uscita` ended it.
 bool GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita);
 
 /// What the preview pane shows.
@@ -50,5 +60,18 @@ inline constexpr std::string_view FineAnteprima = "--- Fine file ---";
 
 /// A run for the preview: its lines, the end marker, and the style markers turned into formatting.
 Anteprima GeneraAnteprima(const DatiStampa& dati);
+/// nullopt when `smetti` was asked for before the end.
+std::optional<Anteprima> GeneraAnteprima(const DatiStampa& dati, const std::stop_token& smetti);
+
+struct InizioAnteprima {
+  Anteprima Testo;      // without the end marker, unless Intera
+  bool Intera = false;  // it is the preview, and not a part of it
+};
+
+/// The beginning of the preview, to be shown while the whole is made: as many whole lines as `massimo` bytes
+/// of rendered text hold, style markers counted; fewer, or none, when the run goes on and on without ending a
+/// line. It looks as it does in the whole preview, but for a style marker that only what follows completes.
+/// Costs little more than rendering `massimo` bytes.
+InizioAnteprima GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo);
 
 }  // namespace parvik

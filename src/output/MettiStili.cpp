@@ -12,6 +12,8 @@ namespace {
 constexpr std::string_view InizioMarcatore = "S;";
 constexpr std::size_t LunghezzaMarcatore = 4;
 constexpr std::size_t NonTrovato = std::string_view::npos;
+constexpr std::size_t ByteTraDomande = 64UL * 1024UL;
+constexpr unsigned MarcatoriTraDomande = 1024;
 
 /// The text with a gap in it: before the gap what is finished, after it what is still to be looked at.
 /// Removing a marker widens the gap, so that nothing is moved more than once or twice.
@@ -64,27 +66,46 @@ class TestoConVarco {
 
 class Stilista {
  public:
-  explicit Stilista(std::string& testo) : testo_(testo) {}
+  Stilista(std::string& testo, const std::stop_token& smetti) : testo_(testo), smetti_(smetti) {}
 
-  std::vector<Tratto> Esegui() {
+  std::optional<std::vector<Tratto>> Esegui() {
     const Aspetto normale = Aspetto().Con(Stile::Normale);
-    const std::size_t primo = testo_.Resto().find(InizioMarcatore);
+    const std::size_t primo = Cerca(testo_.Resto(), 0);
     if (primo == NonTrovato) {
       testo_.Finisci(testo_.Resto().size(), normale);
-      return testo_.Chiudi();
+      return Chiudi();
     }
     testo_.Finisci(primo, normale);
-    while (TogliMarcatore()) {
+    for (unsigned tolti = 0; !smesso_ && TogliMarcatore(); ++tolti) {
+      if (tolti % MarcatoriTraDomande == 0) smesso_ = smetti_.stop_requested();
     }
     testo_.Finisci(testo_.Resto().size(), coda_);
-    return testo_.Chiudi();
+    return Chiudi();
   }
 
  private:
+  /// The first marker at or after `da`. NonTrovato also when the work was given up meanwhile.
+  std::size_t Cerca(std::string_view testo, std::size_t da) {
+    while (testo.size() - std::min(da, testo.size()) > ByteTraDomande) {
+      // One more: a marker may begin with the last byte.
+      const std::size_t trovato = testo.substr(da, ByteTraDomande + 1).find(InizioMarcatore);
+      if (trovato != NonTrovato) return da + trovato;
+      da += ByteTraDomande;
+      smesso_ = smetti_.stop_requested();
+      if (smesso_) return NonTrovato;
+    }
+    return testo.find(InizioMarcatore, da);
+  }
+
+  std::optional<std::vector<Tratto>> Chiudi() {
+    if (smesso_) return std::nullopt;
+    return testo_.Chiudi();
+  }
+
   /// The rest begins with a marker. Removes it, and moves on to the next one; false when there is none.
   bool TogliMarcatore() {
     const std::string_view resto = testo_.Resto();
-    const std::size_t prossimo = ultimo_ ? NonTrovato : resto.find(InizioMarcatore, InizioMarcatore.size());
+    const std::size_t prossimo = ultimo_ ? NonTrovato : Cerca(resto, InizioMarcatore.size());
     const std::optional<Stile> stile = StileDi(resto.substr(InizioMarcatore.size(), 2));
     const Aspetto aspetto = stile ? coda_.Con(*stile) : coda_;
     testo_.Togli(LunghezzaMarcatore);
@@ -116,13 +137,15 @@ class Stilista {
       return true;
     }
     if (RiprendiGiunta()) return true;
-    const std::size_t prossimo = testo_.Resto().find(InizioMarcatore);
+    const std::size_t prossimo = Cerca(testo_.Resto(), 0);
     if (prossimo == NonTrovato) return false;
     testo_.Finisci(prossimo, coda_);
     return true;
   }
 
   TestoConVarco testo_;
+  const std::stop_token& smetti_;
+  bool smesso_ = false;
   std::size_t cercaDa_ = 0;  // where the search for the next marker starts
   bool ultimo_ = false;      // no marker follows in the rest: it need not be searched again
   Aspetto coda_;             // the look of what no marker has touched yet
@@ -153,7 +176,11 @@ Aspetto Aspetto::Con(Stile stile) const {
 }
 
 std::vector<Tratto> MettiStili(std::string& testo) {
-  return Stilista(testo).Esegui();
+  return MettiStili(testo, std::stop_token()).value();
+}
+
+std::optional<std::vector<Tratto>> MettiStili(std::string& testo, const std::stop_token& smetti) {
+  return Stilista(testo, smetti).Esegui();
 }
 
 }  // namespace parvik

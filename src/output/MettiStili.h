@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -42,5 +44,8 @@ struct Tratto {
 /// for, as runs that cover the whole text. A marker is whatever reads as one, literal text included; removing
 /// one may make another of its neighbours. Linear in the text.
 std::vector<Tratto> MettiStili(std::string& testo);
+/// The same; nullopt when `smetti` was asked for before the end, and `testo` is then of no use. Looks at it
+/// every 64 KB and every 1024 markers.
+std::optional<std::vector<Tratto>> MettiStili(std::string& testo, const std::stop_token& smetti);
 
 }  // namespace parvik

@@ -21,6 +21,7 @@ struct Campione {
   std::size_t RiempiDopo = 0;
   char Riempimento = ' ';
 
+  std::size_t Lunghezza() const { return RiempiPrima + Testo.size() + Zeri + RiempiDopo; }
   void AggiungiA(std::string& riga) const;
 };
 

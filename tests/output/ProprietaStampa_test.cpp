@@ -109,6 +109,8 @@ const std::vector<std::string> Codici = {
     "\xAB",
     "\xBB"};
 
+constexpr std::string_view CodaAnteprima = "\r\n--- Fine file ---";
+
 /// A variable code with groups that may or may not make sense.
 rc::Gen<std::string> Variabili() {
   const auto gruppo =
@@ -189,6 +191,23 @@ TEST(ProprietaStampa, HoldForThePreview) {
     RC_ASSERT(anteprima.Testo == riferimento.Testo);
     RC_ASSERT(AspettiPerByte(anteprima.Testo, anteprima.Tratti) == riferimento.Aspetti);
     RC_ASSERT(!testing::Test::HasFailure());
+  }));
+}
+
+/// Of a short run: whole lines, as many as fit.
+TEST(ProprietaStampa, HoldForTheBeginningOfThePreview) {
+  EXPECT_TRUE(rc::check([] {
+    const Prova prova = ProvaCasuale();
+    const std::string intera = StampaDiRiferimento(prova.Riferimento, 2);
+    const std::string righe = intera.substr(0, intera.size() - std::min(intera.size(), CodaAnteprima.size()));
+    const auto massimo = *rc::gen::inRange<std::size_t>(0, righe.size() + 3);
+    const InizioAnteprima inizio = GeneraInizioAnteprima(prova.Dati(), massimo);
+    RC_ASSERT(inizio.Intera == (righe.size() <= massimo));
+    const std::size_t fine = righe.substr(0, massimo).rfind("\r\n");
+    const TestoConAspetti riferimento = StiliDiRiferimento(
+        inizio.Intera ? intera : righe.substr(0, fine == std::string::npos ? 0 : fine + 2));
+    RC_ASSERT(inizio.Testo.Testo == riferimento.Testo);
+    RC_ASSERT(AspettiPerByte(inizio.Testo.Testo, inizio.Testo.Tratti) == riferimento.Aspetti);
   }));
 }
 
