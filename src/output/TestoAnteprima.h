@@ -39,8 +39,8 @@ class TestoAnteprima {
   std::size_t RigaPiuLunga() const { return rigaPiuLunga_; }
 
   /// The line's first byte, and the byte behind its last character (its CR, or the text's end).
-  std::size_t InizioRiga(std::size_t riga) const;
-  std::size_t TermineRiga(std::size_t riga) const;
+  std::size_t InizioRiga(std::size_t riga) const { return PostoDi(riga).Inizio; }
+  std::size_t TermineRiga(std::size_t riga) const { return PostoDi(riga).Termine; }
   /// Without its line end. Valid as long as this text is neither changed nor moved.
   std::string_view Riga(std::size_t riga) const;
   /// The line that `byte` lies in; its CR and LF are part of a line. Past the end of the text: the last one.
@@ -50,11 +50,12 @@ class TestoAnteprima {
   std::span<const Tratto> TrattiIn(std::size_t da, std::size_t a) const;
   /// At and past the end of the text: the look of its last byte, or the pane's own when there is none.
   Aspetto AspettoDi(std::size_t byte) const;
-  /// How many of the bytes before `byte` have each look. Widths are sums over it, however many runs there are.
+  /// How many of the bytes before `byte` have each look. Widths are sums over it, however many runs there
+  /// are.
   PerAspetto<std::size_t> Conta(std::size_t byte) const;
 
-  /// The width of the widest line, a character of each look being as wide as `larghezze` says. Linear in lines
-  /// and runs.
+  /// The width of the widest line, a character of each look being as wide as `larghezze` says. Linear in
+  /// lines and runs.
   double LarghezzaMassima(const PerAspetto<double>& larghezze) const;
 
  private:
@@ -63,9 +64,15 @@ class TestoAnteprima {
     std::size_t Byte = 0;
   };
 
+  struct Posto {  // a line, without its end
+    std::size_t Inizio = 0;
+    std::size_t Termine = 0;
+  };
+
   void IndicizzaRighe();
   void IndicizzaTratti();
-  std::size_t TrattoDopo(std::size_t byte) const;
+  Posto PostoDi(std::size_t riga) const;
+  std::size_t TrattoCheFinisceDopo(std::size_t byte) const;
 
   Anteprima anteprima_;
   std::vector<Tappa> tappe_;

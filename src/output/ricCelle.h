@@ -1,4 +1,5 @@
-// Cells of a fixed-pitch font in the looks of a preview: their sizes on a screen or a page, and their drawing.
+// Cells of a fixed-pitch font in the looks of a preview: their sizes on a screen or a page, and their
+// drawing.
 #pragma once
 
 #include <QFont>
@@ -67,7 +68,8 @@ AltezzeRiga AltezzeDi(const TestoAnteprima& testo, std::size_t riga, const Celle
 /// last character is the line's right end. Columns past it give that end too.
 qreal XDi(const TestoAnteprima& testo, std::size_t riga, std::size_t colonna, const Celle& celle);
 
-/// The column whose cell holds `x`; 0 on the left of the line, the one behind the last character on its right.
+/// The column whose cell holds `x`; 0 on the left of the line, the one behind the last character on its
+/// right.
 std::size_t ColonnaA(const TestoAnteprima& testo, std::size_t riga, qreal x, const Celle& celle);
 
 /// Draws the columns [da, a) of a line that starts (with its column 0) at `base`, on the baseline. Touches
