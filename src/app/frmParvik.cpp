@@ -11,6 +11,7 @@
 #include "app/frmAbout.h"
 #include "catalogue/frmScelta.h"
 #include "common/frmTesto.h"
+#include "output/ricAccessibile.h"
 #include "template/txtAccessibile.h"
 
 namespace parvik {
@@ -60,6 +61,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
 
 void frmParvik::CreaControlli() {
   txtAccessibile::Registra();
+  ricAccessibile::Registra();
   area_ = new QWidget(this);
   area_->installEventFilter(this);
   setCentralWidget(area_);

@@ -1,35 +1,146 @@
-// The preview pane: rendered text with its formatting, to be read and selected, not edited.
+// The preview pane: rendered text with its formatting, to be read and selected, not edited. It draws the
+// lines that show and nothing else, so that a preview of any size is there at once.
 #pragma once
 
-#include <QPlainTextEdit>
+#include <QAbstractScrollArea>
+#include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QPoint>
+#include <QRect>
+#include <cstddef>
+#include <memory>
+#include <optional>
 
 #include "output/GeneraStampa.h"
+#include "output/MovimentiAnteprima.h"
+#include "output/TestoAnteprima.h"
+#include "output/ricCelle.h"
+#include "output/ricVeduta.h"
 
 namespace parvik {
 
-class ricAnte final : public QPlainTextEdit {
+class ricAnte final : public QAbstractScrollArea {
   Q_OBJECT
 
  public:
+  enum class Movimento {
+    CarattereDopo,
+    CarattereDavanti,
+    ParolaDopo,
+    ParolaDavanti,
+    InizioRiga,
+    TermineRiga,
+    InizioTesto,
+    FineTesto,
+    RigaSopra,
+    RigaSotto,
+    PaginaSopra,
+    PaginaSotto,
+  };
+
   explicit ricAnte(QWidget* padre);
 
-  /// Replaces the content. The caret is at the start, and nothing is selected.
-  void Mostra(const Anteprima& anteprima);
+  /// Replaces the content. The caret is at the start, nothing is selected, and the start shows.
+  void Mostra(Anteprima anteprima);
 
-  /// Where the caret stands, both from 1. Lines are those of the text; nothing wraps.
+  /// Replaces the content by a longer one that begins with it. Caret, selection and what shows stay.
+  void Completa(Anteprima anteprima);
+
+  const TestoAnteprima& Contenuto() const { return *testo_; }
+
+  /// What is selected, in bytes of the text; the caret alone when nothing is.
+  Selezione Selezionato() const;
+
+  /// The caret's place, and the other end of the selection.
+  std::size_t Cursore() const { return cursore_; }
+  std::size_t Ancora() const { return ancora_; }
+
+  /// Selects from `ancora` to `cursore`, where the caret is then, and shows the caret. Places that the caret
+  /// cannot stand at are moved to one.
+  void Seleziona(std::size_t ancora, std::size_t cursore);
+
+  void SelezionaTutto();
+
+  /// Puts the selected text on the clipboard, lines separated by line feeds. Without a selection nothing.
+  void Copia() const;
+
+  /// Where the selection starts, both from 1. Lines are those of the text; nothing wraps.
   struct Posto {
-    int Riga = 1;
-    int Colonna = 1;
+    std::size_t Riga = 1;
+    std::size_t Colonna = 1;
   };
   Posto RigaColonna() const;
+
+  // In the viewport's coordinates.
+
+  /// The character at a place of the caret; estimated for a line that does not show.
+  QRect RettangoloDi(std::size_t byte) const;
+  /// The place whose character covers a point of the viewport.
+  std::size_t CarattereA(QPoint punto) const;
+  /// Scrolls as little as shows the place.
+  void Rivela(std::size_t byte);
 
  signals:
   /// The pane was clicked, or an arrow key was released in it.
   void CursoreMosso();
 
  protected:
+  bool event(QEvent* evento) override;
+  void changeEvent(QEvent* evento) override;
+  void paintEvent(QPaintEvent* evento) override;
+  void resizeEvent(QResizeEvent* evento) override;
+  void scrollContentsBy(int dx, int dy) override;
+  void showEvent(QShowEvent* evento) override;
+  void timerEvent(QTimerEvent* evento) override;
+  void focusInEvent(QFocusEvent* evento) override;
+  void focusOutEvent(QFocusEvent* evento) override;
+  void keyPressEvent(QKeyEvent* evento) override;
   void keyReleaseEvent(QKeyEvent* evento) override;
+  void mousePressEvent(QMouseEvent* evento) override;
+  void mouseMoveEvent(QMouseEvent* evento) override;
   void mouseReleaseEvent(QMouseEvent* evento) override;
+  void mouseDoubleClickEvent(QMouseEvent* evento) override;
+  void contextMenuEvent(QContextMenuEvent* evento) override;
+
+ private:
+  enum class Grana { Carattere, Parola, Riga };  // what a drag selects by
+
+  VedutaAnteprima Veduta() const;
+  void Rimisura();
+  void RimisuraSeDiverso();
+  void MisuraLarghezza();
+  void AggiornaBarre();
+  void AccendiCursore();
+  void Imposta(std::size_t ancora, std::size_t cursore);
+
+  static bool Riconosce(const QKeyEvent& evento);
+  void Muovi(Movimento dove, bool seleziona);
+  std::size_t InOrizzontale(Movimento dove, bool seleziona) const;
+  std::size_t InVerticale(Movimento dove);
+  void OffriSelezione() const;
+
+  void IniziaTrascinamento(QPoint punto, const Selezione& pezzo, Grana grana);
+  void EstendiSelezione(QPoint punto);
+  void ScorriTrascinando();
+
+  std::shared_ptr<const TestoAnteprima> testo_;  // the clipboard may keep it longer
+  std::optional<Celle> celle_;
+  qreal rapporto_ = 0;  // the device's pixel ratio and resolution that the cells were made for
+  int risoluzione_ = 0;
+  int larghezza_ = 0;  // of the widest line, in pixels
+
+  std::size_t cursore_ = 0;
+  std::size_t ancora_ = 0;
+  std::optional<qreal> xVoluta_;  // where vertical movements started
+  bool cursoreAcceso_ = false;
+  QBasicTimer lampeggio_;
+
+  Grana grana_ = Grana::Carattere;
+  Selezione pezzoIniziale_;  // what the drag started with
+  std::optional<QPoint> trascina_;
+  QBasicTimer scorrimento_;
+  QElapsedTimer dopoDoppio_;
+  QPoint puntoDoppio_;
 };
 
 }  // namespace parvik

@@ -72,6 +72,9 @@ qreal XDi(const TestoAnteprima& testo, std::size_t riga, std::size_t colonna, co
 /// right.
 std::size_t ColonnaA(const TestoAnteprima& testo, std::size_t riga, qreal x, const Celle& celle);
 
+/// The column whose left edge is nearest to `x`.
+std::size_t ColonnaVicina(const TestoAnteprima& testo, std::size_t riga, qreal x, const Celle& celle);
+
 /// Draws the columns [da, a) of a line that starts (with its column 0) at `base`, on the baseline. Touches
 /// nothing of the line but these. Returns how many characters it has drawn.
 std::size_t DisegnaRiga(QPainter& pittore, QPointF base, const TestoAnteprima& testo, std::size_t riga,

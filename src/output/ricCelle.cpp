@@ -1,0 +1,210 @@
+#include "output/ricCelle.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+#include <vector>
+
+#include "common/frmTesto.h"
+
+namespace parvik {
+namespace {
+
+constexpr double Tolleranza = 0.01;  // in parts of a cell: sums of advances are rounded
+
+QFont ConAspetto(QFont carattere, const Aspetto& aspetto) {
+  carattere.setWeight(aspetto.Grassetto ? QFont::Bold : QFont::Normal);
+  carattere.setItalic(aspetto.Italico);
+  carattere.setUnderline(aspetto.Sottolineato);
+  carattere.setPointSizeF(Punti(aspetto.Corpo));
+  // No ligatures: a cell holds one character.
+  carattere.setStyleStrategy(
+      static_cast<QFont::StyleStrategy>(carattere.styleStrategy() | QFont::PreferNoShaping));
+  return carattere;
+}
+
+}  // namespace
+
+QFont CarattereAnteprima() {
+  QFont carattere(QStringList{"Lucida Console", "Liberation Mono", "DejaVu Sans Mono"});
+  carattere.setStyleHint(QFont::TypeWriter);
+  carattere.setFixedPitch(true);
+  carattere.setPointSizeF(Punti(CorpoCarattere::Disegno));
+  return carattere;
+}
+
+Celle::Celle(const QFont& base, const QPaintDevice* dispositivo) : base_(base), dispositivo_(dispositivo) {}
+
+Celle::Faccia& Celle::FacciaDi(const Aspetto& aspetto) const {
+  std::optional<Faccia>& faccia = facce_[IndiceDi(aspetto)];
+  if (!faccia) {
+    faccia.emplace();
+    faccia->Carattere = QFont(ConAspetto(base_, aspetto), dispositivo_);
+    const QFontMetricsF misure(faccia->Carattere, dispositivo_);
+    faccia->Avanzamento = misure.horizontalAdvance(u'M');
+    faccia->Ascesa = std::ceil(misure.ascent());
+    faccia->Discesa = std::ceil(misure.descent());
+  }
+  return *faccia;
+}
+
+const QFont& Celle::Carattere(const Aspetto& aspetto) const {
+  return FacciaDi(aspetto).Carattere;
+}
+
+qreal Celle::Avanzamento(const Aspetto& aspetto) const {
+  return FacciaDi(aspetto).Avanzamento;
+}
+
+qreal Celle::Ascesa(const Aspetto& aspetto) const {
+  return FacciaDi(aspetto).Ascesa;
+}
+
+qreal Celle::Discesa(const Aspetto& aspetto) const {
+  return FacciaDi(aspetto).Discesa;
+}
+
+/// Most characters are as wide as a cell and can be drawn together; a stand-in may come from another font.
+bool Celle::StaNellaCella(Faccia& faccia, char byte, QChar segno) const {
+  Larghezza& larghezza = faccia.Larghezze[static_cast<unsigned char>(byte)];
+  if (larghezza == Larghezza::Ignota) {
+    const qreal misura = QFontMetricsF(faccia.Carattere, dispositivo_).horizontalAdvance(segno);
+    const bool uguale = std::abs(misura - faccia.Avanzamento) <= Tolleranza * faccia.Avanzamento;
+    larghezza = uguale ? Larghezza::Cella : Larghezza::Propria;
+  }
+  return larghezza == Larghezza::Cella;
+}
+
+void Celle::Disegna(QPainter& pittore, QPointF base, std::string_view byte, const Aspetto& aspetto) const {
+  Faccia& faccia = FacciaDi(aspetto);
+  QString insieme = PerSchermo(byte);
+  std::vector<std::pair<std::size_t, QChar>> stretti;
+  for (std::size_t i = 0; i < byte.size(); ++i) {
+    QChar& segno = insieme[static_cast<qsizetype>(i)];
+    if (segno == QChar::SoftHyphen) segno = u'-';  // it would not be drawn
+    if (StaNellaCella(faccia, byte[i], segno)) continue;
+    stretti.emplace_back(i, segno);
+    segno = u' ';  // keeps an underline whole
+  }
+  pittore.setFont(faccia.Carattere);
+  pittore.drawText(base, insieme);
+  for (const auto& [i, segno] : stretti) {
+    DisegnaStretto(pittore, base + QPointF(static_cast<qreal>(i) * faccia.Avanzamento, 0), segno, faccia);
+  }
+}
+
+/// A character in the middle of its cell, made narrower when it does not fit.
+void Celle::DisegnaStretto(QPainter& pittore, QPointF base, QChar segno, const Faccia& faccia) const {
+  const qreal larghezza = QFontMetricsF(faccia.Carattere, dispositivo_).horizontalAdvance(segno);
+  const qreal scala = larghezza > faccia.Avanzamento ? faccia.Avanzamento / larghezza : 1;
+  QFont carattere = faccia.Carattere;
+  carattere.setUnderline(false);  // its cell is underlined already
+  pittore.save();
+  pittore.setFont(carattere);
+  pittore.translate(base.x() + (faccia.Avanzamento - larghezza * scala) / 2, base.y());
+  pittore.scale(scala, 1);
+  pittore.drawText(QPointF(), segno);
+  pittore.restore();
+}
+
+AltezzeRiga AltezzeDi(const TestoAnteprima& testo, std::size_t riga, const Celle& celle) {
+  const std::size_t inizio = testo.InizioRiga(riga);
+  const std::size_t termine = testo.TermineRiga(riga);
+  AltezzeRiga altezze;
+  const auto contiene = [&altezze, &celle](const Aspetto& aspetto) {
+    altezze.Ascesa = std::max(altezze.Ascesa, celle.Ascesa(aspetto));
+    altezze.Discesa = std::max(altezze.Discesa, celle.Discesa(aspetto));
+  };
+  if (inizio == termine) {
+    contiene(testo.AspettoDi(termine));
+    return altezze;
+  }
+  const auto prima = testo.Conta(inizio);
+  const auto dopo = testo.Conta(termine);
+  for (std::size_t i = 0; i < NumAspetti; ++i) {
+    if (dopo[i] > prima[i]) contiene(AspettoDiIndice(i));
+  }
+  return altezze;
+}
+
+namespace {
+
+/// The columns of a line and their left edges.
+class Colonne {
+ public:
+  Colonne(const TestoAnteprima& testo, std::size_t riga, const Celle& celle)
+      : testo_(testo),
+        celle_(celle),
+        inizio_(testo.InizioRiga(riga)),
+        quante_(testo.TermineRiga(riga) - inizio_),
+        prima_(testo.Conta(inizio_)) {}
+
+  std::size_t Quante() const { return quante_; }
+
+  qreal X(std::size_t colonna) const {
+    const auto fino = testo_.Conta(inizio_ + std::min(colonna, quante_));
+    qreal x = 0;
+    for (std::size_t i = 0; i < NumAspetti; ++i) {
+      if (fino[i] > prima_[i])
+        x += static_cast<qreal>(fino[i] - prima_[i]) * celle_.Avanzamento(AspettoDiIndice(i));
+    }
+    return x;
+  }
+
+ private:
+  const TestoAnteprima& testo_;
+  const Celle& celle_;
+  std::size_t inizio_;
+  std::size_t quante_;
+  PerAspetto<std::size_t> prima_;
+};
+
+}  // namespace
+
+qreal XDi(const TestoAnteprima& testo, std::size_t riga, std::size_t colonna, const Celle& celle) {
+  return Colonne(testo, riga, celle).X(colonna);
+}
+
+std::size_t ColonnaA(const TestoAnteprima& testo, std::size_t riga, qreal x, const Celle& celle) {
+  const Colonne colonne(testo, riga, celle);
+  if (x < 0) return 0;
+  std::size_t da = 0;  // its left edge is not behind x
+  std::size_t a = colonne.Quante() + 1;
+  while (a - da > 1) {
+    const std::size_t mezzo = da + (a - da) / 2;
+    (colonne.X(mezzo) <= x ? da : a) = mezzo;
+  }
+  return da;
+}
+
+std::size_t ColonnaVicina(const TestoAnteprima& testo, std::size_t riga, qreal x, const Celle& celle) {
+  const std::size_t colonna = ColonnaA(testo, riga, x, celle);
+  const qreal sinistra = XDi(testo, riga, colonna, celle);
+  const qreal destra = XDi(testo, riga, colonna + 1, celle);
+  return destra > sinistra && x >= (sinistra + destra) / 2 ? colonna + 1 : colonna;
+}
+
+std::size_t DisegnaRiga(QPainter& pittore, QPointF base, const TestoAnteprima& testo, std::size_t riga,
+                        std::size_t da, std::size_t a, const Celle& celle) {
+  const std::size_t inizio = testo.InizioRiga(riga);
+  const std::size_t fine = inizio + std::min(a, testo.TermineRiga(riga) - inizio);
+  std::size_t p = inizio + da;
+  if (p >= fine) return 0;
+  base.rx() += XDi(testo, riga, da, celle);
+  const std::size_t disegnati = fine - p;
+  const auto finoA = [&](std::size_t termine, const Aspetto& aspetto) {
+    if (termine <= p) return;
+    celle.Disegna(pittore, base, testo.Testo().substr(p, termine - p), aspetto);
+    base.rx() += static_cast<qreal>(termine - p) * celle.Avanzamento(aspetto);
+    p = termine;
+  };
+  for (const Tratto& tratto : testo.TrattiIn(p, fine)) {
+    finoA(tratto.Inizio, Aspetto());  // what no run covers
+    finoA(std::min(tratto.Inizio + tratto.Lunghezza, fine), tratto.Come);
+  }
+  finoA(fine, Aspetto());
+  return disegnati;
+}
+
+}  // namespace parvik
