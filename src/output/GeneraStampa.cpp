@@ -72,7 +72,8 @@ class Corsa {
   }
 
   bool Scrivi(const Campione& campione) {
-    if (campione.Lunghezza() > MezzoPasso) [[unlikely]] return ScriviAPassi(campione);
+    if (campione.Lunghezza() > MezzoPasso) [[unlikely]]
+      return ScriviAPassi(campione);
     campione.AggiungiA(blocco_);
     return Prosegui();
   }
@@ -101,7 +102,8 @@ class Corsa {
   /// Asks the output when half a step is done. No piece that is added without asking is longer than the other
   /// half.
   bool Prosegui() {
-    if (blocco_.size() + letti_ < prossimaDomanda_) [[likely]] return true;
+    if (blocco_.size() + letti_ < prossimaDomanda_) [[likely]]
+      return true;
     RicominciaPasso();
     return uscita_.Continua();
   }

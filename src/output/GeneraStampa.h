@@ -38,7 +38,7 @@ class UscitaRighe {
   /// Takes one or more whole lines, each ended by CR LF. False ends the run there.
   virtual bool Righe(std::string_view righe) = 0;
 
-  /// Asked each time that the run has gone over another PassoStampa bytes since it last called anything here,
+  /// Asked at the latest when the run has gone over PassoStampa bytes since it last called anything here,
   /// within a line too. False ends the run there.
   virtual bool Continua() { return true; }
 };
