@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "common/Windows1252.h"
 #include "common/frmTesto.h"
 
 namespace parvik {
@@ -65,13 +66,16 @@ qreal Celle::Discesa(const Aspetto& aspetto) const {
   return FacciaDi(aspetto).Discesa;
 }
 
-/// Most characters are as wide as a cell and can be drawn together; a stand-in may come from another font.
+/// Most characters are as wide as a cell and are drawn together. A stand-in may come from another font, with
+/// an underline at another height.
 bool Celle::StaNellaCella(Faccia& faccia, char byte, QChar segno) const {
-  Larghezza& larghezza = faccia.Larghezze[static_cast<unsigned char>(byte)];
+  const auto numero = static_cast<unsigned char>(byte);
+  Larghezza& larghezza = faccia.Larghezze[numero];
   if (larghezza == Larghezza::Ignota) {
     const qreal misura = QFontMetricsF(faccia.Carattere, dispositivo_).horizontalAdvance(segno);
     const bool uguale = std::abs(misura - faccia.Avanzamento) <= Tolleranza * faccia.Avanzamento;
-    larghezza = uguale ? Larghezza::Cella : Larghezza::Propria;
+    const bool sostituto = segno != QChar(UnicodeDiAnsi[numero]);
+    larghezza = uguale && !sostituto ? Larghezza::Cella : Larghezza::Propria;
   }
   return larghezza == Larghezza::Cella;
 }

@@ -6,6 +6,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include "common/frmTesto.h"
+
 namespace parvik::prova {
 
 void NelProssimoDialogo(const std::function<void(QDialog&)>& compito) {
@@ -39,6 +41,10 @@ void Finestra::Attiva() {
 
 QPlainTextEdit& Finestra::Sezione(int indice) {
   return *Trova<QPlainTextEdit>(*finestra_, qPrintable(QStringLiteral("txtTCP_%1").arg(indice)));
+}
+
+QString Finestra::TestoAnteprima() {
+  return PerSchermo(Anteprima().Contenuto().Testo());
 }
 
 void Finestra::Scegli(int numero) {

@@ -45,7 +45,9 @@ class Finestra {
 
   QAction& Azione(const char* nome) { return *Trova<QAction>(*finestra_, nome); }
   QPlainTextEdit& Sezione(int indice);
-  QPlainTextEdit& Anteprima() { return *Trova<QPlainTextEdit>(*finestra_, "ricAnte"); }
+  ricAnte& Anteprima() { return *Trova<ricAnte>(*finestra_, "ricAnte"); }
+  /// What the pane shows, its line ends as line feeds.
+  QString TestoAnteprima();
 
   /// Chooses a document type through the menu and the dialog, by its number.
   void Scegli(int numero);

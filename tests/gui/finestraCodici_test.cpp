@@ -59,7 +59,7 @@ TEST(FinestraFlag, AFlagThatIsSetShowsItsCodeInThePreview) {
   finestra.Azione("mnuSettaFlag").trigger();
   finestra.Azione("mnuAnte").trigger();
   finestra.Azione("mnuAnte").trigger();
-  EXPECT_TRUE(finestra.Anteprima().toPlainText().startsWith("estero\n"));
+  EXPECT_TRUE(finestra.TestoAnteprima().startsWith("estero\n"));
 }
 
 TEST(FinestraFlag, OpeningAFileSetsEveryRowToFalse) {
@@ -94,7 +94,7 @@ TEST(FinestraStato, ArrowKeysAndClicksInThePreviewShowLineAndColumn) {
   finestra.Azione("mnuAnte").trigger();
   finestra.Azione("mnuAnte").trigger();
   const auto* stato = Trova<QLabel>(*finestra, "lblRighe");
-  QPlainTextEdit& anteprima = finestra.Anteprima();
+  ricAnte& anteprima = finestra.Anteprima();
   QTest::keyClick(&anteprima, Qt::Key_Up);
   EXPECT_EQ(stato->text(), "Riga: 1 Col.: 1");
   QTest::keyClick(&anteprima, Qt::Key_Down);
@@ -103,7 +103,7 @@ TEST(FinestraStato, ArrowKeysAndClicksInThePreviewShowLineAndColumn) {
   QTest::keyClick(&anteprima, Qt::Key_End);
   EXPECT_EQ(stato->text(), "Riga: 2 Col.: 2") << "other keys leave it as it is";
   QTest::mouseClick(anteprima.viewport(), Qt::LeftButton, {},
-                    anteprima.cursorRect().topLeft() + QPoint(0, 3));
+                    anteprima.RettangoloDi(anteprima.Cursore()).topLeft() + QPoint(0, 3));
   EXPECT_EQ(stato->text(), "Riga: 2 Col.: 3");
 }
 

@@ -35,7 +35,7 @@ TEST_P(OgniEsempio, ThePreviewEndsWithTheEndMarkerAndHoldsNoCode) {
   finestra.Apri(GetParam().File);
   EXPECT_FALSE(finestra.Azione("mnuAnte").isChecked()) << "opening turns the preview off";
   finestra.Azione("mnuAnte").trigger();
-  const QString testo = finestra.Anteprima().toPlainText();
+  const QString testo = finestra.TestoAnteprima();
   EXPECT_TRUE(testo.endsWith("\n\n--- Fine file ---")) << testo.right(40).toStdString();
   EXPECT_FALSE(testo.contains(QChar(0xAB)));
   EXPECT_FALSE(testo.contains("S;"));
