@@ -1,4 +1,3 @@
-#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -7,8 +6,8 @@
 #include "batch/Comandi.h"
 #include "batch/Lettura.h"
 #include "batch/Messaggi.h"
-#include "common/ScritturaSicura.h"
 #include "output/GeneraStampa.h"
+#include "output/StampaSuFile.h"
 
 namespace parvik::batch {
 namespace {
@@ -16,24 +15,6 @@ namespace {
 class SuUscitaStandard final : public UscitaRighe {
  public:
   bool Righe(std::string_view righe) override { return Stampa(righe); }
-};
-
-class SuFile final : public UscitaRighe {
- public:
-  SuFile(std::filesystem::path percorso, ScritturaSicura file)
-      : percorso_(std::move(percorso)), file_(std::move(file)) {}
-
-  bool Righe(std::string_view righe) override { return Controlla(file_.Scrivi(righe)); }
-  bool Conferma() { return Controlla(file_.Conferma()); }
-
- private:
-  bool Controlla(const Esito<void>& esito) {
-    if (!esito) Segnala(percorso_, esito.Errore());
-    return static_cast<bool>(esito);
-  }
-
-  std::filesystem::path percorso_;
-  ScritturaSicura file_;
 };
 
 enum class FlagCaricati { Tutti, InParte, NonCaricabili };
@@ -88,11 +69,15 @@ bool StampaSuFile(const Opzioni& opzioni, const TipoDoc& tipo, const FlagPerStam
     Segnala(*opzioni.Uscita, file.Errore());
     return false;
   }
-  SuFile uscita(*opzioni.Uscita, std::move(*file));
+  RigheSuFile uscita(std::move(*file));
   const std::optional<std::size_t> resi = RendiTutti(opzioni, tipo, flag, uscita);
   // Where nothing at all could be rendered, the old file is not replaced by an empty one.
-  if (!resi || *resi == 0) return false;
-  return uscita.Conferma() && *resi == opzioni.File.size();
+  if (resi == 0) return false;
+  if (const Esito<void> scritto = uscita.Conferma(); !scritto) {
+    Segnala(*opzioni.Uscita, scritto.Errore());
+    return false;
+  }
+  return resi == opzioni.File.size();
 }
 
 bool StampaSuUscitaStandard(const Opzioni& opzioni, const TipoDoc& tipo, const FlagPerStampe& flag) {

@@ -41,6 +41,11 @@ std::filesystem::path TrovaSenzaCaso(const std::filesystem::path& cartella, std:
   return migliore.empty() ? esatto : cartella / migliore;
 }
 
+std::filesystem::path ConEstensione(std::filesystem::path percorso, std::string_view estensione) {
+  if (percorso.filename().string().find('.') == std::string::npos) percorso += estensione;
+  return percorso;
+}
+
 std::string UltimiCaratteri(std::string_view utf8, std::size_t quanti) {
   std::size_t inizio = utf8.size();
   while (quanti > 0 && inizio > 0) {

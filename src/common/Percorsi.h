@@ -18,6 +18,9 @@ bool UgualiSenzaCaso(std::string_view a, std::string_view b);
 /// Whether something that is not a folder stands at `percorso` (links are followed). Errors read as "no".
 bool EsisteFile(const std::filesystem::path& percorso);
 
+/// The path with `estensione` (".img") added when its file name has none.
+std::filesystem::path ConEstensione(std::filesystem::path percorso, std::string_view estensione);
+
 /// The last `quanti` characters (not bytes) of UTF-8 text; the whole of it when it is shorter.
 std::string UltimiCaratteri(std::string_view utf8, std::size_t quanti);
 

@@ -29,16 +29,11 @@ std::string NomeProposto(const TipoDoc& tipo) {
   return nome;
 }
 
-fs::path ConEstensione(fs::path percorso) {
-  if (percorso.filename().string().find('.') == std::string::npos) percorso += EstensioneModelli;
-  return percorso;
-}
-
 /// The file that a chosen or typed name means: as it stands, or with the extension, in any case of its
 /// letters.
 fs::path FileDaAprire(const fs::path& scelto) {
   if (EsisteFile(scelto)) return scelto;
-  const fs::path completo = ConEstensione(scelto);
+  const fs::path completo = ConEstensione(scelto, EstensioneModelli);
   return TrovaSenzaCaso(completo.parent_path(), completo.filename().string());
 }
 
@@ -120,7 +115,7 @@ void ComandiFile::SalvaConNome(const TipoDoc& tipo) {
   richiesta.NomeProposto = NomeProposto(tipo);
   const fs::path scelto = interlocutore_.ScegliFile(richiesta);
   if (scelto.empty()) return;
-  const fs::path percorso = ConEstensione(scelto);
+  const fs::path percorso = ConEstensione(scelto, EstensioneModelli);
   if (!Scrivi(percorso, tipo)) return;  // silent; the template stays modified
   documento_.NomeFile = percorso;
   // The sections show what the file holds. It was written just now: a failure to read it back loses nothing.

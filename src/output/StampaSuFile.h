@@ -1,0 +1,41 @@
+// The destination that is a text file: the rendered lines, each ended by CR LF, without style markers and
+// without an end marker (docs/printing.md).
+#pragma once
+
+#include <filesystem>
+#include <stop_token>
+#include <string_view>
+
+#include "common/Esito.h"
+#include "common/ScritturaSicura.h"
+#include "output/GeneraStampa.h"
+
+namespace parvik {
+
+/// The lines of one or more runs on their way into a file. The file is replaced by Conferma, as a whole; an
+/// object that goes away unconfirmed leaves it as it was.
+class RigheSuFile final : public UscitaRighe {
+ public:
+  /// `smetti` ends the run under way.
+  explicit RigheSuFile(ScritturaSicura file, std::stop_token smetti = {});
+
+  bool Righe(std::string_view righe) override;
+  bool Continua() override { return !smetti_.stop_requested(); }
+
+  /// What went wrong with the file so far, the giving up not included.
+  const Esito<void>& Scritto() const { return scritto_; }
+
+  /// Makes the lines the file's content, unless writing them has failed already.
+  Esito<void> Conferma();
+
+ private:
+  ScritturaSicura file_;
+  std::stop_token smetti_;
+  Esito<void> scritto_;
+};
+
+/// One run into one file. True when it stands there whole; on a failure, and when `smetti` was asked for, the
+/// old file is as it was.
+bool StampaSuFile(const std::filesystem::path& file, const DatiStampa& dati, const std::stop_token& smetti);
+
+}  // namespace parvik
