@@ -7,6 +7,7 @@ namespace parvik {
 namespace {
 
 constexpr int AltezzaStato = 255;
+constexpr int LarghezzaMinima = 120 * TwipPerPixel;
 constexpr int TraSezioni = 1;  // one twip between the boxes
 
 /// Half to even, as the program rounds everywhere.
@@ -14,13 +15,29 @@ int Dividi(int valore, int divisore) {
   return static_cast<int>(std::nearbyint(static_cast<double>(valore) / divisore));
 }
 
+/// Of one column when both are as wide as each other, or of the only one.
+int LarghezzaColonna(const Finestra& finestra) {
+  const int tutta = finestra.Larghezza == 0 ? 0 : std::max(0, finestra.Larghezza - finestra.SinistraSezioni);
+  return finestra.Anteprima ? Dividi(tutta, 2) : tutta;
+}
+
+/// The right edge of the preview, wherever the boundary is.
+int DestraAnteprima(const Finestra& finestra) {
+  return finestra.SinistraSezioni + 2 * LarghezzaColonna(finestra);
+}
+
 }  // namespace
+
+bool DivisoreAmmesso(const Finestra& finestra, int divisore) {
+  const int minima = std::min(LarghezzaMinima, finestra.Larghezza / 4);
+  return divisore - finestra.SinistraSezioni >= minima && finestra.Larghezza - divisore >= minima;
+}
 
 Disposizione Disponi(const Finestra& finestra) {
   Disposizione disposizione;
   const int sinistra = finestra.SinistraSezioni;
-  int larghezza = finestra.Larghezza == 0 ? 0 : std::max(0, finestra.Larghezza - sinistra);
-  if (finestra.Anteprima) larghezza = Dividi(larghezza, 2);
+  int larghezza = LarghezzaColonna(finestra);
+  if (finestra.Anteprima && finestra.Divisore) larghezza = *finestra.Divisore - sinistra;
   if (finestra.TreSezioni) {
     const int altezza = Dividi(finestra.Altezza, static_cast<int>(MaxSezioni));
     for (std::size_t i = 0; i < MaxSezioni; ++i) {
@@ -32,10 +49,11 @@ Disposizione Disponi(const Finestra& finestra) {
     disposizione.Sezioni[0] = Rettangolo{sinistra, 0, larghezza, finestra.Altezza};
   }
   if (finestra.Anteprima) {
-    const int destra = sinistra + larghezza;
-    disposizione.StatoAnteprima = Rettangolo{destra, 0, larghezza, AltezzaStato};
+    const int divisore = sinistra + larghezza;
+    const int resto = DestraAnteprima(finestra) - divisore;
+    disposizione.StatoAnteprima = Rettangolo{divisore, 0, resto, AltezzaStato};
     disposizione.Anteprima =
-        Rettangolo{destra, AltezzaStato, larghezza, std::max(0, finestra.Altezza - AltezzaStato)};
+        Rettangolo{divisore, AltezzaStato, resto, std::max(0, finestra.Altezza - AltezzaStato)};
   }
   return disposizione;
 }

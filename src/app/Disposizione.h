@@ -27,7 +27,13 @@ struct Finestra {
   int SinistraEtichette = 0;  // left edge of the labels, as designed
   bool TreSezioni = false;
   bool Anteprima = false;
+  /// Where the user has put the boundary between sections and preview; in the middle by itself.
+  std::optional<int> Divisore = std::nullopt;
 };
+
+/// Whether the boundary may stand there: both columns keep 120 pixels, or a quarter of the window's width
+/// where that is less.
+bool DivisoreAmmesso(const Finestra& finestra, int divisore);
 
 /// Only what is laid out has a place; the rest is hidden.
 struct Disposizione {

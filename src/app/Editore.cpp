@@ -150,30 +150,8 @@ bool Editore::PuoChiudere() {
   return !TipoScelto() || comandi_.PuoChiudere(Tipo());
 }
 
-void Editore::CommutaAnteprima() {
-  anteSpuntata_ = !anteSpuntata_;
-  vista_.Aggiorna();
-  if (anteSpuntata_) Genera();
-}
-
-void Editore::Genera() {
-  TestiSezioni testi;
-  for (const Sezione sezione : TutteLeSezioni) testi[Indice(sezione)] = vista_.Testo(sezione);
-  DatiStampa dati{.Testi = {},
-                  .NumSezioni = Tipo().NumSezioni,
-                  .RigheCorpo = documento_.Corpo.RigheCorpo,
-                  .LineeCorpo = documento_.Corpo.LineeCorpo,
-                  .Flag = flag_};
-  for (std::size_t i = 0; i < MaxSezioni; ++i) dati.Testi[i] = testi[i];
-  vista_.MostraAnteprima(GeneraAnteprima(dati));
-}
-
 void Editore::ImpostaTitolo(std::string titolo) {
   titolo_ = std::move(titolo);
-}
-
-void Editore::SpegniAnteprima() {
-  if (anteSpuntata_) CommutaAnteprima();
 }
 
 void Editore::AzzeraFlagStampe() {

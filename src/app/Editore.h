@@ -3,7 +3,10 @@
 
 #include <array>
 #include <cstdint>
+#include <filesystem>
+#include <functional>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,8 +15,10 @@
 #include "app/Menu.h"
 #include "catalogue/Catalogo.h"
 #include "common/Interlocutore.h"
+#include "output/Destinazione.h"
 #include "output/FlagPerStampe.h"
 #include "output/GeneraStampa.h"
+#include "output/LavoroStampa.h"
 #include "output/TotaliRighe.h"
 #include "template/ComandiFile.h"
 #include "template/Documento.h"
@@ -26,7 +31,21 @@ class Vista : public Sezioni {
  public:
   /// The editor's state has changed: caption, menus, what is visible, layout.
   virtual void Aggiorna() = 0;
-  virtual void MostraAnteprima(const Anteprima& anteprima) = 0;
+  /// Fills the preview pane anew: the caret at its start, nothing selected.
+  virtual void MostraAnteprima(Anteprima anteprima) = 0;
+  /// Puts the whole text in the place of its beginning, which was shown first; what the user has done in the
+  /// pane meanwhile stays.
+  virtual void CompletaAnteprima(Anteprima anteprima) = 0;
+  /// Runs `lavoro` on a thread of its own while the window stays alive, and returns when it has ended. When
+  /// it takes long the window says so, and lets it be given up: then `lavoro` is asked to stop. Fails when
+  /// `lavoro` ran out of memory.
+  virtual Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) = 0;
+  /// The destination of a print; nullopt when it was given up.
+  virtual std::optional<Destinazione> ScegliDestinazione() = 0;
+  /// Asks for a printer. What it returns prints the preview pane's content, or its selection, under the name
+  /// of the print job (UTF-8), and says nothing of failures. Empty when no printer was chosen.
+  using Tipografo = std::function<void(const std::string& nomeLavoro)>;
+  virtual Tipografo ScegliStampante() = 0;
   /// Puts a finished code (bytes, with its delimiters) in place of the section's selection.
   virtual void InserisciCodice(Sezione sezione, std::string_view codice) = 0;
   /// The print flags were loaded anew, set to false or discarded.
@@ -72,6 +91,8 @@ class Editore final : private Contorno {
   void SalvaConNome();
   /// The menu entry of the preview: turns it on, which renders, or off.
   void CommutaAnteprima();
+  /// The print command: asks for the destination, and renders or prints to it.
+  void Stampa();
   /// The menu entry of the print-flags window, and that window's own close box.
   void CommutaSettaFlag();
   /// The menu entry of the line totals: shows the numbers of this moment, or hides them.
@@ -108,7 +129,12 @@ class Editore final : private Contorno {
   void CaricaFlagStampe();
   void SegnalaErroreCatalogo(NumeroErrore errore);
   std::optional<RigheMostrate> CalcolaTotali();
-  void Genera();
+  LavoroStampa Lavoro() const;
+  /// Both: false when the run was given up, or ran out of memory.
+  bool Genera();
+  bool AccendiAnteprima();
+  void StampaSuCarta();
+  void StampaTesto();
 
   void ImpostaTitolo(std::string titolo) override;
   void SpegniAnteprima() override;
@@ -125,6 +151,7 @@ class Editore final : private Contorno {
   std::string titolo_;
   std::size_t tipoDocCorrente_ = NessunTipo;
   bool anteSpuntata_ = false;
+  std::filesystem::path fileStampa_;  // what the last save dialog of the print command gave
   bool settaFlagSpuntata_ = false;
   std::optional<RigheMostrate> totali_;
   Sezione sezioneAttiva_ = Sezione::Testata;  // the one that last had the focus

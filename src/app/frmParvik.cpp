@@ -7,10 +7,13 @@
 #include <cmath>
 #include <utility>
 
-#include "app/Disposizione.h"
 #include "app/frmAbout.h"
+#include "app/frmDivisore.h"
 #include "catalogue/frmScelta.h"
+#include "common/frmAttesa.h"
 #include "common/frmTesto.h"
+#include "output/frmDestStampa.h"
+#include "output/frmStampante.h"
 #include "output/ricAccessibile.h"
 #include "template/txtAccessibile.h"
 
@@ -40,10 +43,11 @@ void Colloca(QWidget& controllo, const std::optional<Rettangolo>& posto) {
   if (posto) controllo.setGeometry(InPixel(*posto));
 }
 
-/// Over a label no column is being resized: the sizing pointer goes, any other stays.
-void RipristinaPuntatore() {
-  const QCursor* puntatore = QApplication::overrideCursor();
-  if (puntatore != nullptr && puntatore->shape() == Qt::SizeHorCursor) QApplication::restoreOverrideCursor();
+/// The pane's selection, or all of it.
+Selezione DaStampare(const ricAnte& pannello) {
+  const Selezione scelta = pannello.Selezionato();
+  if (scelta.Lunghezza > 0) return scelta;
+  return {.Inizio = 0, .Lunghezza = pannello.Contenuto().Testo().size()};
 }
 
 }  // namespace
@@ -73,6 +77,14 @@ void frmParvik::CreaControlli() {
   lblRighe_->setObjectName("lblRighe");
   anteprima_ = new ricAnte(area_);
   connect(anteprima_, &ricAnte::CursoreMosso, this, &frmParvik::AggiornaRigaColonna);
+  CreaDivisore();
+}
+
+void frmParvik::CreaDivisore() {
+  auto* divisore = new frmDivisore(anteprima_, this);
+  for (txtTCP* sezione : sezioni_) divisore->Osserva(sezione);
+  for (QLabel* etichetta : etichette_) divisore->Osserva(etichetta);
+  connect(divisore, &frmDivisore::Spostato, this, &frmParvik::SpostaDivisore);
 }
 
 void frmParvik::CreaSezione(Sezione sezione) {
@@ -95,8 +107,6 @@ void frmParvik::CreaEtichetta(Sezione sezione) {
   etichetta->setObjectName(QStringLiteral("lblTCP_%1").arg(Indice(sezione)));
   etichetta->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   etichetta->setWordWrap(true);
-  etichetta->setMouseTracking(true);
-  etichetta->installEventFilter(this);
   etichetta->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   const int larghezza = etichetta->fontMetrics().horizontalAdvance('M') + 2 * MargineEtichette;
   etichetta->resize(larghezza, etichetta->heightForWidth(larghezza));
@@ -133,6 +143,7 @@ void frmParvik::CollegaMenu() {
   collega("mnuApri", [this] { editore_.Apri(); });
   collega("mnuSalva", [this] { editore_.Salva(); });
   collega("mnuSalvaNome", [this] { editore_.SalvaConNome(); });
+  collega("mnuStampa", [this] { editore_.Stampa(); });
   collega("mnuInfo", [this] { MostraInformazioni(); });
   collega("mnuEsci", [this] { close(); });
   collega("mnuAnte", [this] { editore_.CommutaAnteprima(); });
@@ -213,16 +224,26 @@ void frmParvik::AggiornaMenu() {
   azioni_.value("mnuSettaFlag")->setChecked(editore_.SettaFlagSpuntata());
 }
 
+Finestra frmParvik::Misure() const {
+  return {.Larghezza = InTwip(area_->width()),
+          .Altezza = InTwip(area_->height()),
+          .SinistraSezioni = InTwip(2 * SinistraEtichette + etichette_[0]->width()),
+          .SinistraEtichette = InTwip(SinistraEtichette),
+          .TreSezioni = editore_.TreSezioni(),
+          .Anteprima = editore_.AnteVisibile(),
+          .Divisore = divisore_};
+}
+
+void frmParvik::SpostaDivisore(int x) {
+  if (!DivisoreAmmesso(Misure(), InTwip(x))) return;
+  divisore_ = InTwip(x);
+  ResizeControls();
+}
+
 void frmParvik::ResizeControls() {
+  if (!editore_.AnteVisibile()) divisore_.reset();
   Disposizione disposizione;
-  if (editore_.TipoScelto()) {
-    disposizione = Disponi({.Larghezza = InTwip(area_->width()),
-                            .Altezza = InTwip(area_->height()),
-                            .SinistraSezioni = InTwip(2 * SinistraEtichette + etichette_[0]->width()),
-                            .SinistraEtichette = InTwip(SinistraEtichette),
-                            .TreSezioni = editore_.TreSezioni(),
-                            .Anteprima = editore_.AnteVisibile()});
-  }
+  if (editore_.TipoScelto()) disposizione = Disponi(Misure());
   for (std::size_t i = 0; i < MaxSezioni; ++i) {
     Colloca(*sezioni_[i], disposizione.Sezioni[i]);
     const auto& etichetta = disposizione.Etichette[i];
@@ -253,8 +274,34 @@ void frmParvik::CompletaUltimaRiga(Sezione sezione) {
   sezioni_[Indice(sezione)]->CompletaUltimaRiga();
 }
 
-void frmParvik::MostraAnteprima(const Anteprima& anteprima) {
-  anteprima_->Mostra(anteprima);
+void frmParvik::MostraAnteprima(Anteprima anteprima) {
+  anteprima_->Mostra(std::move(anteprima));
+}
+
+void frmParvik::CompletaAnteprima(Anteprima anteprima) {
+  anteprima_->Completa(std::move(anteprima));
+}
+
+Esito<void> frmParvik::Attendi(const std::function<void(std::stop_token)>& lavoro) {
+  inAttesa_ = true;
+  Esito<void> atteso = AttendiLavoro(this, lavoro);
+  inAttesa_ = false;
+  return atteso;
+}
+
+std::optional<Destinazione> frmParvik::ScegliDestinazione() {
+  frmDestStampa dialogo(this);
+  dialogo.exec();
+  return dialogo.Scelta();
+}
+
+Vista::Tipografo frmParvik::ScegliStampante() {
+  const std::shared_ptr<QPrinter> stampante = ChiediStampante(this);
+  if (!stampante) return {};
+  return [this, stampante](const std::string& nomeLavoro) {
+    stampante->setDocName(DaUtf8(nomeLavoro));
+    StampaConAttesa(*stampante, anteprima_->Contenuto(), DaStampare(*anteprima_), this);
+  };
 }
 
 void frmParvik::InserisciCodice(Sezione sezione, std::string_view codice) {
@@ -262,12 +309,14 @@ void frmParvik::InserisciCodice(Sezione sezione, std::string_view codice) {
 }
 
 void frmParvik::closeEvent(QCloseEvent* evento) {
-  evento->setAccepted(editore_.PuoChiudere());
+  evento->setAccepted(!inAttesa_ && editore_.PuoChiudere());
 }
 
 bool frmParvik::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (oggetto == area_ && evento->type() == QEvent::Resize) ResizeControls();
-  if (oggetto != area_ && evento->type() == QEvent::MouseMove) RipristinaPuntatore();
+  if (oggetto == area_ && evento->type() == QEvent::Resize) {
+    divisore_.reset();
+    ResizeControls();
+  }
   return QMainWindow::eventFilter(oggetto, evento);
 }
 

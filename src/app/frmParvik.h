@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "app/Avvio.h"
+#include "app/Disposizione.h"
 #include "app/Editore.h"
 #include "app/frmMaschere.h"
 #include "output/frmSettaFlag.h"
@@ -36,17 +37,24 @@ class frmParvik final : public QMainWindow, private Vista {
   void ImpostaTesto(Sezione sezione, std::string_view testo) override;
   void CompletaUltimaRiga(Sezione sezione) override;
   void Aggiorna() override;
-  void MostraAnteprima(const Anteprima& anteprima) override;
+  void MostraAnteprima(Anteprima anteprima) override;
+  void CompletaAnteprima(Anteprima anteprima) override;
+  Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override;
+  std::optional<Destinazione> ScegliDestinazione() override;
+  Tipografo ScegliStampante() override;
   void InserisciCodice(Sezione sezione, std::string_view codice) override;
   void RicaricaFlagStampe() override;
 
   void CreaControlli();
+  void CreaDivisore();
   void CreaEtichetta(Sezione sezione);
   void CreaSezione(Sezione sezione);
   void CreaMenu();
   void CollegaMenu();
   void AggiornaMenu();
+  Finestra Misure() const;
   void ResizeControls();
+  void SpostaDivisore(int x);
   void ColoraLabel(Sezione attiva);
 
   void ScegliTipo();
@@ -61,6 +69,8 @@ class frmParvik final : public QMainWindow, private Vista {
   std::array<QLabel*, MaxSezioni> etichette_ = {};
   QLabel* lblRighe_ = nullptr;
   ricAnte* anteprima_ = nullptr;
+  std::optional<int> divisore_;  // in twips; where the user has dragged the boundary since the last resize
+  bool inAttesa_ = false;        // a command waits for its work: the window stays
   QHash<QString, QAction*> azioni_;
   std::unique_ptr<frmTotRighe> totali_;  // made anew each time it is shown
   frmSettaFlag* settaFlag_ = nullptr;    // made when it is first shown

@@ -7,6 +7,8 @@
 #include "app/Avvio.h"
 #include "app/Versione.h"
 #include "app/frmParvik.h"
+#include "app/frmSegnali.h"
+#include "common/SegnaliFine.h"
 #include "common/frmDialoghi.h"
 #include "common/frmItaliano.h"
 
@@ -39,6 +41,7 @@ bool RispostoSenzaFinestra(int argc, char** argv) {
 int main(int argc, char** argv) {
   if (RispostoSenzaFinestra(argc, argv)) return EXIT_SUCCESS;
   parvik::PreparaLocale();
+  const parvik::SegnaliFine segnali;  // before the toolkit's threads
   QApplication programma(argc, argv);
   QApplication::setApplicationName("parvik32");
   QApplication::setWindowIcon(QIcon(":/ordavia.png"));
@@ -49,6 +52,11 @@ int main(int argc, char** argv) {
   if (!dati) return EXIT_FAILURE;
   parvik::frmParvik finestra(std::move(*dati), dialoghi);
   dialoghi.ImpostaPadre(&finestra);
+  const parvik::frmSegnali fineSessione(segnali, [&finestra] {
+    if (!finestra.close()) return false;
+    QApplication::exit();  // a dialog may still be open in front of the closed window
+    return true;
+  });
   finestra.show();
   return QApplication::exec();
 }

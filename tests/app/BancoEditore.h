@@ -22,7 +22,24 @@ class VistaFinta final : public Vista {
   void ImpostaTesto(Sezione sezione, std::string_view testo) override { Testi[Indice(sezione)] = testo; }
   void CompletaUltimaRiga(Sezione sezione) override { Testi[Indice(sezione)] += "\r\n"; }
   void Aggiorna() override { ++Aggiornamenti; }
-  void MostraAnteprima(const Anteprima& anteprima) override { Anteprime.push_back(anteprima.Testo); }
+  void MostraAnteprima(Anteprima anteprima) override { Anteprime.push_back(std::move(anteprima.Testo)); }
+  void CompletaAnteprima(Anteprima anteprima) override { Completate.push_back(std::move(anteprima.Testo)); }
+  Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override {
+    if (Attesa == ComeAttende::SenzaMemoria) return NumeroErrore::MemoriaEsaurita;
+    std::stop_source smetti;
+    if (Attesa == ComeAttende::Smette) smetti.request_stop();
+    lavoro(smetti.get_token());
+    return {};
+  }
+  std::optional<Destinazione> ScegliDestinazione() override {
+    ++RichiesteDestinazione;
+    return DestinazioneScelta;
+  }
+  Tipografo ScegliStampante() override {
+    ++RichiesteStampante;
+    if (!ConStampante) return {};
+    return [this](const std::string& nomeLavoro) { LavoriStampati.push_back(nomeLavoro); };
+  }
   void InserisciCodice(Sezione sezione, std::string_view codice) override {
     Testi[Indice(sezione)] += codice;
   }
@@ -32,6 +49,15 @@ class VistaFinta final : public Vista {
   int Aggiornamenti = 0;
   int RicaricheFlag = 0;
   std::vector<std::string> Anteprime;
+  std::vector<std::string> Completate;
+
+  enum class ComeAttende { FinoAllaFine, Smette, SenzaMemoria };
+  ComeAttende Attesa = ComeAttende::FinoAllaFine;
+  std::optional<Destinazione> DestinazioneScelta;  // what the person at the screen chooses
+  bool ConStampante = false;
+  int RichiesteDestinazione = 0;
+  int RichiesteStampante = 0;
+  std::vector<std::string> LavoriStampati;
 };
 
 /// Slots of the example catalogue.

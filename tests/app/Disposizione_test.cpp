@@ -107,6 +107,48 @@ TEST(Disponi, NeverGivesANegativeSize) {
   EXPECT_EQ((Rettangolo{375, 255, 0, 0}), d.Anteprima);
 }
 
+Finestra ConAnteprima(int larghezza) {
+  Finestra finestra = DiDimensioni(larghezza, 6000);
+  finestra.Anteprima = true;
+  return finestra;
+}
+
+TEST(Disponi, ADraggedBoundaryMovesBothColumnsAndLeavesThePreviewsRightEdge) {
+  Finestra finestra = ConAnteprima(9375);
+  finestra.TreSezioni = true;
+  finestra.Divisore = 3000;
+  const Disposizione d = Disponi(finestra);
+  EXPECT_EQ((Rettangolo{375, 0, 2625, 2000}), d.Sezioni[0]);
+  EXPECT_EQ((Rettangolo{375, 2001, 2625, 2000}), d.Sezioni[1]);
+  EXPECT_EQ((Rettangolo{375, 4002, 2625, 2000}), d.Sezioni[2]);
+  EXPECT_EQ((Rettangolo{60, 2001, 0, 0}), d.Etichette[1]);
+  EXPECT_EQ((Rettangolo{3000, 0, 6375, 255}), d.StatoAnteprima);
+  EXPECT_EQ((Rettangolo{3000, 255, 6375, 5745}), d.Anteprima);
+}
+
+TEST(Disponi, WithoutAPreviewThereIsNoBoundary) {
+  Finestra finestra = DiDimensioni(9375, 6001);
+  const Disposizione prima = Disponi(finestra);
+  finestra.Divisore = 3000;
+  EXPECT_EQ(prima, Disponi(finestra));
+}
+
+TEST(DivisoreAmmesso, LeavesEachColumnAHundredAndTwentyPixels) {
+  const Finestra finestra = ConAnteprima(15375);
+  EXPECT_FALSE(DivisoreAmmesso(finestra, 375 + 1799));
+  EXPECT_TRUE(DivisoreAmmesso(finestra, 375 + 1800));
+  EXPECT_TRUE(DivisoreAmmesso(finestra, 15375 - 1800));
+  EXPECT_FALSE(DivisoreAmmesso(finestra, 15375 - 1799));
+}
+
+TEST(DivisoreAmmesso, LeavesEachColumnAQuarterOfANarrowWindow) {
+  const Finestra finestra = ConAnteprima(4000);
+  EXPECT_FALSE(DivisoreAmmesso(finestra, 375 + 999));
+  EXPECT_TRUE(DivisoreAmmesso(finestra, 375 + 1000));
+  EXPECT_TRUE(DivisoreAmmesso(finestra, 4000 - 1000));
+  EXPECT_FALSE(DivisoreAmmesso(finestra, 4000 - 999));
+}
+
 }  // namespace
 }  // namespace prova
 }  // namespace parvik

@@ -1,0 +1,115 @@
+// The editor's commands that render: preview and print.
+#include <system_error>
+#include <utility>
+
+#include "app/Editore.h"
+#include "common/Percorsi.h"
+#include "output/StampaSuFile.h"
+
+namespace parvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What is rendered at once, in the time that a hand takes to leave a key; more is worth a thread.
+constexpr std::size_t ParteImmediata = 4UL * 1024UL * 1024UL;
+constexpr const char* NomeLavoroSenzaFile = "Ordavia";
+constexpr const char* EstensioneTesti = ".txt";
+
+/// Where text files are offered: the host's folder for them, or the host's own when it has none.
+fs::path CartellaTesti(const Installazione& installazione) {
+  fs::path cartella = installazione.DirStm();
+  std::error_code errore;
+  return fs::is_directory(cartella, errore) ? cartella : installazione.DirVelkor;
+}
+
+}  // namespace
+
+LavoroStampa Editore::Lavoro() const {
+  LavoroStampa lavoro;
+  for (const Sezione sezione : TutteLeSezioni) lavoro.Testi[Indice(sezione)] = vista_.Testo(sezione);
+  lavoro.NumSezioni = Tipo().NumSezioni;
+  lavoro.RigheCorpo = documento_.Corpo.RigheCorpo;
+  lavoro.LineeCorpo = documento_.Corpo.LineeCorpo;
+  lavoro.Flag = flag_;
+  return lavoro;
+}
+
+bool Editore::Genera() {
+  const LavoroStampa lavoro = Lavoro();
+  InizioAnteprima inizio = GeneraInizioAnteprima(lavoro.Dati(), ParteImmediata);
+  vista_.MostraAnteprima(std::move(inizio.Testo));
+  if (inizio.Intera) return true;
+  std::optional<Anteprima> intera;
+  const Esito<void> atteso =
+      vista_.Attendi([&](const std::stop_token& smetti) { intera = GeneraAnteprima(lavoro.Dati(), smetti); });
+  if (!atteso) interlocutore_.Chiedi({.Testo = TestoErrore(atteso.Errore())});
+  if (!intera) return false;
+  vista_.CompletaAnteprima(std::move(*intera));
+  return true;
+}
+
+bool Editore::AccendiAnteprima() {
+  anteSpuntata_ = true;
+  vista_.Aggiorna();
+  return Genera();
+}
+
+void Editore::SpegniAnteprima() {
+  anteSpuntata_ = false;
+  vista_.Aggiorna();
+}
+
+void Editore::CommutaAnteprima() {
+  if (anteSpuntata_) {
+    SpegniAnteprima();
+  } else {
+    AccendiAnteprima();
+  }
+}
+
+void Editore::Stampa() {
+  if (!comandi_.VerificaStampa(Tipo())) return;
+  const std::optional<Destinazione> destinazione = vista_.ScegliDestinazione();
+  if (!destinazione) return;
+  switch (*destinazione) {
+    case Destinazione::Stampante:
+      return StampaSuCarta();
+    case Destinazione::File:
+      return StampaTesto();
+    case Destinazione::Anteprima:
+      AccendiAnteprima();  // renders again where it is on already
+  }
+}
+
+/// Failures are silent, and so is giving up the choice of the printer. A preview that is shown is printed as
+/// it stands.
+void Editore::StampaSuCarta() {
+  const Vista::Tipografo stampa = vista_.ScegliStampante();
+  if (!stampa) return;
+  if (!anteSpuntata_ && !AccendiAnteprima()) return;
+  stampa(documento_.NomeFile.empty() ? NomeLavoroSenzaFile : documento_.NomeFile.filename().string());
+}
+
+/// An existing file is replaced without a question. Failures are silent.
+void Editore::StampaTesto() {
+  RichiestaFile richiesta;
+  richiesta.Uso = RichiestaFile::Scopo::Salva;
+  richiesta.Cartella = CartellaTesti(installazione_);
+  richiesta.EtichettaFiltro = "File TXT (*.txt)";
+  richiesta.Modello = "*.txt";
+  if (!fileStampa_.empty()) {
+    richiesta.NomeProposto = fileStampa_.string();
+  } else if (!documento_.NomeFile.empty()) {
+    richiesta.NomeProposto = documento_.NomeFile.stem().string() + EstensioneTesti;
+  }
+  const fs::path scelto = interlocutore_.ScegliFile(richiesta);
+  if (scelto.empty()) return;
+  fileStampa_ = ConEstensione(scelto, EstensioneTesti);
+  const LavoroStampa lavoro = Lavoro();
+  // The command is silent on every failure: the old file, if there was one, is whole.
+  static_cast<void>(vista_.Attendi(
+      [&](const std::stop_token& smetti) { StampaSuFile(fileStampa_, lavoro.Dati(), smetti); }));
+}
+
+}  // namespace parvik

@@ -1,0 +1,103 @@
+#include "output/ricCarta.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <vector>
+
+#include "output/ricCelle.h"
+
+namespace parvik {
+namespace {
+
+constexpr double ScalaMinima = 0.5;  // of text that is still read
+
+/// Lengths are the painter's: dots of the printer, made smaller where the text is too wide for the page.
+class Carta {
+ public:
+  Carta(QPrinter& stampante, QPainter& pittore, const TestoAnteprima& testo)
+      : stampante_(stampante),
+        pittore_(pittore),
+        testo_(testo),
+        celle_(CarattereAnteprima(), &stampante),
+        pagina_(stampante.pageRect(QPrinter::DevicePixel).size()) {
+    const double scala = Scala();
+    pittore_.scale(scala, scala);
+    pagina_ /= scala;
+  }
+
+  /// Prints the columns [da, a) of a line. Whether a page was finished before it.
+  bool Stampa(std::size_t riga, std::size_t da, std::size_t a) {
+    const AltezzeRiga altezze = AltezzeDi(testo_, riga, celle_);
+    const std::vector<std::size_t> fini = Spezza(riga, da, a);
+    const bool nuova = !CiSta(static_cast<qreal>(fini.size()) * altezze.Altezza()) && y_ > 0;
+    if (nuova) NuovaPagina();
+    for (const std::size_t fine : fini) {
+      if (!CiSta(altezze.Altezza()) && y_ > 0) NuovaPagina();  // one line, longer than a whole page
+      const qreal x = XDi(testo_, riga, da, celle_);
+      DisegnaRiga(pittore_, {-x, y_ + altezze.Ascesa}, testo_, riga, da, fine, celle_);
+      y_ += altezze.Altezza();
+      da = fine;
+    }
+    return nuova;
+  }
+
+ private:
+  /// What makes the widest line fit, or nothing when it would be too small to be read.
+  double Scala() const {
+    PerAspetto<double> larghezze = {};
+    for (std::size_t i = 0; i < NumAspetti; ++i) larghezze[i] = celle_.Avanzamento(AspettoDiIndice(i));
+    const double larghezza = testo_.LarghezzaMassima(larghezze);
+    if (larghezza <= pagina_.width()) return 1;
+    const double scala = pagina_.width() / larghezza;
+    return scala < ScalaMinima ? 1 : scala;
+  }
+
+  /// Where each row of a line ends: as many columns as the page is wide.
+  std::vector<std::size_t> Spezza(std::size_t riga, std::size_t da, std::size_t a) const {
+    std::vector<std::size_t> fini;
+    do {
+      const qreal destra = XDi(testo_, riga, da, celle_) + pagina_.width();
+      da = std::min(a, std::max(da + 1, ColonnaA(testo_, riga, destra, celle_)));
+      fini.push_back(da);
+    } while (da < a);
+    return fini;
+  }
+
+  bool CiSta(qreal altezza) const { return y_ + altezza <= pagina_.height(); }
+
+  void NuovaPagina() {
+    stampante_.newPage();
+    y_ = 0;
+  }
+
+  QPrinter& stampante_;
+  QPainter& pittore_;
+  const TestoAnteprima& testo_;
+  Celle celle_;
+  QSizeF pagina_;
+  qreal y_ = 0;
+};
+
+}  // namespace
+
+bool StampaSuCarta(QPrinter& stampante, const TestoAnteprima& testo, const Selezione& parte,
+                   const std::function<bool(std::size_t)>& avanza) {
+  QPainter pittore;
+  if (!pittore.begin(&stampante)) return false;
+  pittore.setPen(Qt::black);
+  Carta carta(stampante, pittore, testo);
+  const std::size_t ultima = testo.RigaDi(parte.Fine());
+  for (std::size_t riga = testo.RigaDi(parte.Inizio); riga <= ultima; ++riga) {
+    const std::size_t inizio = testo.InizioRiga(riga);
+    const std::size_t da = std::max(parte.Inizio, inizio) - inizio;
+    if (parte.Fine() == inizio && parte.Lunghezza > 0) break;  // the part ends with a line end
+    const std::size_t a = std::max(std::min(parte.Fine(), testo.TermineRiga(riga)) - inizio, da);
+    if (carta.Stampa(riga, da, a) && !avanza(inizio + da)) {
+      stampante.abort();
+      return false;
+    }
+  }
+  return pittore.end();
+}
+
+}  // namespace parvik

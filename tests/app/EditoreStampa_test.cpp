@@ -1,0 +1,225 @@
+#include <gmock/gmock.h>
+
+#include "BancoEditore.h"
+
+namespace parvik::prova {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Stampa : public BancoEditore {
+ protected:
+  Stampa() {
+    editore_.ScegliTipo(Listino);
+    vista_.Testi[0] = "Listino «V1;5»\r\n«S;GR»fine\r\n";
+    for (std::string& testo : vista_.Testi) testo = Byte(testo);
+    vista_.Anteprime.clear();
+  }
+
+  /// From UTF-8 with « » for the delimiters.
+  static std::string Byte(std::string testo) {
+    for (const auto& [utf8, byte] : {std::pair("«", '\xAB'), std::pair("»", '\xBB')}) {
+      for (std::size_t i = 0; (i = testo.find(utf8, i)) != std::string::npos;) testo.replace(i, 2, 1, byte);
+    }
+    return testo;
+  }
+
+  void StampaSu(std::optional<Destinazione> destinazione) {
+    vista_.DestinazioneScelta = destinazione;
+    editore_.Stampa();
+  }
+
+  void StampaSuFile(const std::filesystem::path& file) {
+    interlocutore_.Scegliera(file);
+    StampaSu(Destinazione::File);
+  }
+};
+
+constexpr const char* TestoReso = "Listino $$$$$\r\nfine\r\n";
+
+TEST_F(Stampa, AnEmptyTemplateAsksForNoDestination) {
+  vista_.Testi[0] = "\r\n";
+  StampaSu(Destinazione::Anteprima);
+  EXPECT_EQ(vista_.RichiesteDestinazione, 0);
+  EXPECT_THAT(vista_.Anteprime, IsEmpty());
+}
+
+TEST_F(Stampa, CancelInTheDestinationDialogDoesNothingAtAll) {
+  StampaSu(std::nullopt);
+  EXPECT_EQ(vista_.RichiesteDestinazione, 1);
+  EXPECT_EQ(vista_.RichiesteStampante, 0);
+  EXPECT_THAT(vista_.Anteprime, IsEmpty());
+  EXPECT_THAT(interlocutore_.Richieste, IsEmpty());
+}
+
+TEST_F(Stampa, AnteprimaShowsAHiddenPreviewAndRendersIt) {
+  editore_.CommutaAnteprima();
+  ASSERT_FALSE(editore_.AnteVisibile());
+  StampaSu(Destinazione::Anteprima);
+  EXPECT_TRUE(editore_.AnteVisibile());
+  EXPECT_THAT(vista_.Anteprime, ElementsAre(std::string(TestoReso) + "\r\n--- Fine file ---"));
+}
+
+TEST_F(Stampa, AnteprimaRendersAShownPreviewAgain) {
+  ASSERT_TRUE(editore_.AnteVisibile());
+  StampaSu(Destinazione::Anteprima);
+  StampaSu(Destinazione::Anteprima);
+  EXPECT_TRUE(editore_.AnteVisibile());
+  EXPECT_EQ(vista_.Anteprime.size(), 2U);
+}
+
+TEST_F(Stampa, GivingUpTheChoiceOfThePrinterEndsTheCommand) {
+  editore_.CommutaAnteprima();
+  StampaSu(Destinazione::Stampante);
+  EXPECT_EQ(vista_.RichiesteStampante, 1);
+  EXPECT_FALSE(editore_.AnteVisibile());
+  EXPECT_THAT(vista_.Anteprime, IsEmpty());
+}
+
+TEST_F(Stampa, AHiddenPreviewIsShownAndRenderedBeforeItIsPrinted) {
+  editore_.CommutaAnteprima();
+  vista_.ConStampante = true;
+  StampaSu(Destinazione::Stampante);
+  EXPECT_TRUE(editore_.AnteVisibile());
+  EXPECT_EQ(vista_.Anteprime.size(), 1U);
+  EXPECT_THAT(vista_.LavoriStampati, ElementsAre("Ordavia"));
+}
+
+TEST_F(Stampa, AShownPreviewIsPrintedAsItStandsWithoutRendering) {
+  vista_.ConStampante = true;
+  StampaSu(Destinazione::Stampante);
+  EXPECT_THAT(vista_.Anteprime, IsEmpty());
+  EXPECT_THAT(vista_.LavoriStampati, ElementsAre("Ordavia"));
+}
+
+TEST_F(Stampa, ThePrintJobHasTheNameOfTheFile) {
+  interlocutore_.Scegliera(FileNuovo());
+  editore_.SalvaConNome();
+  vista_.ConStampante = true;
+  StampaSu(Destinazione::Stampante);
+  EXPECT_THAT(vista_.LavoriStampati, ElementsAre("NUOVO001.IMG"));
+}
+
+TEST_F(Stampa, APreviewThatIsGivenUpIsNotPrinted) {
+  editore_.CommutaAnteprima();
+  vista_.Testi[0] = std::string(5'000'000, 'x') + "\r\n";
+  vista_.ConStampante = true;
+  vista_.Attesa = VistaFinta::ComeAttende::Smette;
+  StampaSu(Destinazione::Stampante);
+  EXPECT_TRUE(editore_.AnteVisibile());
+  EXPECT_THAT(vista_.LavoriStampati, IsEmpty());
+}
+
+TEST_F(Stampa, TheTextFileHoldsTheRenderedLinesWithoutMarkersAndEndMarker) {
+  const std::filesystem::path file = dir_ / "uscita.txt";
+  StampaSuFile(file);
+  EXPECT_EQ(Contenuto(file), TestoReso);
+  EXPECT_THAT(vista_.Anteprime, IsEmpty());
+}
+
+TEST_F(Stampa, AnExistingTextFileIsReplacedWithoutAQuestion) {
+  const std::filesystem::path file = dir_ / "uscita.txt";
+  Crea(file, "molto più lungo di quello che lo sostituisce, e altro ancora");
+  StampaSuFile(file);
+  EXPECT_EQ(Contenuto(file), TestoReso);
+  EXPECT_THAT(interlocutore_.Messaggi, IsEmpty());
+}
+
+TEST_F(Stampa, ANameWithoutAnExtensionGetsTxt) {
+  StampaSuFile(dir_ / "uscita");
+  EXPECT_EQ(Contenuto(dir_ / "uscita.txt"), TestoReso);
+  StampaSuFile(dir_ / "uscita.prn");
+  EXPECT_EQ(Contenuto(dir_ / "uscita.prn"), TestoReso);
+}
+
+TEST_F(Stampa, TheSaveDialogOpensInTheFolderOfTheTextFiles) {
+  std::filesystem::create_directory(dir_ / "d_stm");
+  StampaSuFile({});
+  ASSERT_EQ(interlocutore_.Richieste.size(), 1U);
+  const RichiestaFile& richiesta = interlocutore_.Richieste.front();
+  EXPECT_EQ(richiesta.Uso, RichiestaFile::Scopo::Salva);
+  EXPECT_EQ(richiesta.Titolo, "");
+  EXPECT_EQ(richiesta.Cartella, dir_ / "d_stm");
+  EXPECT_EQ(richiesta.EtichettaFiltro, "File TXT (*.txt)");
+  EXPECT_EQ(richiesta.Modello, "*.txt");
+  EXPECT_EQ(richiesta.NomeProposto, "");
+}
+
+TEST_F(Stampa, WithoutThatFolderItOpensInTheHostsOwn) {
+  StampaSuFile({});
+  EXPECT_EQ(interlocutore_.Richieste.front().Cartella, dir_.Percorso() / "");
+}
+
+TEST_F(Stampa, TheTemplatesNameIsProposedAndLaterTheLastOneThatWasChosen) {
+  interlocutore_.Scegliera(FileNuovo());
+  editore_.SalvaConNome();
+  interlocutore_.Richieste.clear();
+  StampaSuFile(dir_ / "altro");
+  StampaSuFile({});
+  StampaSuFile({});
+  ASSERT_EQ(interlocutore_.Richieste.size(), 3U);
+  EXPECT_EQ(interlocutore_.Richieste[0].NomeProposto, "NUOVO001.txt");
+  EXPECT_EQ(interlocutore_.Richieste[1].NomeProposto, (dir_ / "altro.txt").string());
+  EXPECT_EQ(interlocutore_.Richieste[2].NomeProposto, (dir_ / "altro.txt").string());
+}
+
+TEST_F(Stampa, ACancelledSaveDialogWritesNothingEvenWhenItHoldsAName) {
+  StampaSuFile(dir_ / "uscita.txt");
+  std::filesystem::remove(dir_ / "uscita.txt");
+  StampaSuFile({});
+  EXPECT_FALSE(std::filesystem::exists(dir_ / "uscita.txt"));
+}
+
+TEST_F(Stampa, AFileThatCannotBeCreatedEndsTheCommandSilently) {
+  StampaSuFile(dir_ / "manca" / "uscita.txt");
+  EXPECT_FALSE(std::filesystem::exists(dir_ / "manca"));
+  EXPECT_THAT(interlocutore_.Messaggi, IsEmpty());
+}
+
+TEST_F(Stampa, ATextFileThatIsGivenUpLeavesTheOldOneWhole) {
+  const std::filesystem::path file = dir_ / "uscita.txt";
+  Crea(file, "vecchio");
+  vista_.Attesa = VistaFinta::ComeAttende::Smette;
+  StampaSuFile(file);
+  EXPECT_EQ(Contenuto(file), "vecchio");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir_.Percorso()), {}), 1);
+}
+
+TEST_F(Stampa, PrintingDoesNotModifyTheTemplate) {
+  StampaSuFile(dir_ / "uscita.txt");
+  StampaSu(Destinazione::Anteprima);
+  EXPECT_FALSE(editore_.Modello().Modificato);
+}
+
+TEST_F(Stampa, ALargePreviewShowsItsBeginningFirstAndIsThenCompleted) {
+  for (int i = 0; i < 20; ++i) vista_.Testi[0] += vista_.Testi[0];  // some 25 MB
+  StampaSu(Destinazione::Anteprima);
+  ASSERT_EQ(vista_.Anteprime.size(), 1U);
+  ASSERT_EQ(vista_.Completate.size(), 1U);
+  EXPECT_LT(vista_.Anteprime[0].size(), vista_.Completate[0].size());
+  EXPECT_TRUE(vista_.Completate[0].starts_with(vista_.Anteprime[0]));
+  EXPECT_TRUE(vista_.Completate[0].ends_with("--- Fine file ---"));
+  EXPECT_FALSE(vista_.Anteprime[0].ends_with("--- Fine file ---"));
+}
+
+TEST_F(Stampa, ALargePreviewThatIsGivenUpKeepsItsBeginning) {
+  for (int i = 0; i < 20; ++i) vista_.Testi[0] += vista_.Testi[0];
+  vista_.Attesa = VistaFinta::ComeAttende::Smette;
+  StampaSu(Destinazione::Anteprima);
+  EXPECT_EQ(vista_.Anteprime.size(), 1U);
+  EXPECT_THAT(vista_.Completate, IsEmpty());
+  EXPECT_THAT(interlocutore_.Messaggi, IsEmpty());
+}
+
+TEST_F(Stampa, APreviewThatRunsOutOfMemorySaysSo) {
+  for (int i = 0; i < 20; ++i) vista_.Testi[0] += vista_.Testi[0];
+  vista_.Attesa = VistaFinta::ComeAttende::SenzaMemoria;
+  interlocutore_.Rispondera(Risposta::Ok);
+  StampaSu(Destinazione::Anteprima);
+  ASSERT_EQ(interlocutore_.Messaggi.size(), 1U);
+  EXPECT_EQ(interlocutore_.Messaggi[0].Testo, "Si è verificato l'errore: 7 Memoria esaurita");
+}
+
+}  // namespace
+}  // namespace parvik::prova
