@@ -42,7 +42,7 @@ TEST(RicAnteMouse, AClickOutsideOfTheTextGoesToTheNearestLine) {
   EXPECT_EQ(pannello->Cursore(), 3U);
   QTest::mouseClick(pannello->viewport(), Sinistro, {}, QPoint(300, 250));
   EXPECT_EQ(pannello->Cursore(), 7U);
-  QTest::mouseClick(pannello->viewport(), Sinistro, {}, QPoint(0, 0));
+  QTest::mouseClick(pannello->viewport(), Sinistro, {}, QPoint(0, 1));
   EXPECT_EQ(pannello->Cursore(), 0U);
 }
 
