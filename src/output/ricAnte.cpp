@@ -136,6 +136,11 @@ void ricAnte::MisuraLarghezza() {
 }
 
 void ricAnte::AggiornaBarre() {
+  if (testo_->Testo().empty()) {  // the hidden pane of a program that has just started looks no font up
+    verticalScrollBar()->setRange(0, 0);
+    horizontalScrollBar()->setRange(0, 0);
+    return;
+  }
   const QSize finestra = viewport()->size();
   const std::size_t ultima = testo_->NumRighe() - 1;
   const std::size_t prima = VedutaAnteprima::PrimaRigaPer(*testo_, *celle_, ultima, finestra.height());
