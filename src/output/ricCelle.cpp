@@ -40,12 +40,13 @@ Celle::Celle(const QFont& base, const QPaintDevice* dispositivo) : base_(base), 
 Celle::Faccia& Celle::FacciaDi(const Aspetto& aspetto) const {
   std::optional<Faccia>& faccia = facce_[IndiceDi(aspetto)];
   if (!faccia) {
-    faccia.emplace();
-    faccia->Carattere = QFont(ConAspetto(base_, aspetto), dispositivo_);
-    const QFontMetricsF misure(faccia->Carattere, dispositivo_);
-    faccia->Avanzamento = misure.horizontalAdvance(u'M');
-    faccia->Ascesa = std::ceil(misure.ascent());
-    faccia->Discesa = std::ceil(misure.descent());
+    const QFont carattere(ConAspetto(base_, aspetto), dispositivo_);
+    const QFontMetricsF misure(carattere, dispositivo_);
+    faccia = Faccia{.Carattere = carattere,
+                    .Avanzamento = misure.horizontalAdvance(u'M'),
+                    .Ascesa = std::ceil(misure.ascent()),
+                    .Discesa = std::ceil(misure.descent()),
+                    .Larghezze = {}};
   }
   return *faccia;
 }

@@ -41,10 +41,10 @@ class Celle {
   enum class Larghezza : unsigned char { Ignota, Cella, Propria };
   struct Faccia {
     QFont Carattere;
-    qreal Avanzamento = 0;
-    qreal Ascesa = 0;
-    qreal Discesa = 0;
-    std::array<Larghezza, 256> Larghezze = {};  // by byte
+    qreal Avanzamento;
+    qreal Ascesa;
+    qreal Discesa;
+    std::array<Larghezza, 256> Larghezze;  // by byte
   };
 
   Faccia& FacciaDi(const Aspetto& aspetto) const;
