@@ -3,6 +3,7 @@
 
 #include <unistd.h>
 
+#include <cerrno>
 #include <utility>
 
 namespace parvik {
@@ -25,8 +26,9 @@ class Descrittore {
   explicit operator bool() const { return numero_ >= 0; }
   int Numero() const { return numero_; }
 
-  /// Closes now and tells whether that succeeded: a deferred write error shows itself here.
-  bool Chiudi() { return ::close(std::exchange(numero_, -1)) == 0; }
+  /// Closes now and tells whether that succeeded: a deferred write error shows itself here, with errno. One
+  /// that a signal interrupted has closed; what was written before it is for fsync to answer for.
+  bool Chiudi() { return ::close(std::exchange(numero_, -1)) == 0 || errno == EINTR; }
 
  private:
   int numero_ = -1;

@@ -47,6 +47,7 @@ NumeroErrore DaErrno(int numero) {
       return NumeroErrore::PercorsoNonTrovato;
     case EACCES:
     case EPERM:
+    case EBUSY:  // another program is at it
       return NumeroErrore::AutorizzazioneNegata;
     case ENOSPC:
     case EDQUOT:

@@ -8,19 +8,20 @@
 #include <new>
 #include <stdexcept>
 
-#include "common/Descrittore.h"
+#include "common/OperazioniFile.h"
+#include "common/Ripeti.h"
 
 namespace parvik {
 namespace {
 
 /// Reads on until the end of the file, whatever its size was when it was opened.
-Esito<std::string> LeggiTutto(int fd, std::size_t dimensione) {
+Esito<std::string> LeggiTutto(const Descrittore& file, std::size_t dimensione) {
   std::string contenuto(dimensione + 1, '\0');  // one more than needed: the read after it finds the end
   std::size_t letti = 0;
   for (;;) {
     if (letti == contenuto.size()) contenuto.resize(contenuto.size() * 2);
-    const ssize_t n = ::read(fd, contenuto.data() + letti, contenuto.size() - letti);
-    if (n < 0 && errno == EINTR) continue;
+    const ssize_t n =
+        Ripeti([&] { return ::read(file.Numero(), contenuto.data() + letti, contenuto.size() - letti); });
     if (n < 0) return DaErrno(errno);
     if (n == 0) break;
     letti += static_cast<std::size_t>(n);
@@ -33,15 +34,14 @@ Esito<std::string> LeggiTutto(int fd, std::size_t dimensione) {
 
 Esito<std::string> LeggiFile(const std::filesystem::path& percorso) {
   // O_NONBLOCK: opening a pipe that nobody writes to must not wait.
-  const Descrittore file(::open(percorso.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (!file && errno == ENXIO) return NumeroErrore::AccessoPercorsoFile;  // a socket
+  const Descrittore file = ApriFile(percorso, O_RDONLY | O_NONBLOCK);
   if (!file && errno == ENXIO) return NumeroErrore::AccessoPercorsoFile;  // a socket
   if (!file) return DaErrno(errno);
-  struct stat stato = {};
-  if (::fstat(file.Numero(), &stato) != 0) return DaErrno(errno);
-  if (!S_ISREG(stato.st_mode)) return NumeroErrore::AccessoPercorsoFile;
+  const EsitoSistema<struct stat> stato = Stato(file);
+  if (!stato) return DaErrno(stato.Errore());
+  if (!S_ISREG(stato->st_mode)) return NumeroErrore::AccessoPercorsoFile;
   try {
-    return LeggiTutto(file.Numero(), static_cast<std::size_t>(stato.st_size));
+    return LeggiTutto(file, static_cast<std::size_t>(stato->st_size));
   } catch (const std::bad_alloc&) {
     return NumeroErrore::MemoriaEsaurita;
   } catch (const std::length_error&) {

@@ -13,10 +13,10 @@ namespace parvik {
 /// A file on its way to the disk. Nothing of `destinazione` changes before Conferma; an object that goes away
 /// unconfirmed leaves neither a changed file nor a new one behind.
 ///
-/// Links are followed: the file they lead to is replaced, the link stays. A regular file keeps its mode, and
-/// its owner where the system allows. A file with several names, or in a folder that takes no new file, is
-/// written in place, after a copy of the old content was laid aside. A device or a pipe is written to
-/// directly.
+/// Links are followed: the file they lead to is replaced, the link stays. A regular file keeps its owner,
+/// attributes and rights where the system allows. A file with several names, or in a folder that takes no new
+/// file, is written in place, after a copy of the old content was laid aside. A device or a pipe is written
+/// to directly. AutorizzazioneNegata while another program is writing the same file.
 class ScritturaSicura {
  public:
   /// Fails when the destination could not be written at all: a folder, a missing folder, no permission.
@@ -29,8 +29,9 @@ class ScritturaSicura {
   /// Adds bytes. After a failure the object can only go away.
   Esito<void> Scrivi(std::string_view byte);
 
-  /// Makes what was written the content of the destination, on the disk. On failure the old content is whole;
-  /// only where nothing but the folder could not be brought to the disk, the new content has its place
+  /// Makes what was written the content of the destination, on the disk. On failure the old content is whole:
+  /// in the destination or, where it was written in place and could not be put back, in the copy that stays.
+  /// Only where nothing but the folder could not be brought to the disk has the new content its place
   /// already.
   Esito<void> Conferma();
 

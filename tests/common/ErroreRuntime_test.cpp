@@ -51,7 +51,7 @@ TEST(DaErrno, MapsTheSystemsErrorsOntoTheProgramsOwn) {
   EXPECT_EQ(NumeroErrore::ErroreDiPeriferica, DaErrno(EIO));
   EXPECT_EQ(NumeroErrore::AccessoPercorsoFile, DaErrno(EISDIR));
   EXPECT_EQ(NumeroErrore::AccessoPercorsoFile, DaErrno(EROFS));
-  EXPECT_EQ(NumeroErrore::AccessoPercorsoFile, DaErrno(EBUSY));
+  EXPECT_EQ(NumeroErrore::AutorizzazioneNegata, DaErrno(EBUSY));
 }
 
 }  // namespace

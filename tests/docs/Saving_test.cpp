@@ -45,11 +45,10 @@ TEST(SavingPage, TellsNumbersAndDescriptionsOfErrors) {
 
 TEST(SavingPage, TellsWhatTheErrorsOfTheSystemMapTo) {
   const std::map<std::string, int, std::less<>> numeri = {
-      {"ENOENT", ENOENT}, {"ENOTDIR", ENOTDIR}, {"EACCES", EACCES},
-      {"EPERM", EPERM},   {"ENOSPC", ENOSPC},   {"EDQUOT", EDQUOT},
-      {"EFBIG", EFBIG},   {"ENOMEM", ENOMEM},   {"EIO", EIO},
-      {"ENXIO", ENXIO},   {"EPIPE", EPIPE},     {"EROFS", EROFS},
-      {"EISDIR", EISDIR}, {"ELOOP", ELOOP},     {"ENAMETOOLONG", ENAMETOOLONG}};
+      {"ENOENT", ENOENT}, {"ENOTDIR", ENOTDIR}, {"EACCES", EACCES}, {"EPERM", EPERM},
+      {"EBUSY", EBUSY},   {"ENOSPC", ENOSPC},   {"EDQUOT", EDQUOT}, {"EFBIG", EFBIG},
+      {"ENOMEM", ENOMEM}, {"EIO", EIO},         {"ENXIO", ENXIO},   {"EPIPE", EPIPE},
+      {"EROFS", EROFS},   {"EISDIR", EISDIR},   {"ELOOP", ELOOP},   {"ENAMETOOLONG", ENAMETOOLONG}};
   for (const RigaEsempio& riga : TabellaEsempi(Pagina, "errno", 2)) {
     EXPECT_EQ(static_cast<int>(DaErrno(numeri.at(riga.Testo(0)))), riga.Numero(1)) << riga.Posto();
   }

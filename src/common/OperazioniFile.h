@@ -1,0 +1,58 @@
+// The steps that writing files safely is made of. What can fail tells the errno of the system call, so that
+// the caller can choose another way; interrupted calls are made again.
+#pragma once
+
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "common/Descrittore.h"
+#include "common/Esito.h"
+
+namespace parvik {
+
+/// The errno of a step that failed.
+template <class T>
+using EsitoSistema = Esito<T, int>;
+
+/// What a step that failed means to the user.
+Esito<void> PerUtente(const EsitoSistema<void>& passo);
+
+/// Where a chain of links (40 at most) ends, whether or not something stands there.
+EsitoSistema<std::filesystem::path> SeguiCollegamenti(std::filesystem::path percorso);
+
+/// The folder of a file, "." for a bare name.
+std::filesystem::path CartellaDi(const std::filesystem::path& file);
+
+/// A name with something before and after it that is still one that a file can have: the middle of a very
+/// long name gives way to a number made of all of it.
+std::string NomeDerivato(std::string_view prima, std::string_view nome, std::string_view dopo);
+
+EsitoSistema<struct stat> Stato(const std::filesystem::path& file);
+/// Of the link itself, where there is one.
+EsitoSistema<struct stat> StatoSenzaSeguire(const std::filesystem::path& file);
+EsitoSistema<struct stat> Stato(const Descrittore& file);
+
+/// Closed on execution. Empty on failure, with errno.
+Descrittore ApriFile(const std::filesystem::path& file, int opzioni, mode_t modo = 0);
+
+EsitoSistema<void> ScriviTutto(const Descrittore& file, std::string_view byte);
+EsitoSistema<void> Sincronizza(const Descrittore& file);
+/// Brings the names in a folder to the disk. No failure where the system has no such thing, or where the
+/// folder may be used but not read.
+EsitoSistema<void> SincronizzaCartella(const std::filesystem::path& cartella);
+EsitoSistema<void> Chiudi(Descrittore& file);
+EsitoSistema<void> Rinomina(const std::filesystem::path& da, const std::filesystem::path& a);
+EsitoSistema<void> Togli(const std::filesystem::path& file);
+
+/// Locks a file until every descriptor of it is closed. False when another program has it; where there are
+/// no locks nobody has.
+bool Blocca(const Descrittore& file);
+
+/// Whether the errno means that a folder takes no new file, or none of that name: whoever can do without one
+/// beside may go on. A full disk is none of these.
+bool NonPrendeFile(int errore);
+
+}  // namespace parvik

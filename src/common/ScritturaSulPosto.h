@@ -1,0 +1,28 @@
+// Writing over a file, for files that no new one can take the place of.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "common/StradaScrittura.h"
+
+namespace parvik {
+
+/// The bytes are kept until Conferma, which lays the old content aside (CopiaDiRiserva.h) and writes over it.
+/// When that fails the old content is put back; only where that fails too does the copy stay.
+class ScritturaSulPosto final : public ScritturaSicura::Strada {
+ public:
+  /// `destinazione` must be a regular file, not a link.
+  explicit ScritturaSulPosto(std::filesystem::path destinazione) : destinazione_(std::move(destinazione)) {}
+
+  Esito<void> Scrivi(std::string_view byte) override;
+  Esito<void> Conferma() override;
+
+ private:
+  std::filesystem::path destinazione_;
+  std::string nuovo_;
+};
+
+}  // namespace parvik

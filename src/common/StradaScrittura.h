@@ -1,0 +1,20 @@
+// The ways by which ScritturaSicura brings bytes to their destination (docs/saving.md).
+#pragma once
+
+#include <string_view>
+
+#include "common/ScritturaSicura.h"
+
+namespace parvik {
+
+class ScritturaSicura::Strada {
+ public:
+  Strada() = default;
+  Strada(const Strada&) = delete;
+  Strada& operator=(const Strada&) = delete;
+  virtual ~Strada() = default;
+  virtual Esito<void> Scrivi(std::string_view byte) = 0;
+  virtual Esito<void> Conferma() = 0;
+};
+
+}  // namespace parvik
