@@ -30,6 +30,7 @@ void Editore::ScegliTipo(std::size_t slot) {
   tabelle_ = {};
   ApplicaTipoDoc();
   documento_.Modificato = false;
+  documento_.Origine.reset();
 }
 
 void Editore::ApplicaTipoDoc() {

@@ -1,8 +1,10 @@
 #include "template/ComandiFile.h"
 
 #include <algorithm>
+#include <system_error>
 #include <utility>
 
+#include "common/CopiaPrecedente.h"
 #include "common/Delimitatori.h"
 #include "common/LetturaFile.h"
 #include "common/Percorsi.h"
@@ -82,6 +84,7 @@ bool ComandiFile::ProseguiDopoDomanda(const TipoDoc& tipo) {
 void ComandiFile::Nuovo(const TipoDoc& tipo) {
   if (documento_.Modificato) FileModificato(tipo);
   documento_.Modificato = false;
+  documento_.Origine.reset();
   contorno_.TornaSenzaTipo();
 }
 
@@ -132,22 +135,46 @@ bool ComandiFile::VerificaStampa(const TipoDoc& tipo) const {
   return !std::ranges::all_of(TutteLeSezioni, vuota);
 }
 
+/// A file that would be written with the bytes that it has loses nothing, and the copy that there may be is
+/// worth more.
+Esito<void> ComandiFile::ConservaAltrui(const fs::path& percorso, std::string_view nuovi) const {
+  std::error_code errore;
+  if (!fs::is_regular_file(percorso, errore)) return {};  // nothing that could be kept
+  const Esito<std::string> attuali = LeggiFile(percorso);
+  if (!attuali) return attuali.Errore();
+  const std::optional<Provenienza>& origine = documento_.Origine;
+  const bool suoi = origine && origine->File == percorso && origine->Byte == *attuali;
+  if (suoi || *attuali == nuovi) return {};
+  return ConservaPrecedente(percorso, *attuali);
+}
+
+/// The copy is made when the new bytes stand ready: on a full disk no older copy is given up for nothing.
+Esito<void> ComandiFile::Sostituisci(const fs::path& percorso, std::string_view nuovi) const {
+  Esito<ScritturaSicura> file = ScritturaSicura::Apri(percorso);
+  if (!file) return file.Errore();
+  if (const Esito<void> scritto = file->Scrivi(nuovi); !scritto) return scritto.Errore();
+  if (const Esito<void> tenuto = ConservaAltrui(percorso, nuovi); !tenuto) return tenuto.Errore();
+  return file->Conferma();
+}
+
 Esito<void> ComandiFile::Scrivi(const fs::path& percorso, const TipoDoc& tipo) {
   TestiSezioni testi;
   for (const Sezione sezione : TutteLeSezioni) testi[Indice(sezione)] = sezioni_.Testo(sezione);
   const std::size_t corpoPrima = testi[Indice(Sezione::Corpo)].size();
   documento_.Modificato = true;  // until the file is on the disk
-  const Esito<std::string> immagine = ScriviImmagine(testi, documento_.Corpo, FormatoDi(tipo.NumSezioni));
+  Esito<std::string> immagine = ScriviImmagine(testi, documento_.Corpo, FormatoDi(tipo.NumSezioni));
   if (!immagine) return immagine.Errore();
   if (testi[Indice(Sezione::Corpo)].size() != corpoPrima) sezioni_.CompletaUltimaRiga(Sezione::Corpo);
-  if (const Esito<void> scritto = ScriviFile(percorso, *immagine); !scritto) return scritto.Errore();
+  if (const Esito<void> scritto = Sostituisci(percorso, *immagine); !scritto) return scritto.Errore();
   documento_.Modificato = false;
+  documento_.Origine = {.File = percorso, .Byte = std::move(*immagine)};
   return {};
 }
 
 Esito<void> ComandiFile::Leggi(const TipoDoc& tipo) {
   contorno_.ImpostaTitolo("Ordavia - " + UltimiCaratteri(documento_.NomeFile.string(), CaratteriTitolo));
-  const Esito<std::string> byte = LeggiFile(documento_.NomeFile);
+  documento_.Origine.reset();
+  Esito<std::string> byte = LeggiFile(documento_.NomeFile);
   if (!byte) return byte.Errore();
   const Formato formato = FormatoDi(tipo.NumSezioni);
   const ImmagineLetta letta = LeggiImmagine(*byte, formato, documento_.Corpo);
@@ -156,6 +183,7 @@ Esito<void> ComandiFile::Leggi(const TipoDoc& tipo) {
     if (formato == Formato::UnaSezione && sezione != Sezione::Testata) continue;
     sezioni_.ImpostaTesto(sezione, letta.Testi[Indice(sezione)]);
   }
+  if (!letta.TestoNonLetto) documento_.Origine = {.File = documento_.NomeFile, .Byte = std::move(*byte)};
   if (letta.Errore) return *letta.Errore;
   return {};
 }

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "catalogue/TipoDoc.h"
 #include "common/Esito.h"
@@ -37,17 +38,20 @@ class ComandiFile {
               std::filesystem::path dirImg);
 
   /// New: asks whether to save a modified template, and goes on whatever the answer is. Texts and file name
-  /// stay.
+  /// stay, but the document no longer comes from that file.
   void Nuovo(const TipoDoc& tipo);
 
   /// Open. Every failure is silent; the file name is then the chosen one already.
   void Apri(const TipoDoc& tipo);
 
   /// Save; without a file name it is Save As, and with nothing in the sections nothing at all. A named file
-  /// that could not be written draws a message, and the template stays modified.
+  /// that could not be written draws a message, and the template stays modified. A file whose bytes are not
+  /// those that this document was last read from or written to is kept as "NAME~" before it is replaced;
+  /// where that fails it is not replaced.
   void Salva(const TipoDoc& tipo);
 
-  /// Save As: writes, takes the name and reads the file back. Every failure is silent.
+  /// Save As: writes, takes the name and reads the file back. A file that it replaces is kept as Save keeps
+  /// it. Every failure is silent.
   void SalvaConNome(const TipoDoc& tipo);
 
   /// Whether the window may close: asks when the template is modified. False when the question was cancelled,
@@ -60,6 +64,8 @@ class ComandiFile {
  private:
   Risposta FileModificato(const TipoDoc& tipo);
   bool ProseguiDopoDomanda(const TipoDoc& tipo);
+  Esito<void> ConservaAltrui(const std::filesystem::path& percorso, std::string_view nuovi) const;
+  Esito<void> Sostituisci(const std::filesystem::path& percorso, std::string_view nuovi) const;
   Esito<void> Scrivi(const std::filesystem::path& percorso, const TipoDoc& tipo);
   Esito<void> Leggi(const TipoDoc& tipo);
 

@@ -122,6 +122,51 @@ TEST(FileCommandsPage, TellsPatternsAndProposedNames) {
   }
 }
 
+constexpr std::string_view Altrui = "di un altro\r\n";
+
+/// Brings about what the example says of the file.
+void PreparaFile(Banco& banco, const std::string& stato) {
+  const fs::path file = banco.Cartella / "A.IMG";
+  Crea(file, stato == "has the bytes to be written" ? "nuovo\r\n" : Altrui);
+  if (stato == "could not be read to its end")
+    Crea(file,
+         "t\r\n\xAE"
+         "C40000;1;\xAF\r\nc\r\n");
+  if (!stato.starts_with("exists") && !stato.starts_with("has")) {
+    banco.Persona.Scegliera(file);
+    banco.Comandi.Apri(Tipo(stato.starts_with("could") ? 3 : 1));
+  }
+  banco.Testi.Testi[0] = "nuovo\r\n";
+  if (stato.find("New") != std::string::npos) banco.Comandi.Nuovo(Tipo(1));
+  if (stato.ends_with("saved")) {
+    banco.Comandi.Salva(Tipo(1));
+    fs::remove(banco.Cartella / "A.IMG~");
+    banco.Testi.Testi[0] = "piu' nuovo\r\n";
+  }
+  if (stato.ends_with("changed by somebody else")) Crea(file, "cambiato\r\n");
+  if (stato.ends_with("taken away")) fs::remove(file);
+}
+
+TEST(FileCommandsPage, TellsWhatIsKeptOfAFileThatIsReplaced) {
+  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "kept", 3)) {
+    Banco banco;
+    PreparaFile(banco, riga.Testo(0));
+    const fs::path file = banco.Cartella / "A.IMG";
+    const std::string prima = fs::exists(file) ? Contenuto(file) : "";
+    if (riga.Testo(1) == "Save As") {
+      banco.Persona.Scegliera(file);
+      banco.Comandi.SalvaConNome(Tipo(1));
+    } else {
+      banco.Comandi.Salva(Tipo(1));
+    }
+    EXPECT_EQ(Contenuto(file), banco.Testi.Testi[0]) << riga.Posto();
+    EXPECT_EQ(fs::exists(banco.Cartella / "A.IMG~"), riga.Si(2)) << riga.Posto();
+    if (riga.Si(2)) {
+      EXPECT_EQ(Contenuto(banco.Cartella / "A.IMG~"), prima) << riga.Posto();
+    }
+  }
+}
+
 TEST(FileCommandsPage, TellsWhenThereIsNothingToSave) {
   for (const RigaEsempio& riga : TabellaEsempi(Pagina, "empty", 5)) {
     Banco banco;
