@@ -10,6 +10,7 @@ InterlocutoreScritto::~InterlocutoreScritto() {
 
 Risposta InterlocutoreScritto::Chiedi(const Messaggio& messaggio) {
   Messaggi.push_back(messaggio);
+  if (script_.empty() && altrimenti_) return *altrimenti_;
   if (script_.empty() || !std::holds_alternative<Risposta>(script_.front())) {
     ADD_FAILURE() << "unexpected question: " << messaggio.Testo;
     return Risposta::Annulla;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -17,6 +18,8 @@ class InterlocutoreScritto final : public Interlocutore {
   ~InterlocutoreScritto() override;
 
   void Rispondera(Risposta risposta) { script_.emplace_back(risposta); }
+  /// For a question that may come or not: the answer while the script has none.
+  void RisponderaSeChiesto(Risposta risposta) { altrimenti_ = risposta; }
   void Scegliera(std::filesystem::path file) { script_.emplace_back(std::move(file)); }
 
   Risposta Chiedi(const Messaggio& messaggio) override;
@@ -28,6 +31,7 @@ class InterlocutoreScritto final : public Interlocutore {
   std::vector<int> Terminazioni;
 
  private:
+  std::optional<Risposta> altrimenti_;
   std::deque<std::variant<Risposta, std::filesystem::path>> script_;
 };
 

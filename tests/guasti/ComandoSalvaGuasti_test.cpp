@@ -1,0 +1,102 @@
+// File > Salva when the system calls of the save fail.
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <string>
+
+#include "guasti/Guasti.h"
+#include "template/BancoComandi.h"
+
+namespace parvik::prova {
+namespace {
+
+using Elenco = std::vector<std::string>;
+
+class ComandoSalvaGuasti : public BancoComandi {
+ protected:
+  /// A template that was opened, and changed since.
+  void Prepara() {
+    Crea(dirImg_ / "A.IMG", Vecchio);
+    interlocutore_.Scegliera(dirImg_ / "A.IMG");
+    comandi_.Apri(tre_);
+    sezioni_.Testi = {"nuova\r\n", "c\r\n", "p\r\n"};
+    documento_.Modificato = true;
+    interlocutore_.Messaggi.clear();
+  }
+  /// Saves under the faults; the calls that were made.
+  Elenco Salva(const std::vector<Guasto>& guasti) {
+    const GuastiInCorso inCorso({.Cartelle = {dirImg_.Percorso()}, .Guasti = guasti});
+    comandi_.Salva(tre_);
+    return GuastiInCorso::Chiamate();
+  }
+  /// What a save that says something, and one that says nothing, must have left.
+  void AttendiEsito(bool fallito, NumeroErrore numero) {
+    const std::string byte = Contenuto(dirImg_ / "A.IMG");
+    EXPECT_EQ(fallito, documento_.Modificato);
+    if (fallito) {
+      AttendiMessaggi({Errore(numero)});
+      EXPECT_TRUE(byte == Vecchio || byte == Nuovo) << byte;
+    } else {
+      AttendiMessaggi({});
+      EXPECT_EQ(Nuovo, byte);
+    }
+    EXPECT_EQ((TestiSezioni{"nuova\r\n", "c\r\n", "p\r\n"}), sezioni_.Testi);
+    EXPECT_EQ(dirImg_ / "A.IMG", documento_.NomeFile);
+  }
+  /// The template is there to be saved when all is well again.
+  void AttendiSalvataggioSeguente() {
+    interlocutore_.Messaggi.clear();
+    comandi_.Salva(tre_);
+    AttendiMessaggi({});
+    EXPECT_EQ(Nuovo, Contenuto(dirImg_ / "A.IMG"));
+    EXPECT_FALSE(documento_.Modificato);
+    EXPECT_EQ(Elenco{"A.IMG"}, Nomi(dirImg_.Percorso()));
+  }
+
+  const std::string Vecchio = "t\r\n" + Marcatore("7;1;CS") + "c\r\np\r\n";
+  const std::string Nuovo = "nuova\r\n" + Marcatore("7;1;CS") + "c\r\np\r\n";
+};
+
+struct CasoGuasto {
+  const char* Nome;
+  int Errore;
+  bool PerSempre;
+};
+class ComandoSalvaSottoGuasto : public ComandoSalvaGuasti, public testing::WithParamInterface<CasoGuasto> {};
+
+TEST_P(ComandoSalvaSottoGuasto, TellsTheErrorOnceAndStaysModifiedWhicheverCallFails) {
+  Prepara();
+  const int chiamate = static_cast<int>(Salva({}).size());
+  ASSERT_GT(chiamate, 20);
+  int falliti = 0;
+  for (int i = 1; i <= chiamate; ++i) {
+    Prepara();
+    const Guasto guasto = {.Chiamata = i, .Errore = GetParam().Errore, .PerSempre = GetParam().PerSempre};
+    interlocutore_.RisponderaSeChiesto(Risposta::Ok);
+    const Elenco fatte = Salva({guasto});
+    const testing::ScopedTrace dove(__FILE__, __LINE__, fatte[static_cast<std::size_t>(i) - 1]);
+    EXPECT_TRUE(fatte[static_cast<std::size_t>(i) - 1].ends_with(" !"));
+    const bool fallito = !interlocutore_.Messaggi.empty();
+    if (fallito) ++falliti;
+    AttendiEsito(fallito, DaErrno(GetParam().Errore));
+    AttendiSalvataggioSeguente();
+  }
+  if (GetParam().Errore != EINTR || GetParam().PerSempre) {
+    EXPECT_GT(falliti, 8);
+  } else {
+    EXPECT_EQ(0, falliti);  // each call is made again
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Casi, ComandoSalvaSottoGuasto,
+    testing::Values(CasoGuasto{"disk_full_once", ENOSPC, false}, CasoGuasto{"disk_full", ENOSPC, true},
+                    CasoGuasto{"device_error_once", EIO, false}, CasoGuasto{"device_error", EIO, true},
+                    CasoGuasto{"over_quota_once", EDQUOT, false}, CasoGuasto{"over_quota", EDQUOT, true},
+                    CasoGuasto{"denied", EACCES, true}, CasoGuasto{"read_only", EROFS, true},
+                    CasoGuasto{"interrupted_once", EINTR, false},
+                    CasoGuasto{"interrupted_without_end", EINTR, true}),
+    [](const auto& caso) { return std::string(caso.param.Nome); });
+
+}  // namespace
+}  // namespace parvik::prova

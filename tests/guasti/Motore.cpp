@@ -1,0 +1,106 @@
+#include "guasti/Motore.h"
+
+#include <fcntl.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+
+namespace parvik::prova {
+namespace {
+
+bool Dentro(std::string_view percorso, std::string_view cartella) {
+  if (!percorso.starts_with(cartella)) return false;
+  return percorso.size() == cartella.size() || percorso[cartella.size()] == '/';
+}
+
+std::string_view UltimoNome(std::string_view percorso) {
+  return percorso.substr(percorso.rfind('/') + 1);
+}
+
+}  // namespace
+
+Motore& Motore::Unico() {
+  static Motore motore;
+  return motore;
+}
+
+/// Its own files are opened and written past the replaced functions.
+Motore::Motore() {
+  if (const char* piano = std::getenv("PARVIK_GUASTI")) piano_ = DaScritto(piano);
+  const char* diario = std::getenv("PARVIK_GUASTI_DIARIO");
+  if (diario == nullptr) return;
+  diario_ = static_cast<int>(
+      ::syscall(SYS_openat, AT_FDCWD, diario, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600));
+}
+
+void Motore::Pianifica(PianoGuasti piano) {
+  piano_ = std::move(piano);
+  chiamate_.clear();
+}
+
+bool Motore::Sorvegliato(std::string_view percorso) const {
+  for (const std::string& cartella : piano_.Cartelle) {
+    if (Dentro(percorso, cartella)) return true;
+  }
+  return false;
+}
+
+bool Motore::Chiuso(std::string_view percorso) const {
+  return !piano_.Chiusa.empty() && Dentro(percorso, piano_.Chiusa);
+}
+
+void Motore::Aperto(int numero, std::string_view percorso) {
+  if (numero >= 0 && Sorvegliato(percorso)) aperti_[numero] = percorso;
+}
+
+void Motore::Doppio(int numero, int originale) {
+  const auto quello = aperti_.find(originale);
+  if (numero >= 0 && quello != aperti_.end()) aperti_[numero] = quello->second;
+}
+
+Motore::Esito Motore::PerPercorso(const char* chiamata, std::string_view percorso) {
+  return Sorvegliato(percorso) ? Conta(chiamata, percorso) : Esito::Estraneo;
+}
+
+Motore::Esito Motore::PerDescrittore(const char* chiamata, int numero) {
+  const auto quello = aperti_.find(numero);
+  return quello == aperti_.end() ? Esito::Estraneo : Conta(chiamata, quello->second);
+}
+
+Motore::Esito Motore::Conta(const char* chiamata, std::string_view percorso) {
+  const int numero = static_cast<int>(chiamate_.size()) + 1;
+  const Guasto* colto = nullptr;
+  for (const Guasto& guasto : piano_.Guasti) {
+    if (numero == guasto.Chiamata || (guasto.PerSempre && numero > guasto.Chiamata)) colto = &guasto;
+  }
+  Annota(std::string(chiamata) + " " + std::string(UltimoNome(percorso)) + (colto == nullptr ? "" : " !"));
+  if (colto == nullptr) return Esito::Prosegui;
+  if (colto->Quale == Guasto::Genere::Uccisione) ::kill(::getpid(), SIGKILL);
+  if (colto->Quale == Guasto::Genere::ScritturaCorta) return Esito::Accorcia;
+  errno = colto->Errore;
+  return Esito::Fallisci;
+}
+
+void Motore::Annota(const std::string& riga) {
+  chiamate_.push_back(riga);
+  if (diario_ < 0) return;
+  const std::string conFine = riga + "\n";
+  if (::syscall(SYS_write, diario_, conFine.data(), conFine.size()) < 0) std::abort();
+}
+
+GuastiInCorso::GuastiInCorso(PianoGuasti piano) {
+  Motore::Unico().Pianifica(std::move(piano));
+}
+
+GuastiInCorso::~GuastiInCorso() {
+  Motore::Unico().Pianifica({});
+}
+
+std::vector<std::string> GuastiInCorso::Chiamate() {
+  return Motore::Unico().Chiamate();
+}
+
+}  // namespace parvik::prova
