@@ -16,8 +16,11 @@ endif()
 
 if(PARVIK_SANITIZERS)
   target_compile_options(parvik_flags INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -D_GLIBCXX_ASSERTIONS)
   target_link_options(parvik_flags INTERFACE -fsanitize=address,undefined)
+  if(PARVIK_FUZZ)
+    target_compile_options(parvik_flags INTERFACE -fsanitize=fuzzer-no-link)
+  endif()
 else()
   # _FORTIFY_SOURCE needs an optimised build and quarrels with the sanitizers.
   target_compile_options(parvik_flags INTERFACE

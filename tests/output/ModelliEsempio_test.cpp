@@ -3,8 +3,8 @@
 
 #include "output/GeneraStampa.h"
 #include "output/Leggibile.h"
-#include "output/Riferimento.h"
-#include "output/RiferimentoStili.h"
+#include "supporto/RiferimentoStampa.h"
+#include "supporto/RiferimentoStili.h"
 #include "supporto/Cartelle.h"
 #include "template/ImmagineModello.h"
 

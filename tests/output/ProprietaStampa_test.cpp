@@ -4,8 +4,8 @@
 
 #include "output/CatalogoDiProva.h"
 #include "output/Leggibile.h"
-#include "output/Riferimento.h"
-#include "output/RiferimentoStili.h"
+#include "supporto/RiferimentoStampa.h"
+#include "supporto/RiferimentoStili.h"
 
 namespace parvik::prova {
 namespace {

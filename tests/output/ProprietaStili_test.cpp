@@ -3,7 +3,7 @@
 #include <rapidcheck.h>
 
 #include "output/Leggibile.h"
-#include "output/RiferimentoStili.h"
+#include "supporto/RiferimentoStili.h"
 
 namespace parvik::prova {
 namespace {

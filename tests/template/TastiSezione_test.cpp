@@ -8,12 +8,15 @@
 #include <vector>
 
 #include "common/Delimitatori.h"
+#include "supporto/Tasti.h"
 #include "supporto/TestoConSelezione.h"
 
 namespace parvik {
 namespace {
 
+using prova::Codici;
 using prova::ConSelezione;
+using prova::Obbedisci;
 using prova::Scritto;
 
 /// What became of the text and the selection, and in words what else happened.
@@ -117,29 +120,6 @@ TEST(CarattereScartato, IsTheFullStopOnly) {
   EXPECT_TRUE(CarattereScartato(U'.'));
   EXPECT_FALSE(CarattereScartato(U','));
   EXPECT_FALSE(CarattereScartato(U' '));
-}
-
-/// The codes of a text, in its order.
-std::vector<std::string> Codici(const std::string& testo) {
-  std::vector<std::string> codici;
-  for (std::size_t i = 0; i < testo.size(); ++i) {
-    const auto codice = testo[i] == DelimApertura ? CodiceSotto(testo, i) : std::nullopt;
-    if (codice && codice->Inizio == i) codici.push_back(testo.substr(codice->Inizio, codice->Lunghezza));
-  }
-  return codici;
-}
-
-/// A key as an editor obeys it; a dialog that opens is cancelled.
-void Obbedisci(std::string& testo, Selezione& selezione, TastoSezione tasto) {
-  const EsitoTasto esito = PremiTasto(testo, selezione, tasto);
-  if (esito.Azione == AzioneTasto::Allarga || esito.Azione == AzioneTasto::ApriCodice)
-    selezione = esito.Nuova;
-  if (esito.Azione != AzioneTasto::Consueta) return;
-  if (selezione.Lunghezza == 0 && tasto == Backspace)
-    selezione = {.Inizio = selezione.Inizio - 1, .Lunghezza = 1};
-  if (selezione.Lunghezza == 0 && selezione.Inizio < testo.size()) selezione.Lunghezza = 1;
-  testo.erase(selezione.Inizio, selezione.Lunghezza);
-  selezione.Lunghezza = 0;
 }
 
 TEST(TastiSezioneProprieta, NoSequenceOfBackspaceAndDeleteLeavesHalfACode) {

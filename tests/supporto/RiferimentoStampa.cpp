@@ -1,4 +1,4 @@
-#include "output/Riferimento.h"
+#include "supporto/RiferimentoStampa.h"
 
 #include <algorithm>
 #include <cmath>

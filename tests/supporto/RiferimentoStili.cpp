@@ -1,4 +1,4 @@
-#include "output/RiferimentoStili.h"
+#include "supporto/RiferimentoStili.h"
 
 #include <algorithm>
 #include <cstddef>
