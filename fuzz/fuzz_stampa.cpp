@@ -21,7 +21,7 @@ constexpr std::size_t MassimoPerStili = 256;
 class Raccolta final : public UscitaRighe {
  public:
   bool Righe(std::string_view righe) override {
-    Esigi(righe.ends_with("\r\n"), "only whole lines are handed out");
+    Esigi(righe.ends_with("\r\n") || righe.size() >= PassoStampa, "only of a long line there are pieces");
     Testo += righe;
     return Continua();
   }
@@ -85,6 +85,7 @@ class Prova {
   std::optional<std::string> Stampa(TipoStampa destinazione) const {
     Raccolta raccolta;
     if (!GeneraStampa(Dati(), destinazione, raccolta)) return std::nullopt;
+    Esigi(raccolta.Testo.empty() || raccolta.Testo.ends_with("\r\n"), "what is begun is ended");
     return std::move(raccolta.Testo);
   }
 

@@ -1,13 +1,15 @@
 #include "batch/Lettura.h"
 
+#include <new>
 #include <string>
 
 #include "batch/Messaggi.h"
 #include "common/LetturaFile.h"
 
 namespace parvik::batch {
+namespace {
 
-std::optional<ImmagineLetta> LeggiModello(const std::filesystem::path& file, const TipoDoc& tipo) {
+std::optional<ImmagineLetta> Leggi(const std::filesystem::path& file, const TipoDoc& tipo) {
   const Esito<std::string> byte = LeggiFile(file);
   if (!byte) {
     Segnala(file, byte.Errore());
@@ -22,6 +24,17 @@ std::optional<ImmagineLetta> LeggiModello(const std::filesystem::path& file, con
                       " righe di corpo che il marcatore promette");
   }
   return letta;
+}
+
+}  // namespace
+
+std::optional<ImmagineLetta> LeggiModello(const std::filesystem::path& file, const TipoDoc& tipo) {
+  try {
+    return Leggi(file, tipo);
+  } catch (const std::bad_alloc&) {  // one file that is too large must not stop the others
+    Segnala(file, NumeroErrore::MemoriaEsaurita);
+    return std::nullopt;
+  }
 }
 
 }  // namespace parvik::batch

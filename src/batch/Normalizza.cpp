@@ -1,3 +1,4 @@
+#include <new>
 #include <optional>
 #include <string>
 
@@ -28,6 +29,17 @@ bool NormalizzaFile(const std::filesystem::path& file, const std::filesystem::pa
   return static_cast<bool>(scritto);
 }
 
+/// Too little memory for one file must not stop the others.
+bool NormalizzaSePuo(const std::filesystem::path& file, const std::filesystem::path& uscita,
+                     const TipoDoc& tipo) {
+  try {
+    return NormalizzaFile(file, uscita, tipo);
+  } catch (const std::bad_alloc&) {
+    Segnala(file, NumeroErrore::MemoriaEsaurita);
+    return false;
+  }
+}
+
 }  // namespace
 
 Uscita Normalizza(const Opzioni& opzioni) {
@@ -36,7 +48,7 @@ Uscita Normalizza(const Opzioni& opzioni) {
   if (tipo == nullptr) return Uscita::NonFatto;
   Uscita esito = Uscita::Fatto;
   for (const std::filesystem::path& file : opzioni.File) {
-    if (!NormalizzaFile(file, opzioni.Uscita.value_or(file), *tipo)) esito = Uscita::NonFatto;
+    if (!NormalizzaSePuo(file, opzioni.Uscita.value_or(file), *tipo)) esito = Uscita::NonFatto;
   }
   return esito;
 }

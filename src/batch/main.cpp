@@ -1,5 +1,6 @@
 #include <csignal>
 #include <exception>
+#include <new>
 
 #include "batch/Messaggi.h"
 #include "batch/RigaDiComando.h"

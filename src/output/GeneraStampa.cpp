@@ -1,7 +1,7 @@
 #include "output/GeneraStampa.h"
 
 #include <algorithm>
-#include <utility>
+#include <optional>
 
 #include "common/Delimitatori.h"
 
@@ -25,33 +25,33 @@ class Cercatore {
   std::size_t trovato_ = Mai;
 };
 
+/// Where the last line that a section emits ends: its CR. npos when it emits none.
+std::size_t UltimaFineRiga(std::string_view testo) {
+  std::size_t ultima = std::string_view::npos;
+  for (std::size_t i = 0; i < testo.size();) {
+    const std::size_t apertura = std::min(testo.find(DelimApertura, i), testo.size());
+    const std::size_t fine = testo.substr(i, apertura - i).rfind('\r');
+    if (fine != std::string_view::npos) ultima = i + fine;
+    const std::size_t chiusura = testo.find(DelimChiusura, apertura);
+    if (chiusura == std::string_view::npos) break;
+    i = chiusura + 1;
+  }
+  return ultima;
+}
+
 class Corsa {
  public:
   Corsa(TipoStampa destinazione, const FlagPerStampe& flag, UscitaRighe& uscita)
       : trovaVar_(destinazione, flag), uscita_(uscita) {}
 
-  /// Renders a section once. False when the output ended the run.
-  bool Sezione(std::string_view testo) {
-    Cercatore fineRiga(testo, '\r');
-    Cercatore apertura(testo, DelimApertura);
-    std::size_t i = 0;
-    while (i < testo.size()) {
-      const std::size_t prossimo = std::min(fineRiga.Da(i), apertura.Da(i));
-      if (!Scrivi(testo.substr(i, prossimo - i))) return false;
-      if (prossimo == testo.size()) break;
-      if (testo[prossimo] == DelimApertura) {
-        const std::size_t chiusura = testo.find(DelimChiusura, prossimo);
-        letti_ += std::min(chiusura, testo.size()) - prossimo;
-        if (chiusura == std::string_view::npos) break;  // swallows the rest, and is no code
-        if (!Scrivi(trovaVar_(testo.substr(prossimo + 1, chiusura - prossimo - 1)))) return false;
-        i = chiusura + 1;
-      } else {
-        i = prossimo + (testo.substr(prossimo).starts_with(FineRiga) ? FineRiga.size() : 1);
-        if (!ChiudiRiga()) return false;
-      }
+  /// Renders a section as often as it is repeated. False when the output ended the run.
+  bool Sezione(std::string_view testo, int ripetizioni) {
+    testo_ = testo;
+    ultimaFine_.reset();
+    for (int volta = 0; volta < ripetizioni; ++volta) {
+      if (!UnaVolta()) return false;
     }
-    blocco_.resize(fineUltimaRiga_);  // a line without its end is not emitted
-    return Prosegui();
+    return true;
   }
 
   bool Scarica() {
@@ -65,6 +65,29 @@ class Corsa {
  private:
   static constexpr std::size_t MezzoPasso = PassoStampa / 2;
 
+  bool UnaVolta() {
+    Cercatore fineRiga(testo_, '\r');
+    Cercatore apertura(testo_, DelimApertura);
+    posto_ = 0;
+    while (posto_ < testo_.size()) {
+      const std::size_t prossimo = std::min(fineRiga.Da(posto_), apertura.Da(posto_));
+      if (!Scrivi(testo_.substr(posto_, prossimo - posto_))) return false;
+      if (prossimo == testo_.size()) break;
+      if (testo_[prossimo] == DelimApertura) {
+        const std::size_t chiusura = testo_.find(DelimChiusura, prossimo);
+        letti_ += std::min(chiusura, testo_.size()) - prossimo;
+        if (chiusura == std::string_view::npos) break;  // swallows the rest, and is no code
+        if (!Scrivi(trovaVar_(testo_.substr(prossimo + 1, chiusura - prossimo - 1)))) return false;
+        posto_ = chiusura + 1;
+      } else {
+        posto_ = prossimo + (testo_.substr(prossimo).starts_with(FineRiga) ? FineRiga.size() : 1);
+        if (!ChiudiRiga()) return false;
+      }
+    }
+    blocco_.resize(fineUltimaRiga_);  // a line without its end is not emitted
+    return Prosegui();
+  }
+
   bool ChiudiRiga() {
     blocco_.append(FineRiga);
     fineUltimaRiga_ = blocco_.size();
@@ -72,15 +95,12 @@ class Corsa {
   }
 
   bool Scrivi(const Campione& campione) {
-    if (campione.Lunghezza() > MezzoPasso) [[unlikely]]
-      return ScriviAPassi(campione);
+    if (campione.Lunghezza() > MezzoPasso) [[unlikely]] {
+      return Ripeti(campione.RiempiPrima, campione.Riempimento) && Scrivi(campione.Testo) &&
+             Ripeti(campione.Zeri, '0') && Ripeti(campione.RiempiDopo, campione.Riempimento);
+    }
     campione.AggiungiA(blocco_);
     return Prosegui();
-  }
-
-  bool ScriviAPassi(const Campione& campione) {
-    return Ripeti(campione.RiempiPrima, campione.Riempimento) && Scrivi(campione.Testo) &&
-           Ripeti(campione.Zeri, '0') && Ripeti(campione.RiempiDopo, campione.Riempimento);
   }
   bool Ripeti(std::size_t volte, char carattere) {
     for (; volte > MezzoPasso; volte -= MezzoPasso) {
@@ -99,11 +119,19 @@ class Corsa {
     return Prosegui();
   }
 
-  /// Asks the output when half a step is done. No piece that is added without asking is longer than the other
+  /// Turns to the output when half a step is done. No piece that is added in between is longer than the other
   /// half.
   bool Prosegui() {
-    if (blocco_.size() + letti_ < prossimaDomanda_) [[likely]]
+    if (blocco_.size() + letti_ < prossimaDomanda_) [[likely]] {
       return true;
+    }
+    return Chiedi();
+  }
+  bool Chiedi() {
+    if (blocco_.size() - fineUltimaRiga_ >= PassoStampa) {
+      if (RigaFinisce()) return Scarica();
+      blocco_.resize(fineUltimaRiga_);
+    }
     RicominciaPasso();
     return uscita_.Continua();
   }
@@ -112,11 +140,20 @@ class Corsa {
     prossimaDomanda_ = blocco_.size() + MezzoPasso;
   }
 
+  /// Whether the line under way will be emitted. Only a line that is too long to be kept needs to know.
+  bool RigaFinisce() {
+    if (!ultimaFine_) ultimaFine_ = UltimaFineRiga(testo_);
+    return *ultimaFine_ != std::string_view::npos && posto_ <= *ultimaFine_;
+  }
+
   TrovaVar trovaVar_;
   UscitaRighe& uscita_;
-  std::string blocco_;              // whole lines, and the line under way
-  std::size_t fineUltimaRiga_ = 0;  // where the line under way begins
-  std::size_t letti_ = 0;           // bytes of codes since the last question
+  std::string_view testo_;                 // the section
+  std::size_t posto_ = 0;                  // how far it was rendered
+  std::optional<std::size_t> ultimaFine_;  // UltimaFineRiga() of the section, once it was asked for
+  std::string blocco_;                     // whole lines, and the line under way or what is left of it
+  std::size_t fineUltimaRiga_ = 0;         // where the line under way begins
+  std::size_t letti_ = 0;                  // bytes of codes since the last question
   std::size_t prossimaDomanda_ = MezzoPasso;
 };
 
@@ -127,54 +164,6 @@ int Ripetizioni(Sezione sezione, const DatiStampa& dati) {
   return dati.RigheCorpo / dati.LineeCorpo;
 }
 
-/// The whole text, unless it is given up.
-class RaccoltaTesto final : public UscitaRighe {
- public:
-  RaccoltaTesto(std::string& testo, const std::stop_token& smetti) : testo_(testo), smetti_(smetti) {}
-  bool Righe(std::string_view righe) override {
-    testo_.append(righe);
-    return Continua();
-  }
-  bool Continua() override { return !smetti_.stop_requested(); }
-
- private:
-  std::string& testo_;
-  const std::stop_token& smetti_;
-};
-
-/// The first lines that fit into a number of bytes.
-class RaccoltaInizio final : public UscitaRighe {
- public:
-  RaccoltaInizio(std::string& testo, std::size_t massimo) : testo_(testo), massimo_(massimo) {}
-  bool Righe(std::string_view righe) override {
-    percorsi_ = 0;
-    const std::size_t posto = massimo_ - testo_.size();
-    if (righe.size() <= posto) {
-      testo_.append(righe);
-      return true;
-    }
-    const std::size_t fine = righe.substr(0, posto).rfind(FineRiga);
-    if (fine != std::string_view::npos) testo_.append(righe, 0, fine + FineRiga.size());
-    return false;
-  }
-  bool Continua() override {
-    percorsi_ += PassoStampa;
-    return percorsi_ <= std::max(massimo_, PercorsoConsentito);
-  }
-
- private:
-  // Between two blocks of lines; a block may stand for several times as much in codes.
-  static constexpr std::size_t PercorsoConsentito = 16 * PassoStampa;
-
-  std::string& testo_;
-  std::size_t massimo_;
-  std::size_t percorsi_ = 0;  // since the last lines
-};
-
-void AggiungiFine(std::string& testo) {
-  if (!testo.empty()) testo.append(FineRiga).append(FineAnteprima);
-}
-
 }  // namespace
 
 bool GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita) {
@@ -183,36 +172,9 @@ bool GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& 
     if (static_cast<int>(sezione) >= dati.NumSezioni) break;
     const std::string_view testo = dati.Testi[Indice(sezione)];
     if (testo == FineRiga) continue;
-    const int ripetizioni = Ripetizioni(sezione, dati);
-    for (int volta = 0; volta < ripetizioni; ++volta) {
-      if (!corsa.Sezione(testo)) return false;
-    }
+    if (!corsa.Sezione(testo, Ripetizioni(sezione, dati))) return false;
   }
   return corsa.Scarica();
-}
-
-Anteprima GeneraAnteprima(const DatiStampa& dati) {
-  return GeneraAnteprima(dati, std::stop_token()).value();
-}
-
-std::optional<Anteprima> GeneraAnteprima(const DatiStampa& dati, const std::stop_token& smetti) {
-  Anteprima anteprima;
-  RaccoltaTesto raccolta(anteprima.Testo, smetti);
-  if (!GeneraStampa(dati, TipoStampa::Anteprima, raccolta)) return std::nullopt;
-  AggiungiFine(anteprima.Testo);
-  auto tratti = MettiStili(anteprima.Testo, smetti);
-  if (!tratti || smetti.stop_requested()) return std::nullopt;
-  anteprima.Tratti = std::move(*tratti);
-  return anteprima;
-}
-
-InizioAnteprima GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo) {
-  InizioAnteprima inizio;
-  RaccoltaInizio raccolta(inizio.Testo.Testo, massimo);
-  inizio.Intera = GeneraStampa(dati, TipoStampa::Anteprima, raccolta);
-  if (inizio.Intera) AggiungiFine(inizio.Testo.Testo);
-  inizio.Testo.Tratti = MettiStili(inizio.Testo.Testo);
-  return inizio;
 }
 
 }  // namespace parvik

@@ -35,7 +35,8 @@ class UscitaRighe {
   UscitaRighe& operator=(const UscitaRighe&) = delete;
   virtual ~UscitaRighe() = default;
 
-  /// Takes one or more whole lines, each ended by CR LF. False ends the run there.
+  /// Takes whole lines, each ended by CR LF; of a line longer than PassoStampa, one piece after the other.
+  /// Everything that is begun is ended. False ends the run there.
   virtual bool Righe(std::string_view righe) = 0;
 
   /// Asked at the latest when the run has gone over PassoStampa bytes since it last called anything here,
@@ -46,8 +47,8 @@ class UscitaRighe {
 /// In bytes: those that a run writes, and those of the sections that it reads without writing anything.
 inline constexpr std::size_t PassoStampa = 64UL * 1024UL;
 
-/// One run. Takes time proportional to what it reads and produces, and memory proportional to the longest
-/// line, as far as `uscita` lets it grow. False when `uscita` ended it.
+/// One run. Takes time proportional to what it reads and produces, and memory for a few steps, whatever it
+/// produces. False when `uscita` ended it.
 bool GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita);
 
 /// What the preview pane shows.

@@ -69,13 +69,16 @@ std::vector<std::string> Ambiente(const std::filesystem::path& casa) {
 }
 
 pid_t Lancia(const std::vector<std::string>& argomenti, const Avvio& avvio, const Azioni& azioni) {
-  std::vector<std::string> parole = {avvio.Programma.string()};
+  std::vector<std::string> parole;
+  if (avvio.Memoria > 0) parole = {"/usr/bin/prlimit", "--as=" + std::to_string(avvio.Memoria)};
+  parole.push_back(avvio.Programma.string());
   parole.insert(parole.end(), argomenti.begin(), argomenti.end());
   std::vector<std::string> ambiente = Ambiente(avvio.Casa);
   pid_t figlio = -1;
-  const int errore = ::posix_spawn(&figlio, avvio.Programma.c_str(), azioni.Puntatore(), nullptr,
+  const std::string programma = parole.front();
+  const int errore = ::posix_spawn(&figlio, programma.c_str(), azioni.Puntatore(), nullptr,
                                    Puntatori(parole).data(), Puntatori(ambiente).data());
-  if (errore != 0) ADD_FAILURE() << "cannot run " << avvio.Programma;
+  if (errore != 0) ADD_FAILURE() << "cannot run " << programma;
   return errore == 0 ? figlio : -1;
 }
 
@@ -132,6 +135,14 @@ void PrintTo(const Esecuzione& esecuzione, std::ostream* uscita) {
   *uscita << "stato " << esecuzione.Stato << "\n--- uscita\n"
           << esecuzione.Uscita << "\n--- errori\n"
           << esecuzione.Errori;
+}
+
+bool MemoriaLimitabile() {
+#ifdef __SANITIZE_ADDRESS__
+  return false;
+#else
+  return true;
+#endif
 }
 
 Esecuzione Esegui(const std::vector<std::string>& argomenti, const Avvio& avvio) {

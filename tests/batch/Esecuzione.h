@@ -1,6 +1,7 @@
 // Runs the batch program as a user does.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <ostream>
 #include <string>
@@ -28,8 +29,12 @@ enum class UscitaStandard { Raccolta, Chiusa, DiscoPieno, NessunoLegge };
 struct Avvio {
   std::filesystem::path Programma = Batch();
   UscitaStandard Uscita = UscitaStandard::Raccolta;
+  std::size_t Memoria = 0;          // bytes of address space at most; 0 is no limit
   std::filesystem::path Casa = {};  // what HOME and XDG_CONFIG_HOME name; "" is a place that does not exist
 };
+
+/// Whether a run can be given a limit of memory: a program under the address sanitizer cannot.
+bool MemoriaLimitabile();
 
 /// Runs the program to its end. A run that does not end within half a minute is killed, and fails the test.
 Esecuzione Esegui(const std::vector<std::string>& argomenti, const Avvio& avvio = {});

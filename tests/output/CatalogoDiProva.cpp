@@ -41,7 +41,7 @@ FlagPerStampe FlagDi(const std::vector<FlagDiProva>& flag) {
 }
 
 bool Raccolta::Righe(std::string_view righe) {
-  EXPECT_TRUE(righe.ends_with("\r\n")) << "not a whole line";
+  EXPECT_TRUE(righe.ends_with("\r\n") || righe.size() >= PassoStampa) << "not a whole line";
   Testo += righe;
   return true;
 }

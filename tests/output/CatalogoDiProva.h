@@ -20,7 +20,7 @@ struct FlagDiProva {
 /// Print flags as a document type with these flags in its Testata has them; the page conditions follow.
 FlagPerStampe FlagDi(const std::vector<FlagDiProva>& flag);
 
-/// Collects what a run writes, and fails the test on a piece that is not made of whole lines.
+/// Collects what a run writes, and fails the test on a piece that is neither made of whole lines nor long.
 class Raccolta final : public UscitaRighe {
  public:
   bool Righe(std::string_view righe) override;

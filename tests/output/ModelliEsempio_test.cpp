@@ -3,9 +3,9 @@
 
 #include "output/GeneraStampa.h"
 #include "output/Leggibile.h"
+#include "supporto/Cartelle.h"
 #include "supporto/RiferimentoStampa.h"
 #include "supporto/RiferimentoStili.h"
-#include "supporto/Cartelle.h"
 #include "template/ImmagineModello.h"
 
 namespace parvik::prova {

@@ -4,8 +4,9 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <system_error>
+#include <utility>
 
 namespace parvik::prova {
 
@@ -27,7 +28,9 @@ fs::path Batch() {
 std::string Contenuto(const fs::path& file) {
   std::ifstream flusso(file, std::ios::binary);
   if (!flusso) ADD_FAILURE() << "cannot read " << file;
-  return {std::istreambuf_iterator<char>(flusso), {}};
+  std::ostringstream contenuto;
+  contenuto << flusso.rdbuf();
+  return std::move(contenuto).str();
 }
 
 void Crea(const fs::path& file, std::string_view byte) {

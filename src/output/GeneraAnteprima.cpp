@@ -1,0 +1,89 @@
+// The run into the preview.
+#include <algorithm>
+#include <utility>
+
+#include "common/Delimitatori.h"
+#include "output/GeneraStampa.h"
+
+namespace parvik {
+namespace {
+
+/// The whole text, unless it is given up.
+class RaccoltaTesto final : public UscitaRighe {
+ public:
+  RaccoltaTesto(std::string& testo, const std::stop_token& smetti) : testo_(testo), smetti_(smetti) {}
+  bool Righe(std::string_view righe) override {
+    testo_.append(righe);
+    return Continua();
+  }
+  bool Continua() override { return !smetti_.stop_requested(); }
+
+ private:
+  std::string& testo_;
+  const std::stop_token& smetti_;
+};
+
+/// The first lines that fit into a number of bytes.
+class RaccoltaInizio final : public UscitaRighe {
+ public:
+  RaccoltaInizio(std::string& testo, std::size_t massimo) : testo_(testo), massimo_(massimo) {}
+  bool Righe(std::string_view righe) override {
+    percorsi_ = 0;
+    const std::size_t posto = massimo_ - testo_.size();
+    testo_.append(righe.substr(0, posto));
+    return righe.size() <= posto;
+  }
+  /// Takes a line away again whose end did not fit.
+  void TogliRigaIncompleta() {
+    const std::size_t fine = testo_.rfind(FineRiga);
+    testo_.resize(fine == std::string::npos ? 0 : fine + FineRiga.size());
+  }
+  bool Continua() override {
+    percorsi_ += PassoStampa;
+    return percorsi_ <= std::max(massimo_, PercorsoConsentito);
+  }
+
+ private:
+  // Between two blocks of text; a block may stand for several times as much in codes.
+  static constexpr std::size_t PercorsoConsentito = 16 * PassoStampa;
+
+  std::string& testo_;
+  std::size_t massimo_;
+  std::size_t percorsi_ = 0;  // since the last text
+};
+
+void AggiungiFine(std::string& testo) {
+  if (!testo.empty()) testo.append(FineRiga).append(FineAnteprima);
+}
+
+}  // namespace
+
+Anteprima GeneraAnteprima(const DatiStampa& dati) {
+  return GeneraAnteprima(dati, std::stop_token()).value();
+}
+
+std::optional<Anteprima> GeneraAnteprima(const DatiStampa& dati, const std::stop_token& smetti) {
+  Anteprima anteprima;
+  RaccoltaTesto raccolta(anteprima.Testo, smetti);
+  if (!GeneraStampa(dati, TipoStampa::Anteprima, raccolta)) return std::nullopt;
+  AggiungiFine(anteprima.Testo);
+  auto tratti = MettiStili(anteprima.Testo, smetti);
+  if (!tratti || smetti.stop_requested()) return std::nullopt;
+  anteprima.Tratti = std::move(*tratti);
+  return anteprima;
+}
+
+InizioAnteprima GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo) {
+  InizioAnteprima inizio;
+  RaccoltaInizio raccolta(inizio.Testo.Testo, massimo);
+  inizio.Intera = GeneraStampa(dati, TipoStampa::Anteprima, raccolta);
+  if (inizio.Intera) {
+    AggiungiFine(inizio.Testo.Testo);
+  } else {
+    raccolta.TogliRigaIncompleta();
+  }
+  inizio.Testo.Tratti = MettiStili(inizio.Testo.Testo);
+  return inizio;
+}
+
+}  // namespace parvik
