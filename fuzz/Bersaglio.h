@@ -20,7 +20,7 @@ inline void Esigi(bool vale, const char* proprieta) {
 }
 
 /// An input cut into numbers and texts. A byte 0x1E separates the texts; the seeds have it in the same places
-/// (fuzz/semi.py).
+/// (fuzz/semi.sh).
 class Ingresso {
  public:
   Ingresso(const std::uint8_t* dati, std::size_t dimensione)

@@ -39,6 +39,12 @@ fs::path FileDaAprire(const fs::path& scelto) {
   return TrovaSenzaCaso(completo.parent_path(), completo.filename().string());
 }
 
+/// Whether that is what a file holds now.
+bool Contiene(const fs::path& percorso, std::string_view byte) {
+  const Esito<std::string> attuali = LeggiFile(percorso);
+  return attuali && *attuali == byte;
+}
+
 RichiestaFile RichiestaModello(RichiestaFile::Scopo uso, const TipoDoc& tipo, const fs::path& cartella) {
   RichiestaFile richiesta;
   richiesta.Uso = uso;
@@ -165,10 +171,12 @@ Esito<void> ComandiFile::Scrivi(const fs::path& percorso, const TipoDoc& tipo) {
   Esito<std::string> immagine = ScriviImmagine(testi, documento_.Corpo, FormatoDi(tipo.NumSezioni));
   if (!immagine) return immagine.Errore();
   if (testi[Indice(Sezione::Corpo)].size() != corpoPrima) sezioni_.CompletaUltimaRiga(Sezione::Corpo);
-  if (const Esito<void> scritto = Sostituisci(percorso, *immagine); !scritto) return scritto.Errore();
-  documento_.Modificato = false;
-  documento_.Origine = {.File = percorso, .Byte = std::move(*immagine)};
-  return {};
+  const Esito<void> scritto = Sostituisci(percorso, *immagine);
+  // A save may fail when the new bytes stand there already, but are not known to be safe.
+  if (scritto || Contiene(percorso, *immagine))
+    documento_.Origine = {.File = percorso, .Byte = std::move(*immagine)};
+  if (scritto) documento_.Modificato = false;
+  return scritto;
 }
 
 Esito<void> ComandiFile::Leggi(const TipoDoc& tipo) {

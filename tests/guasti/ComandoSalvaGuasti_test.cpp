@@ -1,6 +1,7 @@
 // File > Salva when the system calls of the save fail.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <string>
 
@@ -86,6 +87,25 @@ TEST_P(ComandoSalvaSottoGuasto, TellsTheErrorOnceAndStaysModifiedWhicheverCallFa
   } else {
     EXPECT_EQ(0, falliti);  // each call is made again
   }
+}
+
+TEST_F(ComandoSalvaGuasti, ANewContentThatWasWrittenButIsNotSafeIsStillThisDocuments) {
+  Prepara();
+  const Elenco sane = Salva({});
+  const auto cartella = std::find_if(
+      sane.rbegin(), sane.rend(), [](const std::string& chiamata) { return chiamata.starts_with("fsync"); });
+  ASSERT_NE(cartella, sane.rend());
+  Prepara();
+  interlocutore_.Rispondera(Risposta::Ok);
+  Salva({{.Chiamata = static_cast<int>(sane.rend() - cartella), .Errore = EIO}});
+  AttendiEsito(true, DaErrno(EIO));
+  ASSERT_EQ(Nuovo, Contenuto(dirImg_ / "A.IMG"));
+  interlocutore_.Messaggi.clear();
+  sezioni_.Testi[0] = "altra\r\n";
+  comandi_.Salva(tre_);
+  AttendiMessaggi({});
+  EXPECT_EQ("altra", Contenuto(dirImg_ / "A.IMG").substr(0, 5));
+  EXPECT_EQ(Elenco{"A.IMG"}, Nomi(dirImg_.Percorso()));
 }
 
 INSTANTIATE_TEST_SUITE_P(
