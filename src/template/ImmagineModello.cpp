@@ -5,6 +5,7 @@
 #include "common/Delimitatori.h"
 #include "common/LettoreRighe.h"
 #include "common/NumeroLeniente.h"
+#include "template/CopiaRighe.h"
 #include "template/RigheSezione.h"
 
 namespace parvik {
@@ -16,11 +17,6 @@ constexpr std::size_t NonTrovato = std::string_view::npos;
 constexpr std::string_view InizioMarcatore =
     "\xAE"
     "C";
-
-void AggiungiRiga(std::string& sezione, std::string_view riga) {
-  sezione.append(riga);
-  sezione.append(FineRiga);
-}
 
 /// The text from byte `da` on; nothing when there is no such byte.
 std::string_view Da(std::string_view testo, std::size_t da) {
@@ -63,61 +59,60 @@ std::optional<NumeroErrore> LeggiMarcatore(std::string_view riga, std::size_t in
   return std::nullopt;
 }
 
-/// Reads lines into the Testata up to the marker, which is never looked for in the first line. The marker's
-/// line and its place in it; nullopt when the file has none.
+/// The line of the marker, which is never looked for in the first line; nullopt when the file has none.
 struct Marcatore {
-  std::string_view Riga;
-  std::size_t Inizio;
+  std::size_t InizioRiga = 0;
+  std::size_t Posto = 0;  // where the two bytes that it is known by stand
 };
-std::optional<Marcatore> LeggiTestata(LettoreRighe& righe, std::string& testata) {
-  if (const auto prima = righe.Prossima()) AggiungiRiga(testata, *prima);
-  while (const auto riga = righe.Prossima()) {
-    const std::size_t inizio = riga->find(InizioMarcatore);
-    if (inizio != NonTrovato) return Marcatore{*riga, inizio};
-    AggiungiRiga(testata, *riga);
-  }
-  return std::nullopt;
+std::optional<Marcatore> TrovaMarcatore(std::string_view byte) {
+  LettoreRighe prima(byte);
+  prima.Prossima();
+  const std::size_t posto = TrovaCoppia(byte, InizioMarcatore, byte.size() - prima.Resto().size());
+  if (posto == NonTrovato) return std::nullopt;
+  const std::size_t inizio = byte.rfind('\r', posto) + 1;  // another line lies before this one
+  return Marcatore{.InizioRiga = inizio + (byte[inizio] == '\n' ? 1 : 0), .Posto = posto};
 }
 
-void LeggiCorpoEPiede(LettoreRighe& righe, ImmagineLetta& letta) {
-  for (int i = 0; i < letta.Corpo.LineeCorpo; ++i) {
-    const auto riga = righe.Prossima();
-    if (!riga) {
-      letta.CorpoIncompleto = true;
-      if (i > 0) letta.Errore = NumeroErrore::InputOltreFine;  // right after the marker the end is no error
-      return;
-    }
-    AggiungiRiga(letta.Testi[Indice(Sezione::Corpo)], *riga);
-  }
-  while (const auto riga = righe.Prossima()) AggiungiRiga(letta.Testi[Indice(Sezione::Piede)], *riga);
+void LeggiCorpoEPiede(LettoreRighe righe, ImmagineLetta& letta) {
+  const std::string_view corpo = righe.Resto();
+  int lette = 0;
+  while (lette < letta.Corpo.LineeCorpo && righe.Prossima()) ++lette;
+  AggiungiDaFile(corpo.substr(0, corpo.size() - righe.Resto().size()), letta.Testi[Indice(Sezione::Corpo)]);
+  letta.CorpoIncompleto = lette < letta.Corpo.LineeCorpo;
+  // Right after the marker the end is no error.
+  if (letta.CorpoIncompleto && lette > 0) letta.Errore = NumeroErrore::InputOltreFine;
+  AggiungiDaFile(righe.Resto(), letta.Testi[Indice(Sezione::Piede)]);
 }
 
-void LeggiTreSezioni(LettoreRighe& righe, ImmagineLetta& letta) {
-  const auto marcatore = LeggiTestata(righe, letta.Testi[Indice(Sezione::Testata)]);
+void LeggiTreSezioni(std::string_view byte, ImmagineLetta& letta) {
+  const auto marcatore = TrovaMarcatore(byte);
+  const std::size_t fineTestata = marcatore ? marcatore->InizioRiga : byte.size();
+  AggiungiDaFile(byte.substr(0, fineTestata), letta.Testi[Indice(Sezione::Testata)]);
   if (!marcatore) return;
-  letta.Errore = LeggiMarcatore(marcatore->Riga, marcatore->Inizio, letta.Corpo);
+  LettoreRighe righe(byte.substr(fineTestata));
+  const std::string_view riga = righe.Prossima().value_or("");
+  letta.Errore = LeggiMarcatore(riga, marcatore->Posto - fineTestata, letta.Corpo);
+  letta.TestoNonLetto = letta.Errore.has_value();
   if (!letta.Errore) LeggiCorpoEPiede(righe, letta);
-}
-
-/// Writes a section's lines: whatever follows a CR is skipped, it is taken to be the LF of the pair. What the
-/// last CR leaves over is returned.
-std::string_view ScriviRighe(std::string_view testo, std::string& uscita) {
-  std::size_t inizio = 0;
-  for (std::size_t cr = testo.find('\r'); cr != NonTrovato; cr = testo.find('\r', inizio)) {
-    uscita.append(testo, inizio, cr - inizio);
-    uscita.append(FineRiga);
-    inizio = std::min(cr + 2, testo.size());
-  }
-  return testo.substr(inizio);
 }
 
 /// A section of the three-section layout: an unfinished last line is written with its own line end and one
 /// more.
 void ScriviSezione(std::string_view testo, std::string& uscita) {
-  const std::size_t inizio = uscita.size();
-  const std::string_view resto = ScriviRighe(testo, uscita);
-  if (HaTesto(resto)) uscita.append(resto).append(FineRiga).append(FineRiga);
-  DelimitatoriVersoFile(std::span(uscita).subspan(inizio));
+  const std::size_t resto = AggiungiVersoFile(testo, uscita);
+  if (HaTesto(std::string_view(uscita).substr(resto))) {
+    uscita.append(FineRiga).append(FineRiga);
+  } else {
+    uscita.resize(resto);
+  }
+}
+
+/// Enough for a file of three sections, unless a section has line ends of one byte.
+std::size_t Dimensione(const TestiSezioni& testi) {
+  constexpr std::size_t MarcatoreEFiniRiga = 64;
+  std::size_t dimensione = MarcatoreEFiniRiga;
+  for (const std::string& testo : testi) dimensione += testo.size();
+  return dimensione;
 }
 
 std::string RigaMarcatore(const ImpostazioniCorpo& corpo) {
@@ -134,36 +129,23 @@ ImpostazioniCorpo ImpostazioniPredefinite() {
   return {.RigheCorpo = 23, .LineeCorpo = 1, .FlagSbarra = "", .FlagAccorpa = ""};
 }
 
-void DelimitatoriVersoEditor(std::span<char> testo) {
-  std::ranges::replace(testo, DelimFileApertura, DelimApertura);
-  std::ranges::replace(testo, DelimFileChiusura, DelimChiusura);
-}
-
-void DelimitatoriVersoFile(std::span<char> testo) {
-  std::ranges::replace(testo, DelimApertura, DelimFileApertura);
-  std::ranges::replace(testo, DelimChiusura, DelimFileChiusura);
-}
-
 ImmagineLetta LeggiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali) {
   ImmagineLetta letta;
   letta.Corpo = attuali;
-  LettoreRighe righe(byte);
   if (formato == Formato::TreSezioni) {
-    LeggiTreSezioni(righe, letta);
+    LeggiTreSezioni(byte, letta);
   } else {
-    while (const auto riga = righe.Prossima()) AggiungiRiga(letta.Testi[Indice(Sezione::Testata)], *riga);
+    AggiungiDaFile(byte, letta.Testi[Indice(Sezione::Testata)]);
   }
-  // An error in the marker leaves the marker itself unread, whatever follows it.
-  letta.TestoNonLetto = !righe.Fine() || letta.Errore == NumeroErrore::Overflow;
-  for (std::string& testo : letta.Testi) DelimitatoriVersoEditor(testo);
   return letta;
 }
 
 Esito<std::string> ScriviImmagine(TestiSezioni& testi, ImpostazioniCorpo& corpo, Formato formato) {
   std::string uscita;
   if (formato == Formato::UnaSezione) {
-    ScriviRighe(testi[Indice(Sezione::Testata)], uscita);  // an unfinished last line is not written
-    DelimitatoriVersoFile(uscita);
+    const std::string& testata = testi[Indice(Sezione::Testata)];
+    uscita.reserve(testata.size() + FineRiga.size());
+    uscita.resize(AggiungiVersoFile(testata, uscita));  // an unfinished last line is not written
     return uscita;
   }
   std::string& testoCorpo = testi[Indice(Sezione::Corpo)];
@@ -171,6 +153,7 @@ Esito<std::string> ScriviImmagine(TestiSezioni& testi, ImpostazioniCorpo& corpo,
   if (!conteggio) return conteggio.Errore();
   if (conteggio->DaCompletare) testoCorpo.append(FineRiga);
   corpo.LineeCorpo = conteggio->Righe;
+  uscita.reserve(Dimensione(testi));
   ScriviSezione(testi[Indice(Sezione::Testata)], uscita);
   uscita.append(RigaMarcatore(corpo));
   ScriviSezione(testoCorpo, uscita);

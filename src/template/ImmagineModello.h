@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -50,10 +49,5 @@ ImmagineLetta LeggiImmagine(std::string_view byte, Formato formato, const Impost
 /// lacks its CR LF is completed, in `testi` itself. Overflow, and nothing changed, when the Corpo has more
 /// than 32767 lines.
 Esito<std::string> ScriviImmagine(TestiSezioni& testi, ImpostazioniCorpo& corpo, Formato formato);
-
-/// Replaces a text's delimiters by those of the other side: « and » in the editor, two bytes of their own in
-/// a file.
-void DelimitatoriVersoEditor(std::span<char> testo);
-void DelimitatoriVersoFile(std::span<char> testo);
 
 }  // namespace parvik

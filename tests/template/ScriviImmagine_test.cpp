@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "template/CopiaRighe.h"
 #include "template/ImmagineModello.h"
 #include "template/Modelli.h"
 
