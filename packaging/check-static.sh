@@ -1,0 +1,28 @@
+#!/bin/sh
+# Looks for mistakes in the sources without running them: check-static.sh [BUILD_FOLDER]
+# clang-tidy (.clang-tidy) on every source of the programs, and cppcheck. The build folder must have been built:
+# both read headers that the build makes. See docs/checks.md.
+set -eu
+cd "$(dirname "$0")/.."
+build=${1:-build/dev}
+processors=$(nproc)
+failed=0
+
+[ -f "$build/compile_commands.json" ] && [ -f "$build/src/generati/app/Versione.h" ] || {
+  echo "check-static.sh: build $build first" >&2
+  exit 2
+}
+
+echo "cppcheck ..."
+cppcheck --quiet -j "$processors" --std=c++20 --library=qt --library=posix --enable=warning,performance,portability \
+  --suppressions-list=packaging/cppcheck.supp --error-exitcode=1 -I src -I tests -I "$build/src/generati" \
+  src fuzz tests/supporto || failed=1
+
+# The largest sources first, so that no processor is left with one at the end; the windows' own header lines cost most.
+echo "clang-tidy ..."
+find src -name '*.cpp' | xargs grep -c '#include <Q' | sort -t: -k2,2nr | cut -d: -f1 |
+  xargs -P "$processors" -n 2 clang-tidy --quiet -p "$build" 2>"$build/clang-tidy.log" || failed=1
+grep -vE '^[0-9]+ warnings? (generated|treated as error)' "$build/clang-tidy.log" || true
+
+[ $failed -ne 0 ] || echo "Nothing found."
+exit $failed
