@@ -1,6 +1,7 @@
 #include "template/ComandiFile.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <system_error>
 #include <utility>
 
@@ -17,6 +18,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t CaratteriTitolo = 12;
+/// More than this no window holds at its ease: laid out, a text takes up to 65 times its size.
+constexpr std::uintmax_t MassimoModello = 64U << 20U;
 constexpr const char* EstensioneModelli = ".img";
 
 /// The pattern of the one filter entry: the type's, unless it is none that a file name could match.
@@ -37,6 +40,12 @@ fs::path FileDaAprire(const fs::path& scelto) {
   if (EsisteFile(scelto)) return scelto;
   const fs::path completo = ConEstensione(scelto, EstensioneModelli);
   return TrovaSenzaCaso(completo.parent_path(), completo.filename().string());
+}
+
+bool TroppoGrande(const fs::path& file) {
+  std::error_code errore;
+  const std::uintmax_t dimensione = fs::file_size(file, errore);
+  return !errore && dimensione > MassimoModello;
 }
 
 /// Whether that is what a file holds now.
@@ -99,7 +108,12 @@ void ComandiFile::Apri(const TipoDoc& tipo) {
   RichiestaFile richiesta = RichiestaModello(RichiestaFile::Scopo::Apri, tipo, dirImg_);
   richiesta.Titolo = "Apri File Immagine";
   const fs::path scelto = interlocutore_.ScegliFile(richiesta);
-  documento_.NomeFile = scelto.empty() ? scelto : FileDaAprire(scelto);
+  const fs::path file = scelto.empty() ? scelto : FileDaAprire(scelto);
+  if (TroppoGrande(file)) {
+    interlocutore_.Chiedi({.Testo = TestoErrore(NumeroErrore::MemoriaEsaurita)});
+    return;
+  }
+  documento_.NomeFile = file;
   if (scelto.empty()) return;
   contorno_.SpegniAnteprima();
   if (!sezioni_.Testo(Sezione::Testata).empty()) contorno_.AzzeraFlagStampe();

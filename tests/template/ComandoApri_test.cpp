@@ -1,6 +1,7 @@
 // File > Apri.
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -170,6 +171,27 @@ TEST_F(ComandoApri, IsSilentAboutAMissingFileWhoseNameItKeeps) {
   EXPECT_EQ(Iniziali(), sezioni_.Testi);
   EXPECT_FALSE(documento_.Modificato);
   EXPECT_EQ((Testi{"anteprima spenta", "flag azzerati", "titolo Ordavia - MANCA001.IMG"}), contorno_.Fatti);
+}
+
+TEST_F(ComandoApri, OpensAFileOf64MiBAndRefusesAGreaterOneBeforeAnythingChanges) {
+  constexpr std::uintmax_t massimo = 64U << 20U;
+  std::filesystem::resize_file(dirImg_ / "MODELLO1.IMG", massimo + 1);
+  documento_.NomeFile = dirImg_ / "prima.img";
+  interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
+  interlocutore_.Rispondera(Risposta::Ok);
+  comandi_.Apri(tre_);
+  AttendiMessaggi({Errore(NumeroErrore::MemoriaEsaurita)});
+  EXPECT_EQ(Iniziali(), sezioni_.Testi);
+  EXPECT_EQ(dirImg_ / "prima.img", documento_.NomeFile);
+  EXPECT_EQ(Testi{}, contorno_.Fatti);
+
+  interlocutore_.Messaggi.clear();
+  std::filesystem::resize_file(dirImg_ / "MODELLO1.IMG", massimo);
+  interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
+  comandi_.Apri(tre_);
+  AttendiMessaggi({});
+  EXPECT_EQ(Aperti()[0], sezioni_.Testi[0]);
+  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.NomeFile);
 }
 
 TEST_F(ComandoApri, ShowsWhatCouldBeReadOfAFileThatEndsTooEarly) {
