@@ -101,16 +101,25 @@ void frmParvik::CreaSezione(Sezione sezione) {
   sezioni_[Indice(sezione)] = editor;
 }
 
-/// A narrow strip: a fixed-pitch font makes the spaced caption wrap after every letter.
 void frmParvik::CreaEtichetta(Sezione sezione) {
   auto* etichetta = new QLabel(Didascalie[Indice(sezione)], area_);
   etichetta->setObjectName(QStringLiteral("lblTCP_%1").arg(Indice(sezione)));
   etichetta->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   etichetta->setWordWrap(true);
   etichetta->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-  const int larghezza = etichetta->fontMetrics().horizontalAdvance('M') + 2 * MargineEtichette;
-  etichetta->resize(larghezza, etichetta->heightForWidth(larghezza));
+  etichetta->hide();
   etichette_[Indice(sezione)] = etichetta;
+}
+
+/// Narrow strips: a fixed-pitch font makes the spaced captions wrap after every letter. Measuring loads the
+/// font, so it is not done before a label is to be seen.
+void frmParvik::MisuraEtichette() {
+  if (etichetteMisurate_) return;
+  etichetteMisurate_ = true;
+  for (QLabel* etichetta : etichette_) {
+    const int larghezza = etichetta->fontMetrics().horizontalAdvance('M') + 2 * MargineEtichette;
+    etichetta->resize(larghezza, etichetta->heightForWidth(larghezza));
+  }
 }
 
 void frmParvik::CreaMenu() {
@@ -243,7 +252,10 @@ void frmParvik::SpostaDivisore(int x) {
 void frmParvik::ResizeControls() {
   if (!editore_.AnteVisibile()) divisore_.reset();
   Disposizione disposizione;
-  if (editore_.TipoScelto()) disposizione = Disponi(Misure());
+  if (editore_.TipoScelto()) {
+    MisuraEtichette();
+    disposizione = Disponi(Misure());
+  }
   for (std::size_t i = 0; i < MaxSezioni; ++i) {
     Colloca(*sezioni_[i], disposizione.Sezioni[i]);
     const auto& etichetta = disposizione.Etichette[i];

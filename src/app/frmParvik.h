@@ -48,6 +48,7 @@ class frmParvik final : public QMainWindow, private Vista {
   void CreaControlli();
   void CreaDivisore();
   void CreaEtichetta(Sezione sezione);
+  void MisuraEtichette();
   void CreaSezione(Sezione sezione);
   void CreaMenu();
   void CollegaMenu();
@@ -71,6 +72,7 @@ class frmParvik final : public QMainWindow, private Vista {
   ricAnte* anteprima_ = nullptr;
   std::optional<int> divisore_;  // in twips; where the user has dragged the boundary since the last resize
   bool inAttesa_ = false;        // a command waits for its work: the window stays
+  bool etichetteMisurate_ = false;
   QHash<QString, QAction*> azioni_;
   std::unique_ptr<frmTotRighe> totali_;  // made anew each time it is shown
   frmSettaFlag* settaFlag_ = nullptr;    // made when it is first shown

@@ -1,5 +1,7 @@
 #include <QApplication>
 #include <QIcon>
+#include <QTimer>
+#include <chrono>
 #include <cstdlib>
 #include <iostream>
 #include <string_view>
@@ -13,6 +15,9 @@
 #include "common/frmItaliano.h"
 
 namespace {
+
+/// Decoding the icon would hold up the window's first frame.
+constexpr auto AttesaIcona = std::chrono::milliseconds(200);
 
 constexpr const char* Aiuto =
     "Uso: parvik32\n"
@@ -44,7 +49,6 @@ int main(int argc, char** argv) {
   const parvik::SegnaliFine segnali;  // before the toolkit's threads
   QApplication programma(argc, argv);
   QApplication::setApplicationName("parvik32");
-  QApplication::setWindowIcon(QIcon(":/ordavia.png"));
   if (!parvik::ParlaItaliano(programma))
     std::cerr << "parvik32: manca la traduzione italiana di Qt (qtbase_it)\n";
   parvik::frmDialoghi dialoghi;
@@ -58,5 +62,6 @@ int main(int argc, char** argv) {
     return true;
   });
   finestra.show();
+  QTimer::singleShot(AttesaIcona, &programma, [] { QApplication::setWindowIcon(QIcon(":/ordavia.png")); });
   return QApplication::exec();
 }
