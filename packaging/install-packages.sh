@@ -1,8 +1,8 @@
 #!/bin/sh
-# Installs what is missing of debian-packages.txt, and says what it does. Nothing is asked of the network when
-# nothing is missing.
+# Installs what is missing of a list in this folder, and says what it does: install-packages.sh [LIST]
+# Without a list it is debian-packages.txt. Nothing is asked of the network when nothing is missing.
 set -eu
-list=$(dirname "$0")/debian-packages.txt
+list=$(dirname "$0")/${1:-debian-packages.txt}
 
 missing=
 for package in $(sed 's/#.*//' "$list"); do

@@ -94,6 +94,8 @@ Esecuzione SalvataggioGuasto::Normalizza(Elenco argomenti, const std::vector<Gua
   PianoGuasti piano = {.Cartelle = {Cartella(), Temporanea()}, .Guasti = guasti};
   if (via_ == Via::CopiaAltrove) piano.Chiusa = Cartella();
   const VariabileAmbiente libreria("LD_PRELOAD", PARVIK_LIBRERIA_GUASTI);
+  // A sanitized program wants its sanitizer first; behind the faults it sees what they let through.
+  const VariabileAmbiente opzioni("ASAN_OPTIONS", OpzioniAsan("verify_asan_link_order=0").c_str());
   const VariabileAmbiente conPiano("PARVIK_GUASTI", Scritto(piano).c_str());
   const VariabileAmbiente conDiario("PARVIK_GUASTI_DIARIO", Diario().c_str());
   const VariabileAmbiente temporanea("TMPDIR", Temporanea().c_str());
