@@ -14,6 +14,7 @@
 
 #include "common/Delimitatori.h"
 #include "common/frmTesto.h"
+#include "template/txtDisposizione.h"
 
 namespace parvik {
 namespace {
@@ -123,10 +124,17 @@ QString ComeTestoSemplice(const QString& testo) {
   return Qt::mightBeRichText(testo) ? "<p>" + testo.toHtmlEscaped() + "</p>" : testo;
 }
 
+QTextDocument* NuovoDocumento(QObject* padre) {
+  auto* documento = new QTextDocument(padre);
+  documento->setDocumentLayout(new txtDisposizione(documento));
+  return documento;
+}
+
 }  // namespace
 
-txtTCP::txtTCP(Sezione sezione, QWidget* padre)
-    : QPlainTextEdit(padre), sezione_(sezione), colori_(new frmColori(document())) {
+txtTCP::txtTCP(Sezione sezione, QWidget* padre) : QPlainTextEdit(padre), sezione_(sezione) {
+  setDocument(NuovoDocumento(this));
+  colori_ = new frmColori(document());
   setObjectName(QStringLiteral("txtTCP_%1").arg(Indice(sezione)));
   setAccessibleName(NomiAccessibili[Indice(sezione)]);
   setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));  // templates are columns

@@ -79,7 +79,7 @@ class txtTCP final : public QPlainTextEdit {
   bool MostraDescrizione(QPoint punto, QPoint globale);
 
   Sezione sezione_;
-  frmColori* colori_;
+  frmColori* colori_ = nullptr;
   Descrizione descrizione_;
 };
 

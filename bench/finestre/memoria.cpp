@@ -1,0 +1,61 @@
+// The memory that a template takes in a window, in bytes a byte of the file: bench_memoria editor|bare LINES
+#include <unistd.h>
+
+#include <QApplication>
+#include <QMainWindow>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <string>
+
+#include "Dati.h"
+#include "common/frmTesto.h"
+#include "finestre/Banco.h"
+
+namespace parvik::bench {
+namespace {
+
+/// In bytes.
+double Residente() {
+  std::ifstream stato("/proc/self/statm");
+  long tutte = 0;
+  long residenti = 0;
+  stato >> tutte >> residenti;
+  return static_cast<double>(residenti) * static_cast<double>(::sysconf(_SC_PAGESIZE));
+}
+
+double NellEditor(const std::string& modello) {
+  Banco banco;
+  const double prima = Residente();
+  banco.Apri(modello);
+  return Residente() - prima;
+}
+
+double NelNudo(const std::string& modello) {
+  QMainWindow finestra;
+  auto* nudo = new QPlainTextEdit(&finestra);
+  nudo->setLineWrapMode(QPlainTextEdit::NoWrap);
+  finestra.setCentralWidget(nudo);
+  finestra.resize(1100, 700);
+  finestra.show();
+  Svuota();
+  const double prima = Residente();
+  nudo->setPlainText(PerSchermo(modello));
+  Svuota();
+  return Residente() - prima;
+}
+
+}  // namespace
+}  // namespace parvik::bench
+
+int main(int argc, char** argv) {
+  using namespace parvik::bench;
+  if (argc != 3) {
+    std::cerr << "bench_memoria editor|bare LINES\n";
+    return EXIT_FAILURE;
+  }
+  QApplication programma(argc, argv);
+  const std::string modello = Modello(std::stoul(argv[2]));
+  const double usati = std::string(argv[1]) == "editor" ? NellEditor(modello) : NelNudo(modello);
+  std::cout << usati / static_cast<double>(modello.size()) << '\n';
+}

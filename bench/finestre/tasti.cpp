@@ -1,0 +1,151 @@
+// Typing: from a key to what it paints, in the Testata of the editor's window and in a bare QPlainTextEdit
+// with the same text in the same colours, key by key in turn.
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QTextBlock>
+#include <chrono>
+#include <iostream>
+#include <optional>
+#include <string>
+
+#include "Dati.h"
+#include "Resoconto.h"
+#include "finestre/Banco.h"
+
+namespace parvik::bench {
+namespace {
+
+using Orologio = std::chrono::steady_clock;
+
+constexpr int Tasti = 600;       // in each editor
+constexpr int TastiPerRiga = 5;  // then a line further down
+constexpr int TastiContati = 100;
+constexpr std::size_t RigheCorte = 60;
+constexpr double Sbarra = 1.25;
+constexpr double Mezzo = 0.5;
+constexpr double QuasiTutti = 0.99;
+
+/// Whether something was painted since.
+class Sentinella final : public QObject {
+ public:
+  explicit Sentinella(QWidget* osservato) { osservato->installEventFilter(this); }
+  bool Dipinto = false;
+
+ protected:
+  bool eventFilter(QObject* oggetto, QEvent* evento) override {
+    if (evento->type() == QEvent::Paint) Dipinto = true;
+    return QObject::eventFilter(oggetto, evento);
+  }
+};
+
+/// A QPlainTextEdit at the right of the editor, of the same size, with a text and its colours.
+class Nudo {
+ public:
+  explicit Nudo(const QPlainTextEdit& modello) : editor_(new QPlainTextEdit(&finestra_)) {
+    finestra_.setCentralWidget(editor_);
+    editor_->setFont(modello.font());
+    editor_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    editor_->setFocusPolicy(Qt::NoFocus);  // no caret to draw, as in the other window
+    editor_->setPlainText(modello.toPlainText());
+    Colora(*modello.document());
+    finestra_.move(modello.window()->width(), 0);
+    finestra_.resize(modello.size());
+    finestra_.show();
+  }
+  QPlainTextEdit& Editor() { return *editor_; }
+
+ private:
+  void Colora(const QTextDocument& modello) {
+    QTextBlock suo = editor_->document()->begin();
+    for (QTextBlock blocco = modello.begin(); blocco.isValid(); blocco = blocco.next(), suo = suo.next())
+      suo.layout()->setFormats(blocco.layout()->formats());
+  }
+
+  QMainWindow finestra_;
+  QPlainTextEdit* editor_;
+};
+
+/// One editor, its caret, and how long its keys took.
+class Prova {
+ public:
+  explicit Prova(QPlainTextEdit& editor) : editor_(editor), sentinella_(editor.viewport()) {
+    QTextCursor mezzo(editor.document()->findBlockByNumber(editor.blockCount() / 2));
+    editor.setTextCursor(mezzo);
+    editor.centerCursor();
+    Svuota();
+  }
+
+  [[gnu::noinline]] void Premi(int volta) {
+    if (volta % TastiPerRiga == 0) {
+      editor_.moveCursor(volta % (8 * TastiPerRiga) == 0 ? QTextCursor::PreviousBlock
+                                                         : QTextCursor::NextBlock);
+      Svuota();
+    }
+    sentinella_.Dipinto = false;
+    QKeyEvent giu(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
+    const auto inizio = Orologio::now();
+    QCoreApplication::sendEvent(&editor_, &giu);
+    while (!sentinella_.Dipinto) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    const std::chrono::duration<double, std::milli> passati = Orologio::now() - inizio;
+    tempi_.push_back(passati.count());
+    QKeyEvent su(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier, "a");
+    QCoreApplication::sendEvent(&editor_, &su);
+    Svuota();
+  }
+
+  double Quantile(double parte) const { return bench::Quantile(tempi_, parte); }
+
+ private:
+  QPlainTextEdit& editor_;
+  Sentinella sentinella_;
+  std::vector<double> tempi_;
+};
+
+/// What the median key took in the editor, in milliseconds.
+double Misura(std::size_t righe) {
+  Banco banco;
+  banco.Apri(Modello(2 * righe));  // half of it is the Testata
+  Nudo nudo(banco.Testata());
+  Svuota();
+  Prova nostra(banco.Testata());
+  Prova sua(nudo.Editor());
+  for (int i = 0; i < Tasti; ++i) {
+    sua.Premi(i);
+    nostra.Premi(i);
+  }
+  const std::string cosa = "key to repaint, " + std::to_string(righe) + " lines, ";
+  std::cerr << cosa << "p50 and p99: editor " << nostra.Quantile(Mezzo) << " and "
+            << nostra.Quantile(QuasiTutti) << " ms, bare " << sua.Quantile(Mezzo) << " and "
+            << sua.Quantile(QuasiTutti) << " ms\n";
+  StampaAlPiu(cosa + "p50, of a bare editor's", nostra.Quantile(Mezzo) / sua.Quantile(Mezzo), Sbarra);
+  StampaAlPiu(cosa + "p99, of a bare editor's", nostra.Quantile(QuasiTutti) / sua.Quantile(QuasiTutti),
+              Sbarra);
+  return nostra.Quantile(Mezzo);
+}
+
+/// Keys in one of the two alone, to count the instructions of Premi.
+void Conta(bool nudo) {
+  Banco banco;
+  banco.Apri(Modello(2 * RigheCorte));
+  Nudo altro(banco.Testata());
+  Svuota();
+  Prova prova(nudo ? altro.Editor() : banco.Testata());
+  for (int i = 0; i < TastiContati; ++i) prova.Premi(i);
+}
+
+}  // namespace
+}  // namespace parvik::bench
+
+int main(int argc, char** argv) {
+  using namespace parvik::bench;
+  QApplication programma(argc, argv);
+  if (argc == 2) {
+    Conta(std::string(argv[1]) == "bare");
+    return EXIT_SUCCESS;
+  }
+  const double corta = Misura(RigheCorte);
+  if (argc == 1) Misura(6'000);
+  const double lunga = Misura(60'000);
+  StampaAlPiu("key to repaint, p50 at 60,000 lines, of that at 60", lunga / corta, Sbarra);
+}
