@@ -88,8 +88,6 @@ class UtenteComune {
 
  private:
   static constexpr unsigned int Nessuno = 65534;
-  // A program started now belongs to one user and acts as another: the leak detector may not look into it.
-  VariabileAmbiente opzioni_{"ASAN_OPTIONS", OpzioniAsan("detect_leaks=0").c_str()};
   bool comune_ = true;
   bool cambiato_ = false;
 };
