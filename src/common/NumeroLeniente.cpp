@@ -3,12 +3,28 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace parvik {
 namespace {
 
 bool Cifra(char c) {
   return c >= '0' && c <= '9';
+}
+
+/// The number where it is written as nearly all are: a few digits from the first byte on, and no point behind
+/// them. nullopt for any other text, which may hold a number all the same.
+std::optional<std::uint32_t> CifreSole(std::string_view testo) {
+  constexpr std::size_t MaxCifre = 6;  // below LunghezzaMassima
+  std::uint32_t valore = 0;
+  std::size_t i = 0;
+  for (; i < testo.size() && Cifra(testo[i]); ++i) {
+    if (i == MaxCifre) return std::nullopt;
+    valore = valore * 10 + static_cast<std::uint32_t>(testo[i] - '0');
+  }
+  const bool punto = i < testo.size() && testo[i] == '.';
+  if (i == 0 || punto) return std::nullopt;
+  return valore;
 }
 
 struct Prefisso {
@@ -66,6 +82,7 @@ double Valore(std::string_view cifre) {
 }  // namespace
 
 double NumeroLeniente(std::string_view testo) {
+  if (const auto cifre = CifreSole(testo)) return *cifre;
   const Prefisso prefisso = TrovaPrefisso(testo);
   const double valore = Valore(prefisso.Cifre);
   return prefisso.Negativo ? -valore : valore;
@@ -81,6 +98,7 @@ Esito<std::int16_t> InteroLeniente(std::string_view testo) {
 }
 
 std::size_t LunghezzaLeniente(std::string_view testo) {
+  if (const auto cifre = CifreSole(testo)) return *cifre;
   const double arrotondato = std::nearbyint(NumeroLeniente(testo));
   if (arrotondato <= 0) return 0;
   if (arrotondato >= static_cast<double>(LunghezzaMassima)) return LunghezzaMassima;

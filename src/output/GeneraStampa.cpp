@@ -1,28 +1,38 @@
 #include "output/GeneraStampa.h"
 
 #include <algorithm>
+#include <cstring>
 #include <optional>
+#include <string>
 
 #include "common/Delimitatori.h"
+#include "output/BloccoStampa.h"
 
 namespace parvik {
 namespace {
 
+/// The first `cercato` at or after `da`; the text's size when there is none. `da` lies within the text.
+std::size_t Trova(std::string_view testo, char cercato, std::size_t da) {
+  const void* const trovato = std::memchr(testo.data() + da, cercato, testo.size() - da);
+  return trovato == nullptr ? testo.size()
+                            : static_cast<std::size_t>(static_cast<const char*>(trovato) - testo.data());
+}
+
 /// Finds one byte again and again from growing positions; looks at every byte of the text once.
 class Cercatore {
  public:
-  Cercatore(std::string_view testo, char cercato) : testo_(testo), cercato_(cercato) {}
+  Cercatore(std::string_view testo, char cercato)
+      : testo_(testo), cercato_(cercato), trovato_(Trova(testo, cercato, 0)) {}
   /// The first place at or after `da`; the text's size when there is none. `da` never goes back.
   std::size_t Da(std::size_t da) {
-    if (trovato_ == Mai || trovato_ < da) trovato_ = std::min(testo_.find(cercato_, da), testo_.size());
+    if (trovato_ < da) trovato_ = Trova(testo_, cercato_, da);
     return trovato_;
   }
 
  private:
-  static constexpr std::size_t Mai = std::string_view::npos;
   std::string_view testo_;
   char cercato_;
-  std::size_t trovato_ = Mai;
+  std::size_t trovato_;
 };
 
 /// Where the last line that a section emits ends: its CR. npos when it emits none.
@@ -46,17 +56,26 @@ class Corsa {
 
   /// Renders a section as often as it is repeated. False when the output ended the run.
   bool Sezione(std::string_view testo, int ripetizioni) {
+    if (testo.empty()) return true;
     testo_ = testo;
     ultimaFine_.reset();
-    for (int volta = 0; volta < ripetizioni; ++volta) {
+    for (int volta = 1; volta <= ripetizioni; ++volta) {
+      const Memoria prima = trovaVar_.Ricordo();
+      const std::size_t usciti = usciti_;
+      const std::size_t inizio = blocco_.Dimensione();
       if (!UnaVolta()) return false;
+      // Begun with the same memory as it ends with, the section comes out alike from now on.
+      const std::size_t scritti = blocco_.Dimensione() - inizio;
+      const bool intera = usciti == usciti_ && scritti > 0 && scritti <= PezzoMassimo;
+      if (intera && trovaVar_.Ricordo() == prima) return Replica(inizio, ripetizioni - volta);
     }
     return true;
   }
 
   bool Scarica() {
-    const bool continua = blocco_.empty() || uscita_.Righe(blocco_);
-    blocco_.clear();
+    usciti_ += blocco_.Dimensione();
+    const bool continua = blocco_.Dimensione() == 0 || uscita_.Righe(blocco_.Testo());
+    blocco_.Tronca(0);
     fineUltimaRiga_ = 0;
     RicominciaPasso();
     return continua;
@@ -64,80 +83,108 @@ class Corsa {
 
  private:
   static constexpr std::size_t MezzoPasso = PassoStampa / 2;
+  static constexpr std::size_t PezzoMassimo = MezzoPasso / 2;
+  // Less than a step of whole lines, less than two of the line under way; and one that is never needed.
+  static constexpr std::size_t Spazio = 4 * PassoStampa;
 
   bool UnaVolta() {
     Cercatore fineRiga(testo_, '\r');
-    Cercatore apertura(testo_, DelimApertura);
-    posto_ = 0;
-    while (posto_ < testo_.size()) {
-      const std::size_t prossimo = std::min(fineRiga.Da(posto_), apertura.Da(posto_));
-      if (!Scrivi(testo_.substr(posto_, prossimo - posto_))) return false;
-      if (prossimo == testo_.size()) break;
-      if (testo_[prossimo] == DelimApertura) {
-        const std::size_t chiusura = testo_.find(DelimChiusura, prossimo);
-        letti_ += std::min(chiusura, testo_.size()) - prossimo;
-        if (chiusura == std::string_view::npos) break;  // swallows the rest, and is no code
-        if (!Scrivi(trovaVar_(testo_.substr(prossimo + 1, chiusura - prossimo - 1)))) return false;
-        posto_ = chiusura + 1;
-      } else {
-        posto_ = prossimo + (testo_.substr(prossimo).starts_with(FineRiga) ? FineRiga.size() : 1);
-        if (!ChiudiRiga()) return false;
-      }
+    for (std::size_t posto = 0; posto < testo_.size();) {
+      const std::size_t apertura = Trova(testo_, DelimApertura, posto);
+      if (!ScriviRighe(posto, apertura, fineRiga)) return false;
+      if (apertura == testo_.size()) break;
+      const std::size_t chiusura = Trova(testo_, DelimChiusura, apertura);
+      Letti(chiusura - apertura);
+      if (chiusura == testo_.size()) break;  // swallows the rest, and is no code
+      if (!Scrivi(trovaVar_({testo_.data() + apertura + 1, chiusura - apertura - 1}))) return false;
+      posto = chiusura + 1;
     }
-    blocco_.resize(fineUltimaRiga_);  // a line without its end is not emitted
+    blocco_.Tronca(fineUltimaRiga_);  // a line without its end is not emitted
     return Prosegui();
   }
 
-  bool ChiudiRiga() {
-    blocco_.append(FineRiga);
-    fineUltimaRiga_ = blocco_.size();
-    return blocco_.size() < PassoStampa || Scarica();
+  /// The text of [da, a), in which no code begins. What follows the last line end waits for the code behind
+  /// it to ask whether to go on.
+  bool ScriviRighe(std::size_t da, std::size_t a, Cercatore& fineRiga) {
+    for (std::size_t fine = fineRiga.Da(da); fine < a; fine = fineRiga.Da(da)) {
+      if (!ScriviTesto(da, fine)) return false;
+      da = fine + (testo_.substr(fine).starts_with(FineRiga) ? FineRiga.size() : 1);
+      blocco_.Aggiungi(FineRiga);
+      if (!RigaChiusa()) return false;
+    }
+    return ScriviTesto(da, a);
+  }
+
+  bool RigaChiusa() {
+    fineUltimaRiga_ = blocco_.Dimensione();
+    return fineUltimaRiga_ < PassoStampa ? Prosegui() : Scarica();
+  }
+
+  /// What was written from `da` on, whole lines, over and over.
+  bool Replica(std::size_t da, int volte) {
+    const std::string righe(blocco_.Testo().substr(da));
+    for (; volte > 0; --volte) {
+      blocco_.Aggiungi(righe);
+      if (!RigaChiusa()) return false;
+    }
+    return true;
   }
 
   bool Scrivi(const Campione& campione) {
-    if (campione.Lunghezza() > MezzoPasso) [[unlikely]] {
-      return Ripeti(campione.RiempiPrima, campione.Riempimento) && Scrivi(campione.Testo) &&
+    if (campione.Lunghezza() > PezzoMassimo) [[unlikely]] {
+      return Ripeti(campione.RiempiPrima, campione.Riempimento) && Spezza(campione.Testo) &&
              Ripeti(campione.Zeri, '0') && Ripeti(campione.RiempiDopo, campione.Riempimento);
     }
-    campione.AggiungiA(blocco_);
+    blocco_.Aggiungi(campione);
     return Prosegui();
   }
+  bool ScriviTesto(std::size_t da, std::size_t a) {
+    posto_ = da;
+    if (a - da > PezzoMassimo) [[unlikely]] {
+      return Spezza(testo_.substr(da, a - da));
+    }
+    blocco_.Aggiungi(testo_, da, a);
+    return true;
+  }
+
+  // What is too long to be added at once.
   bool Ripeti(std::size_t volte, char carattere) {
-    for (; volte > MezzoPasso; volte -= MezzoPasso) {
-      blocco_.append(MezzoPasso, carattere);
+    for (; volte > PezzoMassimo; volte -= PezzoMassimo) {
+      blocco_.Aggiungi(PezzoMassimo, carattere);
       if (!Prosegui()) return false;
     }
-    blocco_.append(volte, carattere);
+    blocco_.Aggiungi(volte, carattere);
     return Prosegui();
   }
-  bool Scrivi(std::string_view testo) {
-    for (; testo.size() > MezzoPasso; testo.remove_prefix(MezzoPasso)) {
-      blocco_.append(testo.substr(0, MezzoPasso));
+  bool Spezza(std::string_view testo) {
+    for (; testo.size() > PezzoMassimo; testo.remove_prefix(PezzoMassimo)) {
+      blocco_.Aggiungi(testo, 0, PezzoMassimo);
       if (!Prosegui()) return false;
     }
-    blocco_.append(testo);
+    blocco_.Aggiungi(testo);
     return Prosegui();
   }
 
-  /// Turns to the output when half a step is done. No piece that is added in between is longer than the other
-  /// half.
+  /// Turns to the output when half a step is done. What is added in between, a text and a code at most, is no
+  /// longer than the other half.
   bool Prosegui() {
-    if (blocco_.size() + letti_ < prossimaDomanda_) [[likely]] {
+    if (static_cast<std::ptrdiff_t>(blocco_.Dimensione()) < prossimaDomanda_) [[likely]] {
       return true;
     }
     return Chiedi();
   }
   bool Chiedi() {
-    if (blocco_.size() - fineUltimaRiga_ >= PassoStampa) {
+    if (blocco_.Dimensione() - fineUltimaRiga_ >= PassoStampa) {
       if (RigaFinisce()) return Scarica();
-      blocco_.resize(fineUltimaRiga_);
+      blocco_.Tronca(fineUltimaRiga_);
     }
     RicominciaPasso();
     return uscita_.Continua();
   }
+  /// Codes that are read bring the next question nearer, as text does that is written.
+  void Letti(std::size_t byte) { prossimaDomanda_ -= static_cast<std::ptrdiff_t>(byte); }
   void RicominciaPasso() {
-    letti_ = 0;
-    prossimaDomanda_ = blocco_.size() + MezzoPasso;
+    prossimaDomanda_ = static_cast<std::ptrdiff_t>(blocco_.Dimensione() + MezzoPasso);
   }
 
   /// Whether the line under way will be emitted. Only a line that is too long to be kept needs to know.
@@ -148,13 +195,13 @@ class Corsa {
 
   TrovaVar trovaVar_;
   UscitaRighe& uscita_;
-  std::string_view testo_;                 // the section
-  std::size_t posto_ = 0;                  // how far it was rendered
-  std::optional<std::size_t> ultimaFine_;  // UltimaFineRiga() of the section, once it was asked for
-  std::string blocco_;                     // whole lines, and the line under way or what is left of it
-  std::size_t fineUltimaRiga_ = 0;         // where the line under way begins
-  std::size_t letti_ = 0;                  // bytes of codes since the last question
-  std::size_t prossimaDomanda_ = MezzoPasso;
+  std::string_view testo_;                       // the section
+  std::size_t posto_ = 0;                        // how far it was rendered
+  std::optional<std::size_t> ultimaFine_;        // UltimaFineRiga() of the section, once it was asked for
+  BloccoStampa blocco_{Spazio};                  // whole lines, and the line under way or what is left of it
+  std::size_t fineUltimaRiga_ = 0;               // where the line under way begins
+  std::ptrdiff_t prossimaDomanda_ = MezzoPasso;  // how long the block is then
+  std::size_t usciti_ = 0;                       // bytes that were handed out
 };
 
 /// How often a section is rendered.

@@ -35,14 +35,28 @@ Campione Letterale(std::string_view testo) {
   return campione;
 }
 
-/// The character after the first quote; `predefinito` when there is none.
-char CarattereDopoApice(std::string_view testo, char predefinito) {
-  const std::size_t apice = testo.find(DelimTesto);
-  return apice == NonTrovato || apice + 1 == testo.size() ? predefinito : testo[apice + 1];
+/// The character after the first quote of a code's options; `predefinito` when there is none.
+char Riempimento(std::string_view opzioni, char predefinito) {
+  const std::size_t apice = opzioni.find(DelimTesto);
+  return apice == NonTrovato || apice + 1 == opzioni.size() ? predefinito : opzioni[apice + 1];
 }
 
-bool Allineata(std::string_view dopoP1) {
-  return dopoP1.find('R') != NonTrovato || dopoP1.find('L') == NonTrovato;
+bool Allineata(std::string_view opzioni) {
+  return opzioni.find('R') != NonTrovato || opzioni.find('L') == NonTrovato;
+}
+
+/// The width where it is all that the options say, as those of most variables do: a few digits, and L or R.
+/// nullopt for any others, which may have a width all the same.
+std::optional<std::size_t> SolaLarghezza(std::string_view opzioni) {
+  constexpr std::size_t MaxCifre = 5;
+  if (opzioni.ends_with('L') || opzioni.ends_with('R')) opzioni.remove_suffix(1);
+  if (opzioni.empty() || opzioni.size() > MaxCifre) return std::nullopt;
+  std::size_t larghezza = 0;
+  for (const char c : opzioni) {
+    if (c < '0' || c > '9') return std::nullopt;
+    larghezza = larghezza * 10 + static_cast<std::size_t>(c - '0');
+  }
+  return larghezza;
 }
 
 /// A zero with its decimals, filled up to the length; a length too short for it is a run of "#".
@@ -58,23 +72,39 @@ Campione CampioneNumerico(std::string_view formato, std::size_t lunghezza, char 
   return campione;
 }
 
-/// A variable with format options; `p1` and `p2` are its first two separators.
-Campione VariabileConFormato(std::string_view codice, std::size_t p1, std::size_t p2) {
-  const std::size_t lunghezza = LunghezzaLeniente(codice.substr(p1 + 1, p2 - p1 - 1));
-  if (codice.find(';', p2 + 1) != NonTrovato) codice = SenzaUltimi(codice, 2);  // the euro group
-  const std::string_view dopoP1 = Da(codice, p1 + 1);
-  const std::string_view formato = Da(codice, p2 + 1);
-  const char riempimento = CarattereDopoApice(dopoP1, ' ');
+/// A variable with a format behind its second separator, which stands at `p2` of the options.
+Campione VariabileConFormato(std::string_view opzioni, std::size_t p2) {
+  const std::size_t lunghezza = LunghezzaLeniente(opzioni.substr(0, p2));
+  if (opzioni.find(';', p2 + 1) != NonTrovato) opzioni.remove_suffix(2);  // the euro group
+  const std::string_view formato = Da(opzioni, p2 + 1);
+  const char riempimento = Riempimento(opzioni, ' ');
   if (formato.find('0') == NonTrovato) return Ripeti(riempimento, lunghezza);
-  return CampioneNumerico(formato, lunghezza, riempimento, Allineata(dopoP1));
+  return CampioneNumerico(formato, lunghezza, riempimento, Allineata(opzioni));
 }
 
-Campione VariabileSenzaFormato(std::string_view codice, std::size_t p1) {
-  const std::size_t inizio = p1 == NonTrovato ? 0 : p1 + 1;
-  const std::string_view dopoP1 = Da(codice, inizio);
-  const char riempimento = CarattereDopoApice(dopoP1, SegnoCampione);
-  if (dopoP1.find(DelimTesto) != NonTrovato) codice = SenzaUltimi(codice, 3);  // quote, fill, quote
-  return Ripeti(riempimento, LunghezzaLeniente(Da(codice, inizio)));
+Campione VariabileSenzaFormato(std::string_view opzioni) {
+  const std::size_t apice = opzioni.find(DelimTesto);
+  const char riempimento = Riempimento(opzioni, SegnoCampione);
+  if (apice != NonTrovato) opzioni = SenzaUltimi(opzioni, 3);  // quote, fill, quote
+  return Ripeti(riempimento, LunghezzaLeniente(opzioni));
+}
+
+/// Sample of a language code: "$" as often as the code's width says, 10 times without one.
+Campione ScriviLingua(std::string_view codice) {
+  const std::size_t separatore = codice.find(';');
+  if (separatore == NonTrovato) return Ripeti(SegnoCampione, LunghezzaLinguaPredefinita);
+  return Ripeti(SegnoCampione, LunghezzaLeniente(codice.substr(separatore + 1)));
+}
+
+/// Sample of a variable code. Its options are what follows the first separator.
+Campione ScriviVariabile(std::string_view codice) {
+  const std::size_t p1 = codice.find(';');
+  if (p1 == NonTrovato) return VariabileSenzaFormato(codice);
+  const std::string_view opzioni = codice.substr(p1 + 1);
+  if (const auto larghezza = SolaLarghezza(opzioni)) return Ripeti(SegnoCampione, *larghezza);
+  const std::size_t p2 = opzioni.find(';');
+  if (p2 == NonTrovato || opzioni.ends_with('#')) return VariabileSenzaFormato(opzioni);
+  return VariabileConFormato(opzioni, p2);
 }
 
 /// The kind of a code for the output: its first letter, but a variable of number 0 is a constant.
@@ -85,68 +115,60 @@ char GenereDi(std::string_view codice) {
 
 }  // namespace
 
-void Campione::AggiungiA(std::string& riga) const {
-  riga.append(RiempiPrima, Riempimento);
-  riga.append(Testo);
-  riga.append(Zeri, '0');
-  riga.append(RiempiDopo, Riempimento);
-}
-
-Campione ScriviLingua(std::string_view codice) {
-  const std::size_t separatore = codice.find(';');
-  if (separatore == NonTrovato) return Ripeti(SegnoCampione, LunghezzaLinguaPredefinita);
-  return Ripeti(SegnoCampione, LunghezzaLeniente(codice.substr(separatore + 1)));
-}
-
-Campione ScriviVariabile(std::string_view codice) {
-  const std::size_t p1 = codice.find(';');
-  const std::size_t p2 = p1 == NonTrovato ? NonTrovato : codice.find(';', p1 + 1);
-  if (p2 == NonTrovato || codice.back() == '#') return VariabileSenzaFormato(codice, p1);
-  return VariabileConFormato(codice, p1, p2);
-}
-
-TrovaVar::TrovaVar(TipoStampa destinazione, const FlagPerStampe& flag) : destinazione_(destinazione) {
-  for (std::size_t i = 0; i < flag.Righe().size(); ++i) {
-    stati_.emplace(flag.Numero(i), flag.Vero(i));  // a number that is there already keeps its first row
+StatiFlag::StatiFlag(const FlagPerStampe& flag) {
+  for (std::size_t i = flag.Righe().size(); i > 0; --i) {  // the first row of a number comes last, and stays
+    const auto numero = static_cast<int>(flag.Numero(i - 1));
+    stati_[static_cast<std::size_t>(numero - Minimo)] = flag.Vero(i - 1);
   }
 }
+
+std::optional<bool> StatiFlag::operator()(double numero) const {
+  if (numero < Minimo || numero > Massimo) return std::nullopt;
+  const auto intero = static_cast<int>(numero);
+  if (intero != numero) return std::nullopt;
+  return stati_[static_cast<std::size_t>(intero - Minimo)];
+}
+
+TrovaVar::TrovaVar(TipoStampa destinazione, const FlagPerStampe& flag)
+    : destinazione_(destinazione), stati_(flag) {}
 
 const Campione& TrovaVar::operator()(std::string_view codice) {
   const char genere = GenereDi(codice);
-  if (genere == 'F') {
-    ImpostaFlag(codice);
-    risultato_ = {};
-  } else if (!statoFlag_) {
-    statoFlag_ = true;
-    risultato_ = {};
-  } else {
-    risultato_ = Calcola(codice, genere);
+  if (!memoria_.MostraProssimo && genere != 'F') {
+    memoria_ = {};
+    return memoria_.Ultimo;
   }
-  return risultato_;
-}
-
-Campione TrovaVar::Calcola(std::string_view codice, char genere) {
   switch (genere) {
+    case 'F':
+      ImpostaFlag(codice);
+      memoria_.Ultimo = {};
+      break;
     case 'C':
-      return Letterale(Da(SenzaUltimi(codice, 1), 4));
+      memoria_.Ultimo = Letterale(Da(SenzaUltimi(codice, 1), 4));
+      break;
     case 'V':
-      return ScriviVariabile(codice);
+      memoria_.Ultimo = ScriviVariabile(codice);
+      break;
     case 'S':
-      if (destinazione_ != TipoStampa::Anteprima) return {};
-      return Letterale(codice.substr(0, LunghezzaMarcatoreStile));
+      memoria_.Ultimo = {};
+      if (destinazione_ == TipoStampa::Anteprima)
+        memoria_.Ultimo.Testo = codice.substr(0, LunghezzaMarcatoreStile);
+      break;
     case 'L':
-      return ScriviLingua(codice);
+      memoria_.Ultimo = ScriviLingua(codice);
+      break;
     case 'P':
-      return Letterale(codice.substr(1));
-    default:
-      return risultato_;
+      memoria_.Ultimo = Letterale(codice.substr(1));
+      break;
+    default:  // the text of the code before stays
+      break;
   }
+  return memoria_.Ultimo;
 }
 
 void TrovaVar::ImpostaFlag(std::string_view codice) {
   if (codice.ends_with('S') || codice.ends_with('N')) codice.remove_suffix(1);
-  const auto stato = stati_.find(NumeroLeniente(Da(codice, 1)));
-  if (stato != stati_.end()) statoFlag_ = stato->second;
+  memoria_.MostraProssimo = stati_(NumeroLeniente(Da(codice, 1))).value_or(memoria_.MostraProssimo);
 }
 
 }  // namespace parvik

@@ -1,10 +1,10 @@
 // One code to the text that it contributes to the output (docs/rendering.md).
 #pragma once
 
+#include <array>
 #include <cstddef>
-#include <string>
+#include <optional>
 #include <string_view>
-#include <unordered_map>
 
 #include "output/FlagPerStampe.h"
 
@@ -13,7 +13,8 @@ namespace parvik {
 /// Where a run's output goes. The numbers are those that the program has always used.
 enum class TipoStampa { Ausiliario = 0, File = 1, Anteprima = 2 };
 
-/// The text of one code, described rather than spelled out: fill, text, zeros, fill.
+/// The text of one code, described rather than spelled out: fill, text, zeros, fill. Only a text has zeros
+/// and fill behind it.
 struct Campione {
   std::size_t RiempiPrima = 0;
   std::string_view Testo;  // looks at the code
@@ -22,14 +23,30 @@ struct Campione {
   char Riempimento = ' ';
 
   std::size_t Lunghezza() const { return RiempiPrima + Testo.size() + Zeri + RiempiDopo; }
-  void AggiungiA(std::string& riga) const;
+  bool operator==(const Campione&) const = default;
 };
 
-/// Sample of a language code: "$" as often as the code's width says, 10 times without one.
-Campione ScriviLingua(std::string_view codice);
+/// What a run keeps from code to code.
+struct Memoria {
+  bool MostraProssimo = true;  // false: the next code, whatever it is, is not shown
+  Campione Ultimo;             // the text of the code before
 
-/// Sample of a variable code.
-Campione ScriviVariabile(std::string_view codice);
+  bool operator==(const Memoria&) const = default;
+};
+
+/// Which of the print flags are true: of rows with the same number, what the first one says.
+class StatiFlag {
+ public:
+  explicit StatiFlag(const FlagPerStampe& flag);
+  /// nullopt when no row has the number.
+  std::optional<bool> operator()(double numero) const;
+
+ private:
+  // Two characters tell a row's number.
+  static constexpr int Minimo = -9;
+  static constexpr int Massimo = 99;
+  std::array<std::optional<bool>, Massimo - Minimo + 1> stati_;
+};
 
 /// The codes of one run. Codes come without their delimiters and must stay where they are for the whole run.
 class TrovaVar {
@@ -39,14 +56,15 @@ class TrovaVar {
   /// The text of the next code. A code of unknown kind repeats the text of the code before it.
   const Campione& operator()(std::string_view codice);
 
+  /// Two runs over a text that begin with equal memories write the same, and end with equal ones.
+  const Memoria& Ricordo() const { return memoria_; }
+
  private:
-  Campione Calcola(std::string_view codice, char genere);
   void ImpostaFlag(std::string_view codice);
 
   TipoStampa destinazione_;
-  std::unordered_map<double, bool> stati_;  // the first row of each number
-  bool statoFlag_ = true;                   // false: the next code, whatever it is, is not shown
-  Campione risultato_;
+  StatiFlag stati_;
+  Memoria memoria_;
 };
 
 }  // namespace parvik

@@ -103,6 +103,27 @@ TEST(StampaLunga, DoesNotAskOnAboutShortRuns) {
   EXPECT_EQ(uscita.Domande, 0U);
 }
 
+/// The flag of the body hides the first code of the next repetition, so that the first and the second differ.
+TEST(StampaLunga, RepeatsABodyAsOftenAsThereAreRows) {
+  const std::string corpo =
+      "\xAB"
+      "P1\xBB"
+      "a\xAB"
+      "F1N\xBB\r\n";
+  Raccolta uscita;
+  EXPECT_TRUE(StampaCon(uscita, corpo, 32'767));
+  EXPECT_TRUE(uscita.Testo == "1a\r\n" + Ripetuto("a\r\n", 32'766));
+}
+
+TEST(StampaLunga, CanBeEndedBetweenTheRepetitionsOfABody) {
+  UscitaCheRisponde uscita(SenzaFine, PassoStampa);
+  EXPECT_FALSE(StampaCon(uscita, "una riga\r\n", 32'767));
+  EXPECT_LE(uscita.Scritti, 2 * PassoStampa);
+  UscitaCheRisponde smette(1);
+  EXPECT_FALSE(StampaCon(smette, "una riga\r\n", 32'767));
+  EXPECT_EQ(smette.Scritti, 0U);
+}
+
 /// 100,000 codes of a million characters each: the line would take 100 GB.
 TEST(StampaLunga, EndsWithinALineThatTheOutputDoesNotWant) {
   UscitaCheRisponde uscita(SenzaFine, 1'000'000);

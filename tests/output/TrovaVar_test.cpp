@@ -108,7 +108,8 @@ INSTANTIATE_TEST_SUITE_P(Altro, CampioneTest,
                          NomeDi);
 
 TEST(Campione, OfAnEnormousLengthIsBounded) {
-  EXPECT_EQ(ScriviLingua("L1;99999999999999999999").RiempiPrima, 1'000'000U);
+  TrovaVar trovaVar(TipoStampa::File, FlagPerStampe());
+  EXPECT_EQ(trovaVar("L1;99999999999999999999").RiempiPrima, 1'000'000U);
   EXPECT_EQ(ResoCodice("V1;1000001L").size(), 1'000'000U);
   EXPECT_EQ(ResoCodice("V1;5R;0,99999999999;0"), "#####");
 }
