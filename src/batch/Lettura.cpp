@@ -2,6 +2,7 @@
 
 #include <new>
 #include <string>
+#include <utility>
 
 #include "batch/Messaggi.h"
 #include "common/LetturaFile.h"
@@ -9,32 +10,53 @@
 namespace parvik::batch {
 namespace {
 
-std::optional<ImmagineLetta> Leggi(const std::filesystem::path& file, const TipoDoc& tipo) {
-  const Esito<std::string> byte = LeggiFile(file);
-  if (!byte) {
+/// What a freshly started editor has before it reads a template of that layout.
+ImpostazioniCorpo Iniziali(Formato formato) {
+  return formato == Formato::TreSezioni ? ImpostazioniPredefinite() : ImpostazioniCorpo();
+}
+
+void Avverti(const std::filesystem::path& file, const EsitoImmagine& letta) {
+  if (!letta.CorpoIncompleto) return;
+  Segnala(file, "avviso: il file ha meno delle " + std::to_string(letta.Corpo.LineeCorpo) +
+                    " righe di corpo che il marcatore promette");
+}
+
+/// What `leggi` makes of the file's bytes; nothing after a message.
+template <class Letta>
+Letta LeggiCon(const std::filesystem::path& file, Letta (*leggi)(std::string byte, Formato formato),
+               Formato formato) {
+  try {
+    Esito<std::string> byte = LeggiFile(file);
+    if (byte) return leggi(std::move(*byte), formato);
     Segnala(file, byte.Errore());
-    return std::nullopt;
+  } catch (const std::bad_alloc&) {  // one file that is too large must not stop the others
+    Segnala(file, NumeroErrore::MemoriaEsaurita);
   }
-  const Formato formato = FormatoDi(tipo.NumSezioni);
-  const ImpostazioniCorpo iniziali =
-      formato == Formato::TreSezioni ? ImpostazioniPredefinite() : ImpostazioniCorpo();
-  ImmagineLetta letta = LeggiImmagine(*byte, formato, iniziali);
-  if (letta.CorpoIncompleto) {
-    Segnala(file, "avviso: il file ha meno delle " + std::to_string(letta.Corpo.LineeCorpo) +
-                      " righe di corpo che il marcatore promette");
-  }
-  return letta;
+  return {};
 }
 
 }  // namespace
 
 std::optional<ImmagineLetta> LeggiModello(const std::filesystem::path& file, const TipoDoc& tipo) {
-  try {
-    return Leggi(file, tipo);
-  } catch (const std::bad_alloc&) {  // one file that is too large must not stop the others
-    Segnala(file, NumeroErrore::MemoriaEsaurita);
-    return std::nullopt;
-  }
+  auto letta = LeggiCon<std::optional<ImmagineLetta>>(
+      file,
+      [](std::string byte, Formato formato) -> std::optional<ImmagineLetta> {
+        return LeggiImmagine(byte, formato, Iniziali(formato));
+      },
+      FormatoDi(tipo.NumSezioni));
+  if (letta) Avverti(file, *letta);
+  return letta;
+}
+
+std::unique_ptr<const ImmagineInPosto> ApriModello(const std::filesystem::path& file, const TipoDoc& tipo) {
+  auto letta = LeggiCon<std::unique_ptr<const ImmagineInPosto>>(
+      file,
+      [](std::string byte, Formato formato) -> std::unique_ptr<const ImmagineInPosto> {
+        return std::make_unique<ImmagineInPosto>(std::move(byte), formato, Iniziali(formato));
+      },
+      FormatoDi(tipo.NumSezioni));
+  if (letta) Avverti(file, letta->Esito());
+  return letta;
 }
 
 }  // namespace parvik::batch

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 
 #include "catalogue/TipoDoc.h"
@@ -11,5 +12,7 @@ namespace parvik::batch {
 
 /// nullopt after a message. Draws a warning when the file has fewer body lines than its marker promises.
 std::optional<ImmagineLetta> LeggiModello(const std::filesystem::path& file, const TipoDoc& tipo);
+/// The same for a look at it; nullptr after a message.
+std::unique_ptr<const ImmagineInPosto> ApriModello(const std::filesystem::path& file, const TipoDoc& tipo);
 
 }  // namespace parvik::batch

@@ -40,13 +40,14 @@ enum class Reso { Si, NonLetto, UscitaInterrotta };
 
 Reso Rendi(const std::filesystem::path& file, const TipoDoc& tipo, const FlagPerStampe& flag,
            UscitaRighe& uscita) {
-  const std::optional<ImmagineLetta> letta = LeggiModello(file, tipo);
-  if (!letta) return Reso::NonLetto;
-  if (letta->TestoNonLetto) Segnala(file, "avviso: lettura interrotta: " + TestoErrore(*letta->Errore));
-  const DatiStampa dati{.Testi = {letta->Testi[0], letta->Testi[1], letta->Testi[2]},
+  const auto modello = ApriModello(file, tipo);
+  if (!modello) return Reso::NonLetto;
+  const EsitoImmagine& letto = modello->Esito();
+  if (letto.TestoNonLetto) Segnala(file, "avviso: lettura interrotta: " + TestoErrore(*letto.Errore));
+  const DatiStampa dati{.Testi = modello->Testi(),
                         .NumSezioni = tipo.NumSezioni,
-                        .RigheCorpo = letta->Corpo.RigheCorpo,
-                        .LineeCorpo = letta->Corpo.LineeCorpo,
+                        .RigheCorpo = letto.Corpo.RigheCorpo,
+                        .LineeCorpo = letto.Corpo.LineeCorpo,
                         .Flag = flag};
   return GeneraStampa(dati, TipoStampa::File, uscita) ? Reso::Si : Reso::UscitaInterrotta;
 }

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <new>
 #include <stdexcept>
@@ -14,20 +15,23 @@
 namespace parvik {
 namespace {
 
-/// Reads on until the end of the file, whatever its size was when it was opened.
+constexpr std::size_t Pezzo = 256UL * 1024UL;
+
+/// Reads on until the end of the file, whatever its size was when it was opened. In pieces, so that the
+/// string's zeros are still near when the bytes take their place.
 Esito<std::string> LeggiTutto(const Descrittore& file, std::size_t dimensione) {
-  std::string contenuto(dimensione + 1, '\0');  // one more than needed: the read after it finds the end
-  std::size_t letti = 0;
+  std::string contenuto;
+  contenuto.reserve(dimensione + 1);  // one more than needed: the read after it finds the end
   for (;;) {
-    if (letti == contenuto.size()) contenuto.resize(contenuto.size() * 2);
+    const std::size_t letti = contenuto.size();
+    const std::size_t spazio = contenuto.capacity() - letti;
+    contenuto.resize(letti + (spazio == 0 ? Pezzo : std::min(spazio, Pezzo)));
     const ssize_t n =
         Ripeti([&] { return ::read(file.Numero(), contenuto.data() + letti, contenuto.size() - letti); });
     if (n < 0) return DaErrno(errno);
-    if (n == 0) break;
-    letti += static_cast<std::size_t>(n);
+    contenuto.resize(letti + static_cast<std::size_t>(n));
+    if (n == 0) return contenuto;
   }
-  contenuto.resize(letti);
-  return contenuto;
 }
 
 }  // namespace

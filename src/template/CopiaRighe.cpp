@@ -30,6 +30,13 @@ bool HaCrSolo(std::string_view pezzo) {
   return soli != 0;
 }
 
+/// The piece that begins at `posto`. A CR at its end comes with the next one, as what follows it does.
+std::string_view PezzoDa(std::string_view testo, std::size_t posto) {
+  std::string_view pezzo = testo.substr(posto, Pezzo);
+  if (pezzo.size() > 1 && pezzo.back() == '\r') pezzo.remove_suffix(1);
+  return pezzo;
+}
+
 bool HaCoppia(std::string_view pezzo, char primo, char secondo) {
   const char* const byte = pezzo.data();
   const std::size_t coppie = pezzo.size() - 1;
@@ -61,8 +68,7 @@ std::size_t AggiungiRigaPerRiga(std::string_view testo, std::size_t da, std::siz
 void Aggiungi(std::string_view testo, DopoCr dopoCr, void (*scambia)(std::span<char>), std::string& uscita) {
   for (std::size_t posto = 0; posto < testo.size();) {
     const std::size_t inizio = uscita.size();
-    std::string_view pezzo = testo.substr(posto, Pezzo);
-    if (pezzo.size() > 1 && pezzo.back() == '\r') pezzo.remove_suffix(1);  // together with what follows it
+    const std::string_view pezzo = PezzoDa(testo, posto);
     if (HaCrSolo(pezzo)) {
       posto = AggiungiRigaPerRiga(testo, posto, posto + pezzo.size(), dopoCr, uscita);
     } else {
@@ -88,6 +94,15 @@ void AggiungiDaFile(std::string_view righe, std::string& sezione) {
   Aggiungi(righe, DopoCr::SoloLf, DelimitatoriVersoEditor, sezione);
   const bool finita = righe.ends_with('\r') || righe.ends_with(FineRiga);
   if (!righe.empty() && !finita) sezione.append(FineRiga);
+}
+
+bool SonoIntere(std::string_view righe) {
+  for (std::size_t posto = 0; posto < righe.size();) {
+    const std::string_view pezzo = PezzoDa(righe, posto);
+    if (HaCrSolo(pezzo)) return false;
+    posto += pezzo.size();
+  }
+  return righe.empty() || righe.ends_with(FineRiga);
 }
 
 std::size_t AggiungiVersoFile(std::string_view sezione, std::string& file) {

@@ -1,6 +1,7 @@
 #include "template/ImmagineModello.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "common/Delimitatori.h"
 #include "common/LettoreRighe.h"
@@ -73,27 +74,27 @@ std::optional<Marcatore> TrovaMarcatore(std::string_view byte) {
   return Marcatore{.InizioRiga = inizio + (byte[inizio] == '\n' ? 1 : 0), .Posto = posto};
 }
 
-void LeggiCorpoEPiede(LettoreRighe righe, ImmagineLetta& letta) {
+void DividiCorpoEPiede(LettoreRighe righe, ImmagineDivisa& divisa) {
   const std::string_view corpo = righe.Resto();
   int lette = 0;
-  while (lette < letta.Corpo.LineeCorpo && righe.Prossima()) ++lette;
-  AggiungiDaFile(corpo.substr(0, corpo.size() - righe.Resto().size()), letta.Testi[Indice(Sezione::Corpo)]);
-  letta.CorpoIncompleto = lette < letta.Corpo.LineeCorpo;
+  while (lette < divisa.Corpo.LineeCorpo && righe.Prossima()) ++lette;
+  divisa.Righe[Indice(Sezione::Corpo)] = corpo.substr(0, corpo.size() - righe.Resto().size());
+  divisa.Righe[Indice(Sezione::Piede)] = righe.Resto();
+  divisa.CorpoIncompleto = lette < divisa.Corpo.LineeCorpo;
   // Right after the marker the end is no error.
-  if (letta.CorpoIncompleto && lette > 0) letta.Errore = NumeroErrore::InputOltreFine;
-  AggiungiDaFile(righe.Resto(), letta.Testi[Indice(Sezione::Piede)]);
+  if (divisa.CorpoIncompleto && lette > 0) divisa.Errore = NumeroErrore::InputOltreFine;
 }
 
-void LeggiTreSezioni(std::string_view byte, ImmagineLetta& letta) {
+void DividiTreSezioni(std::string_view byte, ImmagineDivisa& divisa) {
   const auto marcatore = TrovaMarcatore(byte);
   const std::size_t fineTestata = marcatore ? marcatore->InizioRiga : byte.size();
-  AggiungiDaFile(byte.substr(0, fineTestata), letta.Testi[Indice(Sezione::Testata)]);
+  divisa.Righe[Indice(Sezione::Testata)] = byte.substr(0, fineTestata);
   if (!marcatore) return;
   LettoreRighe righe(byte.substr(fineTestata));
   const std::string_view riga = righe.Prossima().value_or("");
-  letta.Errore = LeggiMarcatore(riga, marcatore->Posto - fineTestata, letta.Corpo);
-  letta.TestoNonLetto = letta.Errore.has_value();
-  if (!letta.Errore) LeggiCorpoEPiede(righe, letta);
+  divisa.Errore = LeggiMarcatore(riga, marcatore->Posto - fineTestata, divisa.Corpo);
+  divisa.TestoNonLetto = divisa.Errore.has_value();
+  if (!divisa.Errore) DividiCorpoEPiede(righe, divisa);
 }
 
 /// A section of the three-section layout: an unfinished last line is written with its own line end and one
@@ -129,15 +130,37 @@ ImpostazioniCorpo ImpostazioniPredefinite() {
   return {.RigheCorpo = 23, .LineeCorpo = 1, .FlagSbarra = "", .FlagAccorpa = ""};
 }
 
-ImmagineLetta LeggiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali) {
-  ImmagineLetta letta;
-  letta.Corpo = attuali;
+ImmagineDivisa DividiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali) {
+  ImmagineDivisa divisa;
+  divisa.Corpo = attuali;
   if (formato == Formato::TreSezioni) {
-    LeggiTreSezioni(byte, letta);
+    DividiTreSezioni(byte, divisa);
   } else {
-    AggiungiDaFile(byte, letta.Testi[Indice(Sezione::Testata)]);
+    divisa.Righe[Indice(Sezione::Testata)] = byte;
   }
+  return divisa;
+}
+
+ImmagineLetta LeggiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali) {
+  const ImmagineDivisa divisa = DividiImmagine(byte, formato, attuali);
+  ImmagineLetta letta{divisa, {}};
+  for (std::size_t i = 0; i < MaxSezioni; ++i) AggiungiDaFile(divisa.Righe[i], letta.Testi[i]);
   return letta;
+}
+
+ImmagineInPosto::ImmagineInPosto(std::string byte, Formato formato, const ImpostazioniCorpo& attuali)
+    : byte_(std::move(byte)), divisa_(DividiImmagine(byte_, formato, attuali)) {
+  for (std::size_t i = 0; i < MaxSezioni; ++i) {
+    std::string_view& righe = divisa_.Righe[i];
+    if (righe.empty()) continue;
+    if (SonoIntere(righe)) {
+      const auto inizio = static_cast<std::size_t>(righe.data() - byte_.data());
+      DelimitatoriVersoEditor(std::span(byte_).subspan(inizio, righe.size()));
+    } else {
+      AggiungiDaFile(righe, completati_[i]);
+      righe = completati_[i];
+    }
+  }
 }
 
 Esito<std::string> ScriviImmagine(TestiSezioni& testi, ImpostazioniCorpo& corpo, Formato formato) {

@@ -1,6 +1,7 @@
 // Template image files (*.img), byte by byte (docs/template-file.md).
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -31,8 +32,8 @@ struct ImpostazioniCorpo {
 /// What the choice of a three-section document type sets.
 ImpostazioniCorpo ImpostazioniPredefinite();
 
-struct ImmagineLetta {
-  TestiSezioni Testi;  // in the one-section layout only the Testata is meaningful
+/// How the reading of a file went.
+struct EsitoImmagine {
   ImpostazioniCorpo Corpo;
   /// The run-time error that ended the reading; what was read until then is there.
   std::optional<NumeroErrore> Errore;
@@ -42,8 +43,39 @@ struct ImmagineLetta {
   bool TestoNonLetto = false;
 };
 
+struct ImmagineLetta : EsitoImmagine {
+  TestiSezioni Testi;  // in the one-section layout only the Testata is meaningful
+};
+
 /// Reads a file's bytes. `attuali` are the settings before: those that the file does not set stay.
 ImmagineLetta LeggiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali);
+
+struct ImmagineDivisa : EsitoImmagine {
+  /// The lines of each section as the file has them.
+  std::array<std::string_view, MaxSezioni> Righe;
+};
+
+/// Says where in a file's bytes the sections lie, and copies none of them.
+ImmagineDivisa DividiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali);
+
+/// A template file read to be looked at: its sections stay where they are in its bytes, unless line ends have
+/// to be added to them.
+class ImmagineInPosto {
+ public:
+  ImmagineInPosto(std::string byte, Formato formato, const ImpostazioniCorpo& attuali);
+  ImmagineInPosto(const ImmagineInPosto&) = delete;
+  ImmagineInPosto& operator=(const ImmagineInPosto&) = delete;
+  ~ImmagineInPosto() = default;
+
+  const EsitoImmagine& Esito() const { return divisa_; }
+  /// The same texts as LeggiImmagine's, valid as long as this object.
+  const std::array<std::string_view, MaxSezioni>& Testi() const { return divisa_.Righe; }
+
+ private:
+  std::string byte_;
+  TestiSezioni completati_;
+  ImmagineDivisa divisa_;
+};
 
 /// Builds a file's bytes. In the three-section layout LineeCorpo is recounted, and a Corpo whose last line
 /// lacks its CR LF is completed, in `testi` itself. Overflow, and nothing changed, when the Corpo has more
