@@ -25,7 +25,7 @@ else()
   # _FORTIFY_SOURCE needs an optimised build and quarrels with the sanitizers. The released programs tell the switches
   # that they were compiled with; packaging/check-hardening.sh reads them there.
   target_compile_options(parvik_flags INTERFACE
-    -fstack-protector-strong -fstack-clash-protection -fcf-protection
+    -fstack-protector-strong -fstack-clash-protection -fcf-protection -fno-plt
     "$<$<CONFIG:Release>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2;-frecord-gcc-switches>")
   target_link_options(parvik_flags INTERFACE -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack)
 endif()

@@ -96,13 +96,16 @@ void AggiungiDaFile(std::string_view righe, std::string& sezione) {
   if (!righe.empty() && !finita) sezione.append(FineRiga);
 }
 
-bool SonoIntere(std::string_view righe) {
-  for (std::size_t posto = 0; posto < righe.size();) {
-    const std::string_view pezzo = PezzoDa(righe, posto);
-    if (HaCrSolo(pezzo)) return false;
+bool RendiSezione(std::span<char> righe) {
+  const std::string_view testo(righe.data(), righe.size());
+  for (std::size_t posto = 0; posto < testo.size();) {
+    const std::string_view pezzo = PezzoDa(testo, posto);
+    if (HaCrSolo(pezzo))
+      return false;  // delimiters that were exchanged stay so when they are exchanged again
+    DelimitatoriVersoEditor(righe.subspan(posto, pezzo.size()));
     posto += pezzo.size();
   }
-  return righe.empty() || righe.ends_with(FineRiga);
+  return testo.empty() || testo.ends_with(FineRiga);
 }
 
 std::size_t AggiungiVersoFile(std::string_view sezione, std::string& file) {

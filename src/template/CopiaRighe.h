@@ -17,9 +17,9 @@ void DelimitatoriVersoFile(std::span<char> testo);
 /// get the editor's delimiters.
 void AggiungiDaFile(std::string_view righe, std::string& sezione);
 
-/// Whether each of the lines of a file ends with CR LF, the last one too: but for the delimiters, they are a
-/// section as they stand.
-bool SonoIntere(std::string_view righe);
+/// Makes a section of lines of a file where they stand. False when line ends would have to be added: then
+/// AggiungiDaFile still makes of them what it would have made before.
+bool RendiSezione(std::span<char> righe);
 
 /// Adds a section to a file: each line gets CR LF as its end, whatever byte follows its CR is skipped, and
 /// the codes get the file's delimiters. Where in `file` that begins which the last CR leaves over; it is

@@ -153,13 +153,10 @@ ImmagineInPosto::ImmagineInPosto(std::string byte, Formato formato, const Impost
   for (std::size_t i = 0; i < MaxSezioni; ++i) {
     std::string_view& righe = divisa_.Righe[i];
     if (righe.empty()) continue;
-    if (SonoIntere(righe)) {
-      const auto inizio = static_cast<std::size_t>(righe.data() - byte_.data());
-      DelimitatoriVersoEditor(std::span(byte_).subspan(inizio, righe.size()));
-    } else {
-      AggiungiDaFile(righe, completati_[i]);
-      righe = completati_[i];
-    }
+    const auto inizio = static_cast<std::size_t>(righe.data() - byte_.data());
+    if (RendiSezione(std::span(byte_).subspan(inizio, righe.size()))) continue;
+    AggiungiDaFile(righe, completati_[i]);
+    righe = completati_[i];
   }
 }
 

@@ -66,6 +66,19 @@ TEST(CopiaRighe, ReadsLongTextsAsLineByLine) {
   });
 }
 
+TEST(CopiaRighe, ReadsLongTextsWhereTheyStand) {
+  PerOgniTesto([](const std::string& testo) {
+    std::string sezione = testo;
+    if (!RendiSezione(sezione)) {
+      std::string completata;
+      AggiungiDaFile(sezione, completata);
+      sezione = completata;
+      ASSERT_TRUE(sezione.size() > testo.size());
+    }
+    ASSERT_TRUE(sezione == Letto(testo));
+  });
+}
+
 TEST(CopiaRighe, WritesLongTextsAsByteByByte) {
   PerOgniTesto([](const std::string& testo) {
     std::string file = "prima";
