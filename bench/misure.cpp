@@ -112,8 +112,8 @@ void RegistraModelli(const PerMisura& modelli) {
   }
 }
 
-void RegistraResa(const std::string& nome, const PerMisura& modelli) {
-  Registra(nome, modelli, [](Modelli& m) { m.Rendi(); });
+void RegistraResa(const std::string& nome, const PerMisura& modelli, const Azione& azione) {
+  Registra(nome, modelli, azione);
   Registra(nome + ": bare pass", modelli, [](Modelli& m) { m.PassaNuda(); });
   Registra(nome + ": memcpy", modelli,
            [](Modelli& m) { benchmark::DoNotOptimize(Copia(m.Uscita.Testo(), m.Spazio.get())); });
@@ -147,13 +147,13 @@ double VolteIl(const Resoconto& resoconto, const std::string& cosa, const std::s
 /// Throughput beside the floor at every size, with a bar at the largest one; and whether time grows as lines
 /// do.
 void StampaFamiglia(const Resoconto& resoconto, const std::string& cosa, const std::string& pavimento,
-                    const PerMisura& modelli) {
+                    const PerMisura& modelli, double sbarra) {
   for (const auto& [misura, modello] : modelli) {
     const std::string argomento = "/" + std::to_string(misura);
     const std::string riga = cosa + ", " + std::to_string(misura) + " lines: throughput, part of the ";
     const double volte = VolteIl(resoconto, cosa, pavimento, argomento);
-    if (misura == modelli.rbegin()->first) {
-      StampaAlmeno(riga + pavimento, volte == 0 ? 0 : 1 / volte, 0.5);
+    if (sbarra > 0 && misura == modelli.rbegin()->first) {
+      StampaAlmeno(riga + pavimento, volte == 0 ? 0 : 1 / volte, sbarra);
     } else {
       StampaRiga(riga + pavimento, ConDecimali(volte == 0 ? 0 : 1 / volte), "", "");
     }
@@ -178,18 +178,19 @@ int Esegui() {
   const std::string catalogo = FileCatalogo(ByteCatalogo);
 
   RegistraModelli(modelli);
-  RegistraResa("render", modelli);
-  Registra("preview", modelli,
-           [](Modelli& m) { benchmark::DoNotOptimize(GeneraAnteprima(m.Aperto.Dati())); });
-  RegistraResa("body", corpi);
+  RegistraResa("render", modelli, [](Modelli& m) { m.Rendi(); });
+  RegistraResa("preview", modelli,
+               [](Modelli& m) { benchmark::DoNotOptimize(GeneraAnteprima(m.Aperto.Dati())); });
+  RegistraResa("body", corpi, [](Modelli& m) { m.Rendi(); });
   RegistraCatalogo(catalogo);
 
   Resoconto resoconto;
   benchmark::RunSpecifiedBenchmarks(&resoconto);
-  StampaFamiglia(resoconto, "read", "line walk", modelli);
-  StampaFamiglia(resoconto, "write", "line walk", modelli);
-  StampaFamiglia(resoconto, "render", "bare pass", modelli);
-  StampaFamiglia(resoconto, "body", "bare pass", corpi);
+  StampaFamiglia(resoconto, "read", "line walk", modelli, 0.5);
+  StampaFamiglia(resoconto, "write", "line walk", modelli, 0.5);
+  StampaFamiglia(resoconto, "render", "bare pass", modelli, 0.5);
+  StampaFamiglia(resoconto, "preview", "bare pass", modelli, 0);
+  StampaFamiglia(resoconto, "body", "bare pass", corpi, 0.5);
   StampaAlPiu("catalogue of 10 MB: times the splitting pass",
               VolteIl(resoconto, "catalogue", "splitting pass", ""), 3);
   return 0;

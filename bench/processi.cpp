@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
 #include <stdexcept>
 #include <string>
@@ -96,6 +97,12 @@ void Misura(const std::string& batch, const std::string& pavimenti, const std::s
   };
   constexpr int Molte = 201;
   constexpr int Poche = 41;
+  const double vuota = Esegui({pavimenti + "/bench_memoria", "1"}, uscita).Byte;
+  const double piena = Esegui({pavimenti + "/bench_memoria", "32767"}, uscita).Byte;
+  double resi = 0;
+  if (!(std::ifstream(uscita) >> resi)) throw std::runtime_error("bench_memoria says nothing");
+  Stampa("body of 32,767 rows in the preview: peak memory, times the rendered text", (piena - vuota) / resi,
+         2);
   const Confronto dieci =
       Confronta(stampa("10mb.img"), pavimento("bench_passata", "10mb.img"), uscita, Poche);
   Stampa("stampa of 10 MB, whole process: times the CPU of a pass over the whole file", dieci.Rapporto, 1);

@@ -1,9 +1,12 @@
 #include "batch/Messaggi.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
 
+#include "common/Ripeti.h"
 #include "common/Windows1252.h"
 
 namespace parvik::batch {
@@ -43,10 +46,15 @@ std::string PerTabella(std::string_view ansi) {
 }
 
 bool Stampa(std::string_view testo) {
-  if (std::fwrite(testo.data(), 1, testo.size(), stdout) == testo.size() && std::fflush(stdout) == 0)
-    return true;
-  Segnala("uscita standard", DaErrno(errno));
-  return false;
+  while (!testo.empty()) {
+    const ssize_t scritti = Ripeti([&] { return ::write(STDOUT_FILENO, testo.data(), testo.size()); });
+    if (scritti < 0) {
+      Segnala("uscita standard", DaErrno(errno));
+      return false;
+    }
+    testo.remove_prefix(static_cast<std::size_t>(scritti));
+  }
+  return true;
 }
 
 }  // namespace parvik::batch
