@@ -72,10 +72,17 @@ Campione CampioneNumerico(std::string_view formato, std::size_t lunghezza, char 
   return campione;
 }
 
+/// Whether a third separator follows the second one, at `p2`. It nearly always stands where the euro group
+/// begins.
+bool HaEuro(std::string_view opzioni, std::size_t p2) {
+  return (opzioni.size() > p2 + 2 && opzioni[opzioni.size() - 2] == ';') ||
+         opzioni.find(';', p2 + 1) != NonTrovato;
+}
+
 /// A variable with a format behind its second separator, which stands at `p2` of the options.
 Campione VariabileConFormato(std::string_view opzioni, std::size_t p2) {
   const std::size_t lunghezza = LunghezzaLeniente(opzioni.substr(0, p2));
-  if (opzioni.find(';', p2 + 1) != NonTrovato) opzioni.remove_suffix(2);  // the euro group
+  if (HaEuro(opzioni, p2)) opzioni.remove_suffix(2);
   const std::string_view formato = Da(opzioni, p2 + 1);
   const char riempimento = Riempimento(opzioni, ' ');
   if (formato.find('0') == NonTrovato) return Ripeti(riempimento, lunghezza);

@@ -12,10 +12,21 @@ namespace {
 // at a time.
 constexpr std::size_t Pezzo = 8UL * 1024UL;
 
-void Scambia(std::span<char> testo, char apertura, char nuovaApertura, char chiusura, char nuovaChiusura) {
+using Byte = unsigned char;
+
+/// All bits or none: what the compiler needs to see in order to compare many bytes at a time.
+constexpr Byte Uguale(char c, char cercato) {
+  return static_cast<Byte>(-static_cast<int>(c == cercato));
+}
+
+/// By exclusive or with what tells the old byte from the new one.
+template <char Apertura, char NuovaApertura, char Chiusura, char NuovaChiusura>
+void Scambia(std::span<char> testo) {
+  constexpr auto Aprendo = static_cast<Byte>(Apertura ^ NuovaApertura);
+  constexpr auto Chiudendo = static_cast<Byte>(Chiusura ^ NuovaChiusura);
   for (char& c : testo) {
-    const char prima = c == apertura ? nuovaApertura : c;
-    c = prima == chiusura ? nuovaChiusura : prima;
+    const auto byte = static_cast<Byte>(c);
+    c = static_cast<char>(byte ^ (Uguale(c, Apertura) & Aprendo) ^ (Uguale(c, Chiusura) & Chiudendo));
   }
 }
 
@@ -23,9 +34,9 @@ void Scambia(std::span<char> testo, char apertura, char nuovaApertura, char chiu
 bool HaCrSolo(std::string_view pezzo) {
   const char* const byte = pezzo.data();
   const std::size_t coppie = pezzo.size() - 1;
-  unsigned char soli = pezzo.back() == '\r' ? 1 : 0;
+  Byte soli = Uguale(pezzo.back(), '\r');
   for (std::size_t i = 0; i < coppie; ++i) {
-    soli |= static_cast<unsigned char>((byte[i] == '\r') & (byte[i + 1] != '\n'));
+    soli |= static_cast<Byte>(Uguale(byte[i], '\r') & ~Uguale(byte[i + 1], '\n'));
   }
   return soli != 0;
 }
@@ -40,9 +51,9 @@ std::string_view PezzoDa(std::string_view testo, std::size_t posto) {
 bool HaCoppia(std::string_view pezzo, char primo, char secondo) {
   const char* const byte = pezzo.data();
   const std::size_t coppie = pezzo.size() - 1;
-  unsigned char trovate = 0;
+  Byte trovate = 0;
   for (std::size_t i = 0; i < coppie; ++i) {
-    trovate |= static_cast<unsigned char>((byte[i] == primo) & (byte[i + 1] == secondo));
+    trovate |= static_cast<Byte>(Uguale(byte[i], primo) & Uguale(byte[i + 1], secondo));
   }
   return trovate != 0;
 }
@@ -82,11 +93,11 @@ void Aggiungi(std::string_view testo, DopoCr dopoCr, void (*scambia)(std::span<c
 }  // namespace
 
 void DelimitatoriVersoEditor(std::span<char> testo) {
-  Scambia(testo, DelimFileApertura, DelimApertura, DelimFileChiusura, DelimChiusura);
+  Scambia<DelimFileApertura, DelimApertura, DelimFileChiusura, DelimChiusura>(testo);
 }
 
 void DelimitatoriVersoFile(std::span<char> testo) {
-  Scambia(testo, DelimApertura, DelimFileApertura, DelimChiusura, DelimFileChiusura);
+  Scambia<DelimApertura, DelimFileApertura, DelimChiusura, DelimFileChiusura>(testo);
 }
 
 void AggiungiDaFile(std::string_view righe, std::string& sezione) {
