@@ -1,5 +1,5 @@
 # Read by the scripts beside it. The targets, and how long an input may be.
-BERSAGLI='profilo:256 codici:128 tasti:256 stili:256 modello:512 catalogo:768 stampa:512'
+BERSAGLI='profilo:256 codici:128 tasti:256 stili:256 modello:512 catalogo:512 stampa:256'
 
 # Deep call stacks for every allocation would take a tenth of the time.
 export ASAN_OPTIONS="malloc_context_size=1:${ASAN_OPTIONS:-}"
