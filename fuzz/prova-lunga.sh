@@ -7,11 +7,11 @@ cd "$(dirname "$0")/.."
 prepara
 esecuzioni=${1:-10000000}
 [ $# -eq 0 ] || shift
-esito=0
+stato=0
 for bersaglio in $BERSAGLI; do
   if [ $# -gt 0 ]; then
     case " $* " in *" ${bersaglio%:*} "*) ;; *) continue ;; esac
   fi
-  esegui "$bersaglio" -runs="$esecuzioni" || esito=1
+  esegui "$bersaglio" -runs="$esecuzioni" || stato=1
 done
-exit $esito
+exit $stato
