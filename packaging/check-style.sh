@@ -8,7 +8,7 @@ complain() {
   failed=1
 }
 
-files=$(find src tests fuzz -name '*.h' -o -name '*.cpp' | sort)
+files=$(find bench fuzz src tests -name '*.h' -o -name '*.cpp' | sort)
 # shellcheck disable=SC2086 # a list of words
 clang-format --dry-run --Werror $files || complain "clang-format: see above; clang-format -i mends it"
 
