@@ -52,6 +52,13 @@ class RaccoltaInizio final : public UscitaRighe {
   std::size_t percorsi_ = 0;  // since the last text
 };
 
+/// About as long as the text becomes, unless a body is repeated often: growing costs new memory each time.
+std::size_t Dimensione(const DatiStampa& dati) {
+  std::size_t dimensione = 0;
+  for (const std::string_view testo : dati.Testi) dimensione += testo.size();
+  return dimensione;
+}
+
 void AggiungiFine(std::string& testo) {
   if (!testo.empty()) testo.append(FineRiga).append(FineAnteprima);
 }
@@ -64,6 +71,7 @@ Anteprima GeneraAnteprima(const DatiStampa& dati) {
 
 std::optional<Anteprima> GeneraAnteprima(const DatiStampa& dati, const std::stop_token& smetti) {
   Anteprima anteprima;
+  anteprima.Testo.reserve(Dimensione(dati));
   RaccoltaTesto raccolta(anteprima.Testo, smetti);
   if (!GeneraStampa(dati, TipoStampa::Anteprima, raccolta)) return std::nullopt;
   AggiungiFine(anteprima.Testo);
