@@ -29,7 +29,7 @@ std::optional<DatiAvvio> Avvia(const Ambiente& ambiente, Interlocutore& interloc
     interlocutore.Chiedi({.Testo = catalogo.Errore()});
     return std::nullopt;
   }
-  return DatiAvvio{std::move(*installazione), std::move(*catalogo)};
+  return DatiAvvio{ambiente.DirProgramma, std::move(*installazione), std::move(*catalogo)};
 }
 
 }  // namespace parvik

@@ -22,6 +22,7 @@ inline constexpr const char* MessaggioVersioneDiversa =
 
 /// All that the editor is built from.
 struct DatiAvvio {
+  std::filesystem::path DirProgramma;  // without a trailing separator
   Installazione Dove;
   Catalogo Campi;
 };

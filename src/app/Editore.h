@@ -43,9 +43,10 @@ class Vista : public Sezioni {
   /// The destination of a print; nullopt when it was given up.
   virtual std::optional<Destinazione> ScegliDestinazione() = 0;
   /// Asks for a printer. What it returns prints the preview pane's content, or its selection, under the name
-  /// of the print job (UTF-8), and says nothing of failures. Empty when no printer was chosen.
+  /// of the print job (UTF-8), and says nothing of failures. Empty when no printer was chosen. The error is
+  /// the message that the user sees (UTF-8) when there is nothing to print with.
   using Tipografo = std::function<void(const std::string& nomeLavoro)>;
-  virtual Tipografo ScegliStampante() = 0;
+  virtual Esito<Tipografo, std::string> ScegliStampante() = 0;
   /// Puts a finished code (bytes, with its delimiters) in place of the section's selection.
   virtual void InserisciCodice(Sezione sezione, std::string_view codice) = 0;
   /// The print flags were loaded anew, set to false or discarded.

@@ -82,13 +82,17 @@ void Editore::Stampa() {
   }
 }
 
-/// Failures are silent, and so is giving up the choice of the printer. A preview that is shown is printed as
-/// it stands.
+/// Failures to print are silent, and so is giving up the choice of the printer. A preview that is shown is
+/// printed as it stands.
 void Editore::StampaSuCarta() {
-  const Vista::Tipografo stampa = vista_.ScegliStampante();
-  if (!stampa) return;
+  const Esito<Vista::Tipografo, std::string> stampa = vista_.ScegliStampante();
+  if (!stampa) {
+    interlocutore_.Chiedi({.Testo = stampa.Errore()});
+    return;
+  }
+  if (!*stampa) return;
   if (!anteSpuntata_ && !AccendiAnteprima()) return;
-  stampa(documento_.NomeFile.empty() ? NomeLavoroSenzaFile : documento_.NomeFile.filename().string());
+  (*stampa)(documento_.NomeFile.empty() ? NomeLavoroSenzaFile : documento_.NomeFile.filename().string());
 }
 
 /// An existing file is replaced without a question. Failures are silent.

@@ -13,7 +13,7 @@
 #include "common/frmAttesa.h"
 #include "common/frmTesto.h"
 #include "output/frmDestStampa.h"
-#include "output/frmStampante.h"
+#include "output/frmStampa.h"
 #include "output/ricAccessibile.h"
 #include "template/txtAccessibile.h"
 
@@ -53,7 +53,8 @@ Selezione DaStampare(const ricAnte& pannello) {
 }  // namespace
 
 frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
-    : editore_(std::move(dati.Dove), std::move(dati.Campi), *this, interlocutore),
+    : dirProgramma_(std::move(dati.DirProgramma)),
+      editore_(std::move(dati.Dove), std::move(dati.Campi), *this, interlocutore),
       maschere_(editore_, *this) {
   setObjectName("frmParvik");
   CreaControlli();
@@ -307,13 +308,15 @@ std::optional<Destinazione> frmParvik::ScegliDestinazione() {
   return dialogo.Scelta();
 }
 
-Vista::Tipografo frmParvik::ScegliStampante() {
-  const std::shared_ptr<QPrinter> stampante = ChiediStampante(this);
-  if (!stampante) return {};
-  return [this, stampante](const std::string& nomeLavoro) {
-    stampante->setDocName(DaUtf8(nomeLavoro));
+Esito<Vista::Tipografo, std::string> frmParvik::ScegliStampante() {
+  const Esito<ModuloStampa*, std::string> modulo = CaricaModuloStampa(dirProgramma_);
+  if (!modulo) return modulo.Errore();
+  const std::shared_ptr<Stampante> stampante = (*modulo)->ChiediStampante(this);
+  if (!stampante) return Tipografo();
+  return Tipografo([this, stampante](const std::string& nomeLavoro) {
+    stampante->Intitola(DaUtf8(nomeLavoro));
     StampaConAttesa(*stampante, anteprima_->Contenuto(), DaStampare(*anteprima_), this);
-  };
+  });
 }
 
 void frmParvik::InserisciCodice(Sezione sezione, std::string_view codice) {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <array>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -41,7 +42,7 @@ class frmParvik final : public QMainWindow, private Vista {
   void CompletaAnteprima(Anteprima anteprima) override;
   Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override;
   std::optional<Destinazione> ScegliDestinazione() override;
-  Tipografo ScegliStampante() override;
+  Esito<Tipografo, std::string> ScegliStampante() override;
   void InserisciCodice(Sezione sezione, std::string_view codice) override;
   void RicaricaFlagStampe() override;
 
@@ -76,6 +77,7 @@ class frmParvik final : public QMainWindow, private Vista {
   QHash<QString, QAction*> azioni_;
   std::unique_ptr<frmTotRighe> totali_;  // made anew each time it is shown
   frmSettaFlag* settaFlag_ = nullptr;    // made when it is first shown
+  std::filesystem::path dirProgramma_;   // the print module lies there
   Editore editore_;
   frmMaschere maschere_;
 };

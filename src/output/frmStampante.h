@@ -1,21 +1,48 @@
-// A printer and the person in front of it: the choice, with the toolkit's own dialog, and the waiting.
+// What the editor and its print module agree on (docs/printing.md). The editor does not link the toolkit's
+// printing, which would cost every start a tenth of its time: the module does, and is loaded by who prints.
 #pragma once
 
-#include <QPrinter>
+#include <QPagedPaintDevice>
+#include <QString>
 #include <QWidget>
+#include <QtPlugin>
 #include <memory>
-
-#include "output/ricCarta.h"
 
 namespace parvik {
 
-/// The printer that the user has chosen and set up; nullptr when none was, and, without a question, on a
-/// machine that has no printer. Printing to a file, ranges of pages and selections are not offered.
-std::shared_ptr<QPrinter> ChiediStampante(QWidget* padre);
+/// A printer that the user has chosen and set up.
+class Stampante {
+ public:
+  Stampante() = default;
+  Stampante(const Stampante&) = delete;
+  Stampante& operator=(const Stampante&) = delete;
+  virtual ~Stampante() = default;
 
-/// Prints. When it takes longer than half a second a box in front of `padre` says so and offers "Annulla",
-/// which gives the job up. Failures are silent.
-void StampaConAttesa(QPrinter& stampante, const TestoAnteprima& testo, const Selezione& parte,
-                     QWidget* padre);
+  /// Names the job. Before it is painted.
+  virtual void Intitola(const QString& nomeLavoro) = 0;
+
+  /// What the job is painted on: it begins and ends with the painter. Lives as long as the printer.
+  virtual QPagedPaintDevice& Foglio() = 0;
+
+  /// Withdraws the job that is being painted; the painter must still end.
+  virtual void Ritira() = 0;
+};
+
+class ModuloStampa {
+ public:
+  ModuloStampa() = default;
+  ModuloStampa(const ModuloStampa&) = delete;
+  ModuloStampa& operator=(const ModuloStampa&) = delete;
+  virtual ~ModuloStampa() = default;
+
+  /// Asks with the toolkit's own dialog, in front of `padre`. nullptr when no printer was chosen, and,
+  /// without a question, on a machine that has none. Printing to a file, ranges of pages and selections are
+  /// not offered.
+  virtual std::unique_ptr<Stampante> ChiediStampante(QWidget* padre) = 0;
+};
 
 }  // namespace parvik
+
+/// When the classes above change, so does the number: modules of another contract are not loaded.
+#define PARVIK_IID_MODULO_STAMPA "parvik32.ModuloStampa/1"
+Q_DECLARE_INTERFACE(parvik::ModuloStampa, PARVIK_IID_MODULO_STAMPA)

@@ -14,12 +14,12 @@ constexpr double ScalaMinima = 0.5;  // of text that is still read
 /// Lengths are the painter's: dots of the printer, made smaller where the text is too wide for the page.
 class Carta {
  public:
-  Carta(QPrinter& stampante, QPainter& pittore, const TestoAnteprima& testo)
-      : stampante_(stampante),
+  Carta(QPagedPaintDevice& foglio, QPainter& pittore, const TestoAnteprima& testo)
+      : foglio_(foglio),
         pittore_(pittore),
         testo_(testo),
-        celle_(CarattereAnteprima(), &stampante),
-        pagina_(stampante.pageRect(QPrinter::DevicePixel).size()) {
+        celle_(CarattereAnteprima(), &foglio),
+        pagina_(QSizeF(foglio.width(), foglio.height())) {
     const double scala = Scala();
     pittore_.scale(scala, scala);
     pagina_ /= scala;
@@ -66,11 +66,11 @@ class Carta {
   bool CiSta(qreal altezza) const { return y_ + altezza <= pagina_.height(); }
 
   void NuovaPagina() {
-    stampante_.newPage();
+    foglio_.newPage();
     y_ = 0;
   }
 
-  QPrinter& stampante_;
+  QPagedPaintDevice& foglio_;
   QPainter& pittore_;
   const TestoAnteprima& testo_;
   Celle celle_;
@@ -80,12 +80,12 @@ class Carta {
 
 }  // namespace
 
-bool StampaSuCarta(QPrinter& stampante, const TestoAnteprima& testo, const Selezione& parte,
+bool StampaSuCarta(Stampante& stampante, const TestoAnteprima& testo, const Selezione& parte,
                    const std::function<bool(std::size_t)>& avanza) {
   QPainter pittore;
-  if (!pittore.begin(&stampante)) return false;
+  if (!pittore.begin(&stampante.Foglio())) return false;
   pittore.setPen(Qt::black);
-  Carta carta(stampante, pittore, testo);
+  Carta carta(stampante.Foglio(), pittore, testo);
   const std::size_t ultima = testo.RigaDi(parte.Fine());
   for (std::size_t riga = testo.RigaDi(parte.Inizio); riga <= ultima; ++riga) {
     const std::size_t inizio = testo.InizioRiga(riga);
@@ -93,7 +93,7 @@ bool StampaSuCarta(QPrinter& stampante, const TestoAnteprima& testo, const Selez
     if (parte.Fine() == inizio && parte.Lunghezza > 0) break;  // the part ends with a line end
     const std::size_t a = std::max(std::min(parte.Fine(), testo.TermineRiga(riga)) - inizio, da);
     if (carta.Stampa(riga, da, a) && !avanza(inizio + da)) {
-      stampante.abort();
+      stampante.Ritira();
       return false;
     }
   }

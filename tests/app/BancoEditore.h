@@ -35,10 +35,11 @@ class VistaFinta final : public Vista {
     ++RichiesteDestinazione;
     return DestinazioneScelta;
   }
-  Tipografo ScegliStampante() override {
+  Esito<Tipografo, std::string> ScegliStampante() override {
     ++RichiesteStampante;
-    if (!ConStampante) return {};
-    return [this](const std::string& nomeLavoro) { LavoriStampati.push_back(nomeLavoro); };
+    if (!SenzaStampe.empty()) return SenzaStampe;
+    if (!ConStampante) return Tipografo();
+    return Tipografo([this](const std::string& nomeLavoro) { LavoriStampati.push_back(nomeLavoro); });
   }
   void InserisciCodice(Sezione sezione, std::string_view codice) override {
     Testi[Indice(sezione)] += codice;
@@ -55,6 +56,7 @@ class VistaFinta final : public Vista {
   ComeAttende Attesa = ComeAttende::FinoAllaFine;
   std::optional<Destinazione> DestinazioneScelta;  // what the person at the screen chooses
   bool ConStampante = false;
+  std::string SenzaStampe;  // why there is nothing to print with
   int RichiesteDestinazione = 0;
   int RichiesteStampante = 0;
   std::vector<std::string> LavoriStampati;

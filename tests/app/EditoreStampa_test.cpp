@@ -77,6 +77,19 @@ TEST_F(Stampa, GivingUpTheChoiceOfThePrinterEndsTheCommand) {
   EXPECT_THAT(vista_.Anteprime, IsEmpty());
 }
 
+TEST_F(Stampa, WithNothingToPrintWithTheReasonIsToldAndTheCommandEnds) {
+  editore_.CommutaAnteprima();
+  vista_.SenzaStampe = "il motivo";
+  interlocutore_.Rispondera(Risposta::Ok);
+  StampaSu(Destinazione::Stampante);
+  ASSERT_EQ(interlocutore_.Messaggi.size(), 1U);
+  EXPECT_EQ(interlocutore_.Messaggi.front().Testo, "il motivo");
+  EXPECT_EQ(interlocutore_.Messaggi.front().Simbolo, Icona::Critica);
+  EXPECT_EQ(interlocutore_.Messaggi.front().Tasti, Pulsanti::Ok);
+  EXPECT_FALSE(editore_.AnteVisibile());
+  EXPECT_THAT(vista_.Anteprime, IsEmpty());
+}
+
 TEST_F(Stampa, AHiddenPreviewIsShownAndRenderedBeforeItIsPrinted) {
   editore_.CommutaAnteprima();
   vista_.ConStampante = true;

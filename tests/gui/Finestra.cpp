@@ -27,6 +27,7 @@ void NelProssimoDialogo(const std::function<void(QDialog&)>& compito) {
 Finestra::Finestra() {
   std::filesystem::create_directories(Cartella() / "PARVIK");
   std::filesystem::copy(Esempio(), Cartella(), std::filesystem::copy_options::recursive);
+  std::filesystem::create_symlink(prova::ModuloStampa(), ModuloStampa());
   auto dati = Avvia({.DirProgramma = Cartella() / "PARVIK", .CartelleConfigurazione = {}}, persona_);
   if (!dati) qFatal("the example installation does not start");
   finestra_ = std::make_unique<frmParvik>(std::move(*dati), persona_);

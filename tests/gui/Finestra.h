@@ -33,12 +33,15 @@ void NelProssimoDialogo(const std::function<void(QDialog&)>& compito);
 
 class Finestra {
  public:
-  /// Installs a copy of the example, starts, and shows the window.
+  /// Installs a copy of the example with the print module, starts, and shows the window.
   Finestra();
 
   InterlocutoreScritto& Persona() { return persona_; }
   std::filesystem::path Cartella() const { return cartella_.Percorso() / "VELKOR"; }
   std::filesystem::path Modello(const char* nome) const { return Cartella() / "D_IMG" / nome; }
+
+  /// Where the window looks for the print module: a link to the one that was built.
+  std::filesystem::path ModuloStampa() const { return Cartella() / "PARVIK" / "parvik32-stampa.so"; }
 
   frmParvik& operator*() { return *finestra_; }
   frmParvik* operator->() { return finestra_.get(); }

@@ -24,6 +24,9 @@ fs::path Docs() {
 fs::path Batch() {
   return PARVIK_BATCH;
 }
+fs::path ModuloStampa() {
+  return PARVIK_MODULO_STAMPA;
+}
 
 std::string Contenuto(const fs::path& file) {
   std::ifstream flusso(file, std::ios::binary);

@@ -15,6 +15,8 @@ std::filesystem::path Dati();
 std::filesystem::path Docs();
 /// The batch program that this build made.
 std::filesystem::path Batch();
+/// The print module that this build makes of the same sources; only the targets that depend on it find it.
+std::filesystem::path ModuloStampa();
 
 /// All bytes of a file; fails the test and gives "" when it cannot be read.
 std::string Contenuto(const std::filesystem::path& file);

@@ -1,0 +1,70 @@
+#include "output/ricCarta.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QPdfWriter>
+#include <vector>
+
+#include "PannelloDiProva.h"
+
+namespace parvik {
+namespace {
+
+using prova::DiProva;
+
+/// A printer whose paper is a PDF file in memory.
+class StampanteDiProva final : public Stampante {
+ public:
+  StampanteDiProva() { file_.open(QIODevice::WriteOnly); }
+
+  void Intitola(const QString& nomeLavoro) override { foglio_.setTitle(nomeLavoro); }
+  QPagedPaintDevice& Foglio() override { return foglio_; }
+  void Ritira() override { ++Ritirata; }
+
+  qsizetype Pagine() const { return file_.data().count("/Type /Page\n"); }
+
+  int Ritirata = 0;
+
+ private:
+  QBuffer file_;
+  QPdfWriter foglio_{&file_};
+};
+
+std::string Righe(int quante) {
+  std::string testo;
+  for (int i = 0; i < quante; ++i) testo += "riga " + std::to_string(i) + "\r\n";
+  return testo;
+}
+
+class CartaTest : public testing::Test {
+ protected:
+  StampanteDiProva stampante_;
+  TestoAnteprima testo_{DiProva(Righe(300))};
+  Selezione tutto_{.Inizio = 0, .Lunghezza = testo_.Testo().size()};
+};
+
+TEST_F(CartaTest, AfterEachPageItIsToldWhereTheNextOneBegins) {
+  std::vector<std::size_t> inizi;
+  EXPECT_TRUE(StampaSuCarta(stampante_, testo_, tutto_, [&](std::size_t inizio) {
+    inizi.push_back(inizio);
+    return true;
+  }));
+  EXPECT_EQ(stampante_.Ritirata, 0);
+  ASSERT_GT(stampante_.Pagine(), 2);
+  ASSERT_EQ(static_cast<qsizetype>(inizi.size()) + 1, stampante_.Pagine());
+  const std::size_t righePerPagina = testo_.RigaDi(inizi[0]);
+  for (std::size_t i = 0; i < inizi.size(); ++i) {
+    EXPECT_EQ(inizi[i], testo_.InizioRiga((i + 1) * righePerPagina));
+  }
+}
+
+TEST_F(CartaTest, AJobThatIsGivenUpIsWithdrawnOnceAndGoesNoFurther) {
+  int volte = 0;
+  EXPECT_FALSE(StampaSuCarta(stampante_, testo_, tutto_, [&volte](std::size_t) { return ++volte < 2; }));
+  EXPECT_EQ(volte, 2);
+  EXPECT_EQ(stampante_.Ritirata, 1);
+}
+
+}  // namespace
+}  // namespace parvik
