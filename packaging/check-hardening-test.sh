@@ -7,6 +7,7 @@ dir=$(mktemp -d)
 trap 'rm -rf "$dir"' EXIT
 cd "$dir"
 failed=0
+built=a
 
 cat >a.cpp <<'END'
 #include <cstdio>
@@ -26,20 +27,20 @@ END
 all="-O2 -fPIE -fstack-protector-strong -fstack-clash-protection -fcf-protection -U_FORTIFY_SOURCE
   -D_FORTIFY_SOURCE=2 -frecord-gcc-switches -pie -Wl,-z,relro -Wl,-z,now -Wl,-z,noexecstack"
 
-# expect NAME EXPECTED FLAG...: builds a.cpp with the flags; the check says EXPECTED and no more.
+# expect NAME EXPECTED FLAG...: builds a.cpp as $built with the flags; the check says EXPECTED and no more.
 expect() {
   name=$1
   expected=$2
   shift 2
-  g++ "$@" -o a a.cpp
+  g++ "$@" -o "$built" a.cpp
   printf '[\n{ "command": "g++ %s -o src/a.o -c a.cpp" }\n]\n' "$*" >compile_commands.json
   compare "$name" "$expected"
 }
 
 compare() {
   status=0
-  said=$("$check" a) || status=1
-  case $2 in "a: hardened"*) must=0 ;; *) must=1 ;; esac
+  said=$("$check" "$built") || status=1
+  case $2 in "$built: hardened"*) must=0 ;; *) must=1 ;; esac
   if [ "$said" = "$2" ] && [ $status -eq $must ]; then
     echo "well: $1"
   else
@@ -89,5 +90,16 @@ a: no CET instructions (-fcf-protection=full)" $all -fcf-protection=none
   compare "no command of a program" "a: no unit of $dir/compile_commands.json is a program's"
   rm compile_commands.json
   compare "commands lost" "a: no compile_commands.json above it, so nothing tells of FORTIFY"
+
+  built=a.so
+  module="$(without -pie) -fPIC -shared"
+  expect "a module" "a.so: hardened; calls checked by FORTIFY: __strcpy_chk " $module
+  expect "a module that is bound lazily" "a.so: bound lazily, so RELRO is partial (-Wl,-z,now)" $module -Wl,-z,lazy
+  if [ "$(uname -m)" = x86_64 ]; then
+    expect "a module without CET" "a.so: a unit was compiled with -fcf-protection=none
+a.so: no CET instructions (-fcf-protection=full)" $module -fcf-protection=none
+    expect "a program for a module" "a.so: no position-independent module (-shared -fPIC)
+a.so: no CET instructions (-fcf-protection=full)" $all
+  fi
 }
 exit $failed

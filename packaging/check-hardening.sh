@@ -1,6 +1,6 @@
 #!/bin/sh
 # Reads built programs and fails, naming what is missing, unless they are hardened as cmake/Flags.cmake asks:
-# check-hardening.sh PROGRAM...
+# check-hardening.sh PROGRAM..., modules (*.so) included.
 # What leaves no trace in a program (FORTIFY where the compiler proved every call) is read from the
 # compile_commands.json of its build folder. See docs/checks.md.
 set -eu
@@ -28,9 +28,21 @@ commands_of() {
   echo "$folder/compile_commands.json"
 }
 
+is_module() {
+  case $program in *.so) return 0 ;; *) return 1 ;; esac
+}
+
+check_position() {
+  if is_module; then
+    has "$header" 'Type: +DYN' && ! has "$segments" '^ +INTERP' && ! has "$dynamic" 'TEXTREL' ||
+      complain "no position-independent module (-shared -fPIC)"
+  else
+    has "$header" 'Type: +DYN' && has "$segments" '^ +INTERP' && has "$dynamic" 'FLAGS_1.*\bPIE\b' ||
+      complain "no position-independent executable (-pie)"
+  fi
+}
+
 check_addresses() {
-  has "$header" 'Type: +DYN' && has "$segments" '^ +INTERP' && has "$dynamic" 'FLAGS_1.*\bPIE\b' ||
-    complain "no position-independent executable (-pie)"
   has "$segments" '^ +GNU_RELRO' || complain "no RELRO (-Wl,-z,relro)"
   has "$dynamic" '\(FLAGS\).*BIND_NOW|\(BIND_NOW\)|FLAGS_1.*\bNOW\b' ||
     complain "bound lazily, so RELRO is partial (-Wl,-z,now)"
@@ -65,13 +77,15 @@ check_stack_protector() {
 }
 
 # The linker marks a program for CET only if the C library's start files are marked, which Debian's are not:
-# the landing pad at the begin of main shows that the instructions are there.
+# the landing pad at the begin of main, or of what a module exports, shows that the instructions are there.
 check_cet() {
   [ -n "$cet" ] || return 0
   has "$(readelf -nW "$program")" 'x86 feature:.*IBT.*SHSTK' && return
   start=$(readelf -nW "$(g++ -print-file-name=Scrt1.o)")
   has "$start" 'x86 feature:.*IBT.*SHSTK' && complain "not marked for CET, though the C library is ($cet)"
-  has "$(objdump -d --no-show-raw-insn "$program" | grep -A1 '<main>:$')" 'endbr64' ||
+  entry=main
+  ! is_module || entry=$(readelf --dyn-syms -W "$program" | awk '$4 == "FUNC" && $7 != "UND" { print $8; exit }')
+  has "$(objdump -d --no-show-raw-insn "$program" | grep -A1 "<$entry>:\$")" 'endbr64' ||
     complain "no CET instructions ($cet)"
 }
 
@@ -100,6 +114,7 @@ check() {
   dynamic=$(readelf -dW "$program")
   imports=$(readelf --dyn-syms -W "$program" | awk '$7 == "UND" { print $8 }')
   case $header in *X86-64*) cet=-fcf-protection=full ;; *) cet= ;; esac
+  check_position
   check_addresses
   check_segments
   check_stack_protector
