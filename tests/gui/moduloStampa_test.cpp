@@ -84,28 +84,27 @@ TEST_P(ModuloGuasto, IsToldWithItsPath) {
 
 INSTANTIATE_TEST_SUITE_P(
     Guasti, ModuloGuasto,
-    testing::Values(Guasto{"missing", [](const fs::path&) {}, NumeroErrore::FileNonTrovato},
-                    Guasto{"a_link_to_nothing",
-                           [](const fs::path& modulo) { fs::create_symlink("manca", modulo); },
-                           NumeroErrore::FileNonTrovato},
-                    Guasto{"empty", [](const fs::path& modulo) { prova::Crea(modulo, ""); },
-                           NumeroErrore::AccessoPercorsoFile},
-                    Guasto{"a_text",
-                           [](const fs::path& modulo) { prova::Crea(modulo, "non è una libreria\n"); },
-                           NumeroErrore::AccessoPercorsoFile},
-                    Guasto{"a_folder", [](const fs::path& modulo) { fs::create_directory(modulo); },
-                           NumeroErrore::AccessoPercorsoFile},
-                    Guasto{"cut_behind_its_headers", [](const fs::path& modulo) { Mozza(modulo, 4'096); },
-                           NumeroErrore::AccessoPercorsoFile},
-                    Guasto{"cut_in_its_code", [](const fs::path& modulo) { Mozza(modulo, 24'576); },
-                           NumeroErrore::AccessoPercorsoFile},
-                    Guasto{"without_the_toolkits_library", SenzaLibreria, NumeroErrore::AccessoPercorsoFile},
-                    Guasto{"a_plugin_of_another_kind",
-                           [](const fs::path& modulo) {
-                             const QString plugin = QLibraryInfo::path(QLibraryInfo::PluginsPath);
-                             fs::copy_file(plugin.toStdString() + "/platforms/libqminimal.so", modulo);
-                           },
-                           NumeroErrore::AccessoPercorsoFile}),
+    testing::Values(
+        Guasto{"missing", [](const fs::path&) {}, NumeroErrore::FileNonTrovato},
+        Guasto{"a_link_to_nothing", [](const fs::path& modulo) { fs::create_symlink("manca", modulo); },
+               NumeroErrore::FileNonTrovato},
+        Guasto{"empty", [](const fs::path& modulo) { prova::Crea(modulo, ""); },
+               NumeroErrore::AccessoPercorsoFile},
+        Guasto{"a_text", [](const fs::path& modulo) { prova::Crea(modulo, "non è una libreria\n"); },
+               NumeroErrore::AccessoPercorsoFile},
+        Guasto{"a_folder", [](const fs::path& modulo) { fs::create_directory(modulo); },
+               NumeroErrore::AccessoPercorsoFile},
+        Guasto{"cut_before_the_contracts_name", [](const fs::path& modulo) { Mozza(modulo, 512); },
+               NumeroErrore::AccessoPercorsoFile},
+        Guasto{"cut_behind_the_contracts_name", [](const fs::path& modulo) { Mozza(modulo, 4'096); },
+               NumeroErrore::AccessoPercorsoFile},
+        Guasto{"without_the_toolkits_library", SenzaLibreria, NumeroErrore::AccessoPercorsoFile},
+        Guasto{"a_plugin_of_another_kind",
+               [](const fs::path& modulo) {
+                 const QString plugin = QLibraryInfo::path(QLibraryInfo::PluginsPath);
+                 fs::copy_file(plugin.toStdString() + "/platforms/libqminimal.so", modulo);
+               },
+               NumeroErrore::AccessoPercorsoFile}),
     [](const auto& caso) { return std::string(caso.param.Nome); });
 
 void StampaSuStampante(Finestra& finestra) {
