@@ -1,5 +1,5 @@
 // What the editor and its print module agree on (docs/printing.md). The editor does not link the toolkit's
-// printing, which would cost every start a tenth of its time: the module does, and is loaded by who prints.
+// printing, which every start would pay for: the module does, and is loaded when a printer is first chosen.
 #pragma once
 
 #include <QPagedPaintDevice>
