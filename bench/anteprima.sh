@@ -6,4 +6,4 @@ cd "$(dirname "$0")/.."
   cmake --preset bench
   cmake --build --preset bench --target bench_anteprima
 } >&2
-./bench/con-schermo.sh build/bench/bench/finestre/bench_anteprima
+./bench/con-schermo.sh build/release/bench/finestre/bench_anteprima

@@ -6,5 +6,5 @@ cd "$(dirname "$0")/.."
   cmake --preset bench
   cmake --build --preset bench --target parvik32 installazione-esempio bench_avvio bench_nuda
 } >&2
-programmi=build/bench/bench/finestre
-./bench/con-schermo.sh "$programmi/bench_avvio" build/bench/velkor/PARVIK/parvik32 "$programmi/bench_nuda"
+programmi=build/release/bench/finestre
+./bench/con-schermo.sh "$programmi/bench_avvio" build/release/velkor/PARVIK/parvik32 "$programmi/bench_nuda"

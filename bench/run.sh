@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 pagina=docs/prestazioni.md
-programmi=build/bench/bench
+programmi=build/release/bench
 dati=$programmi/dati
 
 # Every part is a command that prints rows: what, measure, bar, "yes" or "no" (or nothing), with tabs between them.
@@ -14,9 +14,9 @@ misure() {
 }
 processi() {
   "$programmi/bench_dati" "$dati"
-  "$programmi/bench_processi" build/bench/velkor/PARVIK/parvik32-batch "$programmi" "$dati"
+  "$programmi/bench_processi" build/release/velkor/PARVIK/parvik32-batch "$programmi" "$dati"
 }
-parti=(misure processi)
+parti=(misure processi ./bench/avvio.sh ./bench/tasti.sh ./bench/anteprima.sh ./bench/ingombro.sh)
 
 macchina() {
   local modello memoria

@@ -13,9 +13,9 @@ namespace parvik::fuzz {
 namespace {
 
 /// Codes of ten bytes may ask for a million characters: a run that writes more than this is given up.
-constexpr std::size_t MassimoScritto = 300'000;
+constexpr std::size_t MassimoScritto = 70'000;
 /// The literal run and the literal style pass are slow.
-constexpr std::size_t MassimoPerRiferimento = 2'000;
+constexpr std::size_t MassimoPerRiferimento = 1'000;
 constexpr std::size_t MassimoPerStili = 256;
 
 class Raccolta final : public UscitaRighe {

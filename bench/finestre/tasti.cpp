@@ -126,6 +126,7 @@ double Misura(std::size_t righe) {
 
 /// Keys in one of the two alone, to count the instructions of Premi.
 void Conta(bool nudo) {
+  QApplication::setCursorFlashTime(0);  // nothing happens by itself
   Banco banco;
   banco.Apri(Modello(2 * RigheCorte));
   Nudo altro(banco.Testata());

@@ -55,11 +55,9 @@ std::string ScriviLingua(const std::string& codice) {
 }
 
 std::string Riempi(const std::string& campione, std::size_t lunghezza, char riempimento, char allineamento) {
-  std::string testo = campione;
-  while (testo.size() < lunghezza) {
-    testo = allineamento == 'R' ? riempimento + testo : testo + riempimento;
-  }
-  return testo;
+  if (campione.size() >= lunghezza) return campione;
+  const std::string mancano(lunghezza - campione.size(), riempimento);
+  return allineamento == 'R' ? mancano + campione : campione + mancano;
 }
 
 std::string ScriviVariabileConFormato(std::string codice, std::size_t p1, std::size_t p2) {

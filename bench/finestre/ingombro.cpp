@@ -1,4 +1,4 @@
-// The memory that a template takes in a window, in bytes a byte of the file: bench_memoria editor|bare LINES
+// The memory that a template takes in a window, in bytes a byte of the file: bench_ingombro editor|bare LINES
 #include <unistd.h>
 
 #include <QApplication>
@@ -51,7 +51,7 @@ double NelNudo(const std::string& modello) {
 int main(int argc, char** argv) {
   using namespace parvik::bench;
   if (argc != 3) {
-    std::cerr << "bench_memoria editor|bare LINES\n";
+    std::cerr << "bench_ingombro editor|bare LINES\n";
     return EXIT_FAILURE;
   }
   QApplication programma(argc, argv);
