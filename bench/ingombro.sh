@@ -7,9 +7,14 @@ cd "$(dirname "$0")/.."
   cmake --build --preset bench --target bench_ingombro
 } >&2
 misura() {
-  ./bench/con-schermo.sh build/release/bench/finestre/bench_ingombro "$1" 600000
+  ./bench/con-schermo.sh build/release/bench/finestre/bench_ingombro "$@" 2>/dev/null
 }
-awk -v nostra="$(misura editor)" -v sua="$(misura bare)" 'BEGIN {
-  printf "memory of 600,000 lines in the editor, bytes a byte of the file\t%.1f\t\t\n", nostra
-  printf "the same in a bare editor\t%.1f\t\t\n", sua
+read -r _ nostra <<<"$(misura editor 60)"
+read -r _ sua <<<"$(misura bare 60)"
+read -r nostri _ <<<"$(misura editor 600000)"
+read -r suoi _ <<<"$(misura bare 600000)"
+awk -v nostra="$nostra" -v sua="$sua" -v nostri="$nostri" -v suoi="$suoi" 'BEGIN {
+  printf "60 lines open, MiB more than a bare editor\t%.2f\tat most 6.00\t%s\n", nostra - sua, nostra - sua <= 6 ? "yes" : "no"
+  printf "600,000 lines open, bytes a byte of the file\t%.1f\t\t\n", nostri
+  printf "the same in a bare editor\t%.1f\t\t\n", suoi
 }'

@@ -1,4 +1,5 @@
-// The memory that a template takes in a window, in bytes a byte of the file: bench_ingombro editor|bare LINES
+// The memory of a window with a template in it: bench_ingombro editor|bare LINES prints what the template
+// took, in bytes a byte of the file, and what all takes, in MiB.
 #include <unistd.h>
 
 #include <QApplication>
@@ -24,14 +25,21 @@ double Residente() {
   return static_cast<double>(residenti) * static_cast<double>(::sysconf(_SC_PAGESIZE));
 }
 
-double NellEditor(const std::string& modello) {
+/// In bytes: what the template took, and all.
+struct Misura {
+  double Suoi = 0;
+  double Tutti = 0;
+};
+
+Misura NellEditor(const std::string& modello) {
   Banco banco;
   const double prima = Residente();
   banco.Apri(modello);
-  return Residente() - prima;
+  const double tutti = Residente();
+  return {.Suoi = tutti - prima, .Tutti = tutti};
 }
 
-double NelNudo(const std::string& modello) {
+Misura NelNudo(const std::string& modello) {
   QMainWindow finestra;
   auto* nudo = new QPlainTextEdit(&finestra);
   nudo->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -42,7 +50,8 @@ double NelNudo(const std::string& modello) {
   const double prima = Residente();
   nudo->setPlainText(PerSchermo(modello));
   Svuota();
-  return Residente() - prima;
+  const double tutti = Residente();
+  return {.Suoi = tutti - prima, .Tutti = tutti};
 }
 
 }  // namespace
@@ -56,6 +65,6 @@ int main(int argc, char** argv) {
   }
   QApplication programma(argc, argv);
   const std::string modello = Modello(std::stoul(argv[2]));
-  const double usati = std::string(argv[1]) == "editor" ? NellEditor(modello) : NelNudo(modello);
-  std::cout << usati / static_cast<double>(modello.size()) << '\n';
+  const auto [usati, residente] = std::string(argv[1]) == "editor" ? NellEditor(modello) : NelNudo(modello);
+  std::cout << usati / static_cast<double>(modello.size()) << ' ' << residente / (1024.0 * 1024.0) << '\n';
 }

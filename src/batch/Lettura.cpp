@@ -22,12 +22,11 @@ void Avverti(const std::filesystem::path& file, const EsitoImmagine& letta) {
 }
 
 /// What `leggi` makes of the file's bytes; nothing after a message.
-template <class Letta>
-Letta LeggiCon(const std::filesystem::path& file, Letta (*leggi)(std::string byte, Formato formato),
-               Formato formato) {
+template <class Letta, class Leggi>
+Letta LeggiCon(const std::filesystem::path& file, const Leggi& leggi) {
   try {
     Esito<std::string> byte = LeggiFile(file);
-    if (byte) return leggi(std::move(*byte), formato);
+    if (byte) return leggi(std::move(*byte));
     Segnala(file, byte.Errore());
   } catch (const std::bad_alloc&) {  // one file that is too large must not stop the others
     Segnala(file, NumeroErrore::MemoriaEsaurita);
@@ -38,23 +37,18 @@ Letta LeggiCon(const std::filesystem::path& file, Letta (*leggi)(std::string byt
 }  // namespace
 
 std::optional<ImmagineLetta> LeggiModello(const std::filesystem::path& file, const TipoDoc& tipo) {
+  const Formato formato = FormatoDi(tipo.NumSezioni);
   auto letta = LeggiCon<std::optional<ImmagineLetta>>(
-      file,
-      [](std::string byte, Formato formato) -> std::optional<ImmagineLetta> {
-        return LeggiImmagine(byte, formato, Iniziali(formato));
-      },
-      FormatoDi(tipo.NumSezioni));
+      file, [formato](const std::string& byte) { return LeggiImmagine(byte, formato, Iniziali(formato)); });
   if (letta) Avverti(file, *letta);
   return letta;
 }
 
 std::unique_ptr<const ImmagineInPosto> ApriModello(const std::filesystem::path& file, const TipoDoc& tipo) {
-  auto letta = LeggiCon<std::unique_ptr<const ImmagineInPosto>>(
-      file,
-      [](std::string byte, Formato formato) -> std::unique_ptr<const ImmagineInPosto> {
-        return std::make_unique<ImmagineInPosto>(std::move(byte), formato, Iniziali(formato));
-      },
-      FormatoDi(tipo.NumSezioni));
+  const Formato formato = FormatoDi(tipo.NumSezioni);
+  auto letta = LeggiCon<std::unique_ptr<const ImmagineInPosto>>(file, [formato](std::string&& byte) {
+    return std::make_unique<ImmagineInPosto>(std::move(byte), formato, Iniziali(formato));
+  });
   if (letta) Avverti(file, letta->Esito());
   return letta;
 }

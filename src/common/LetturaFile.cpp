@@ -7,7 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdint>
+#include <memory>
 #include <new>
 #include <stdexcept>
 
@@ -21,16 +21,15 @@ constexpr std::size_t Pezzo = 256UL * 1024UL;
 
 /// Asks for the memory of a large text at once, and in large pages: handing it out page by page, as each is
 /// first written to, takes longer than reading the file. A system that knows neither does without.
-void ChiediMemoria(const std::string& testo) {
+void ChiediMemoria(std::string& testo) {
   constexpr std::size_t Grande = 1024UL * 1024UL;
-  constexpr std::uintptr_t Pagina = 4096;
-  if (testo.capacity() < Grande) return;
-  const auto inizio = reinterpret_cast<std::uintptr_t>(testo.data());
-  const std::uintptr_t da = (inizio + Pagina - 1) / Pagina * Pagina;
-  const std::uintptr_t a = (inizio + testo.capacity()) / Pagina * Pagina;
-  for (const int richiesta : {MADV_HUGEPAGE, MADV_POPULATE_WRITE}) {
-    static_cast<void>(::madvise(reinterpret_cast<void*>(da), a - da, richiesta));
-  }
+  constexpr std::size_t Pagina = 4096;
+  void* inizio = testo.data();
+  std::size_t spazio = testo.capacity();
+  if (spazio < Grande || std::align(Pagina, Grande - Pagina, inizio, spazio) == nullptr) return;
+  spazio -= spazio % Pagina;
+  for (const int richiesta : {MADV_HUGEPAGE, MADV_POPULATE_WRITE})
+    static_cast<void>(::madvise(inizio, spazio, richiesta));
 }
 
 /// Reads on until the end of the file, whatever its size was when it was opened. In pieces, so that the
