@@ -138,5 +138,5 @@ int main(int argc, char** argv) {
   QApplication programma(argc, argv);
   parvik::bench::Misura(60, 21);
   parvik::bench::Misura(10'000, 11);
-  parvik::bench::Misura(1'000'000, 3);
+  parvik::bench::Misura(1'000'000, 1);
 }

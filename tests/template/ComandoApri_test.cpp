@@ -173,8 +173,8 @@ TEST_F(ComandoApri, IsSilentAboutAMissingFileWhoseNameItKeeps) {
   EXPECT_EQ((Testi{"anteprima spenta", "flag azzerati", "titolo Ordavia - MANCA001.IMG"}), contorno_.Fatti);
 }
 
-TEST_F(ComandoApri, OpensAFileOf64MiBAndRefusesAGreaterOneBeforeAnythingChanges) {
-  constexpr std::uintmax_t massimo = 64U << 20U;
+TEST_F(ComandoApri, OpensAFileOf128MiBAndRefusesAGreaterOneBeforeAnythingChanges) {
+  constexpr std::uintmax_t massimo = 128U << 20U;
   std::filesystem::resize_file(dirImg_ / "MODELLO1.IMG", massimo + 1);
   documento_.NomeFile = dirImg_ / "prima.img";
   interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
