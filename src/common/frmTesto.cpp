@@ -80,7 +80,9 @@ std::string DaSchermo(const QString& testo) {
   std::string ansi;
   ansi.reserve(static_cast<std::size_t>(testo.size()));
   for (const QChar c : testo) {
-    if (FinisceRiga(c)) {
+    if (c >= u' ' && c <= u'~') {  // almost all there is, and the same on both sides
+      ansi += c.toLatin1();
+    } else if (FinisceRiga(c)) {
       ansi.append(FineRiga);
     } else if (const auto byte = Byte().find(c.unicode()); byte != Byte().end()) {
       ansi += byte->second;
