@@ -2,10 +2,7 @@
 # The memory of a long template in the editor and in a bare one: a row of the table of docs/prestazioni.md.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-{
-  cmake --preset bench
-  cmake --build --preset bench --target bench_ingombro
-} >&2
+./bench/costruisci.sh bench_ingombro
 misura() {
   ./bench/con-schermo.sh build/release/bench/finestre/bench_ingombro "$@" 2>/dev/null
 }

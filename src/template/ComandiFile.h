@@ -41,7 +41,8 @@ class ComandiFile {
   /// stay, but the document no longer comes from that file.
   void Nuovo(const TipoDoc& tipo);
 
-  /// Open. Every failure is silent; the file name is then the chosen one already.
+  /// Open. Every failure is silent; the file name is then the chosen one already. Only a file of more than
+  /// 128 MiB is refused with a message (MemoriaEsaurita), and nothing but the answered question has happened.
   void Apri(const TipoDoc& tipo);
 
   /// Save; without a file name it is Save As, and with nothing in the sections nothing at all. A named file

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <string>
 
+#include "guasti/CasiGuasto.h"
 #include "guasti/Guasti.h"
 #include "template/BancoComandi.h"
 
@@ -58,11 +59,6 @@ class ComandoSalvaGuasti : public BancoComandi {
   const std::string Nuovo = "nuova\r\n" + Marcatore("7;1;CS") + "c\r\np\r\n";
 };
 
-struct CasoGuasto {
-  const char* Nome;
-  int Errore;
-  bool PerSempre;
-};
 class ComandoSalvaSottoGuasto : public ComandoSalvaGuasti, public testing::WithParamInterface<CasoGuasto> {};
 
 TEST_P(ComandoSalvaSottoGuasto, TellsTheErrorOnceAndStaysModifiedWhicheverCallFails) {
@@ -108,15 +104,7 @@ TEST_F(ComandoSalvaGuasti, ANewContentThatWasWrittenButIsNotSafeIsStillThisDocum
   EXPECT_EQ(Elenco{"A.IMG"}, Nomi(dirImg_.Percorso()));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Casi, ComandoSalvaSottoGuasto,
-    testing::Values(CasoGuasto{"disk_full_once", ENOSPC, false}, CasoGuasto{"disk_full", ENOSPC, true},
-                    CasoGuasto{"device_error_once", EIO, false}, CasoGuasto{"device_error", EIO, true},
-                    CasoGuasto{"over_quota_once", EDQUOT, false}, CasoGuasto{"over_quota", EDQUOT, true},
-                    CasoGuasto{"denied", EACCES, true}, CasoGuasto{"read_only", EROFS, true},
-                    CasoGuasto{"interrupted_once", EINTR, false},
-                    CasoGuasto{"interrupted_without_end", EINTR, true}),
-    [](const auto& caso) { return std::string(caso.param.Nome); });
+INSTANTIATE_TEST_SUITE_P(Casi, ComandoSalvaSottoGuasto, testing::ValuesIn(CasiGuasto), NomeCaso);
 
 }  // namespace
 }  // namespace parvik::prova

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "common/ErroreRuntime.h"
+#include "guasti/CasiGuasto.h"
 #include "guasti/Guasti.h"
 #include "gui/Finestra.h"
 
@@ -105,16 +106,11 @@ class FinestraSalvaGuasti : public testing::Test {
   std::string nuovo_;
 };
 
-struct CasoFinestra {
-  const char* Nome;
-  int Errore;
-  bool PerSempre;
-};
 class FinestraSalvaSottoGuasto : public FinestraSalvaGuasti,
-                                 public testing::WithParamInterface<CasoFinestra> {};
+                                 public testing::WithParamInterface<CasoGuasto> {};
 
 TEST_P(FinestraSalvaSottoGuasto, TellsTheErrorOnceAndStaysModifiedWhicheverCallFails) {
-  const CasoFinestra caso = GetParam();
+  const CasoGuasto caso = GetParam();
   const int chiamate = Conta();
   ASSERT_GT(chiamate, 20);
   int falliti = 0;
@@ -141,16 +137,7 @@ TEST_P(FinestraSalvaSottoGuasto, TellsTheErrorOnceAndStaysModifiedWhicheverCallF
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Casi, FinestraSalvaSottoGuasto,
-    testing::Values(CasoFinestra{"disk_full_once", ENOSPC, false}, CasoFinestra{"disk_full", ENOSPC, true},
-                    CasoFinestra{"device_error_once", EIO, false}, CasoFinestra{"device_error", EIO, true},
-                    CasoFinestra{"over_quota_once", EDQUOT, false}, CasoFinestra{"over_quota", EDQUOT, true},
-                    CasoFinestra{"denied_once", EACCES, false}, CasoFinestra{"denied", EACCES, true},
-                    CasoFinestra{"read_only_once", EROFS, false}, CasoFinestra{"read_only", EROFS, true},
-                    CasoFinestra{"interrupted_once", EINTR, false},
-                    CasoFinestra{"interrupted_without_end", EINTR, true}),
-    [](const auto& caso) { return std::string(caso.param.Nome); });
+INSTANTIATE_TEST_SUITE_P(Casi, FinestraSalvaSottoGuasto, testing::ValuesIn(CasiGuasto), NomeCaso);
 
 TEST_F(FinestraSalvaGuasti, LeavesAWholeTemplateWhereverTheEditorIsKilled) {
   const int chiamate = Conta();

@@ -43,6 +43,16 @@ class ScritturaGuasta : public testing::Test {
     Ricomincia();
     return quali;
   }
+  /// The disk takes half of the one write of this name, and no more: the old file must stand.
+  void RiempiIlDiscoAMeta(std::string_view scrittura) {
+    const std::vector<int> scritture = Quali(scrittura);
+    ASSERT_EQ(1U, scritture.size());
+    const Esito<void> esito = Scrivi({{.Chiamata = scritture[0], .Quale = Genere::ScritturaCorta},
+                                      {.Chiamata = scritture[0] + 1, .Errore = ENOSPC}});
+    ASSERT_FALSE(esito);
+    EXPECT_EQ(NumeroErrore::DiscoPieno, esito.Errore());
+    EXPECT_EQ(Vecchio, Contenuto(File));
+  }
 
   CartellaTemporanea Cartella;
   const fs::path File = Cartella / "a.img";
@@ -65,26 +75,14 @@ TEST_F(ScritturaGuasta, GoesOnAfterShortWrites) {
 }
 
 TEST_F(ScritturaGuasta, LeavesTheOldFileWhenTheDiskFillsUpInTheMiddle) {
-  const std::vector<int> scritture = Quali("write");
-  ASSERT_EQ(1U, scritture.size());
-  const Esito<void> esito = Scrivi({{.Chiamata = scritture[0], .Quale = Genere::ScritturaCorta},
-                                    {.Chiamata = scritture[0] + 1, .Errore = ENOSPC}});
-  ASSERT_FALSE(esito);
-  EXPECT_EQ(NumeroErrore::DiscoPieno, esito.Errore());
-  EXPECT_EQ(Vecchio, Contenuto(File));
+  RiempiIlDiscoAMeta("write");
   EXPECT_EQ(Elenco{"a.img"}, Nomi(Cartella.Percorso()));
 }
 
 TEST_F(ScritturaGuasta, PutsTheOldContentBackWhenTheDiskFillsUpInTheMiddleOfWritingInPlace) {
   DueNomi = true;
   Ricomincia();
-  const std::vector<int> scritture = Quali("write a.img");
-  ASSERT_EQ(1U, scritture.size());
-  const Esito<void> esito = Scrivi({{.Chiamata = scritture[0], .Quale = Genere::ScritturaCorta},
-                                    {.Chiamata = scritture[0] + 1, .Errore = ENOSPC}});
-  ASSERT_FALSE(esito);
-  EXPECT_EQ(NumeroErrore::DiscoPieno, esito.Errore());
-  EXPECT_EQ(Vecchio, Contenuto(File));
+  RiempiIlDiscoAMeta("write a.img");
   EXPECT_EQ((Elenco{"a.img", "b.img"}), Nomi(Cartella.Percorso()));
 }
 
