@@ -31,6 +31,15 @@ class Vista : public Sezioni {
  public:
   /// The editor's state has changed: caption, menus, what is visible, layout.
   virtual void Aggiorna() = 0;
+  struct InizioTesto {
+    std::string Testo;
+    bool Intero = false;  // it is the section's whole text
+  };
+  /// The first whole lines of a section's text: as many as `massimo` characters hold, but one at least.
+  virtual InizioTesto Inizio(Sezione sezione, std::size_t massimo) const = 0;
+  /// A section's whole text. For the work of Attendi, on its thread: the window hands the text over a little
+  /// at a time and stays alive. Ends early, with a part, when `smetti` was asked for.
+  virtual std::string TestoAPezzi(Sezione sezione, const std::stop_token& smetti) const = 0;
   /// Fills the preview pane anew: the caret at its start, nothing selected.
   virtual void MostraAnteprima(Anteprima anteprima) = 0;
   /// Puts the whole text in the place of its beginning, which was shown first; what the user has done in the
@@ -130,7 +139,10 @@ class Editore final : private Contorno {
   void CaricaFlagStampe();
   void SegnalaErroreCatalogo(NumeroErrore errore);
   std::optional<RigheMostrate> CalcolaTotali();
-  LavoroStampa Lavoro() const;
+  LavoroStampa LavoroSenzaTesti() const;
+  LavoroStampa InizioLavoro() const;
+  /// On the thread of Vista::Attendi.
+  void PrendiTesti(LavoroStampa& lavoro, const std::stop_token& smetti) const;
   /// Both: false when the run was given up, or ran out of memory.
   bool Genera();
   bool AccendiAnteprima();

@@ -1,4 +1,5 @@
 // The editor's commands that render: preview and print.
+#include <algorithm>
 #include <system_error>
 #include <utility>
 
@@ -11,8 +12,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What is rendered at once, in the time that a hand takes to leave a key; more is worth a thread.
-constexpr std::size_t ParteImmediata = 4UL * 1024UL * 1024UL;
+/// What is taken over and rendered at once, in the time that a hand takes to leave a key; more is worth a
+/// thread.
+constexpr std::size_t ParteImmediata = 1024UL * 1024UL;
 constexpr const char* NomeLavoroSenzaFile = "Ordavia";
 constexpr const char* EstensioneTesti = ".txt";
 
@@ -25,9 +27,8 @@ fs::path CartellaTesti(const Installazione& installazione) {
 
 }  // namespace
 
-LavoroStampa Editore::Lavoro() const {
+LavoroStampa Editore::LavoroSenzaTesti() const {
   LavoroStampa lavoro;
-  for (const Sezione sezione : TutteLeSezioni) lavoro.Testi[Indice(sezione)] = vista_.Testo(sezione);
   lavoro.NumSezioni = Tipo().NumSezioni;
   lavoro.RigheCorpo = documento_.Corpo.RigheCorpo;
   lavoro.LineeCorpo = documento_.Corpo.LineeCorpo;
@@ -35,14 +36,43 @@ LavoroStampa Editore::Lavoro() const {
   return lavoro;
 }
 
+/// As much of the sections as is rendered at once. A run ends where the first cut is: nothing follows a
+/// section that was cut, nor does it itself once more.
+LavoroStampa Editore::InizioLavoro() const {
+  LavoroStampa lavoro = LavoroSenzaTesti();
+  std::size_t posto = ParteImmediata;
+  for (const Sezione sezione : TutteLeSezioni) {
+    if (static_cast<int>(sezione) >= lavoro.NumSezioni) break;
+    Vista::InizioTesto inizio = vista_.Inizio(sezione, posto);
+    posto -= std::min(posto, inizio.Testo.size());
+    lavoro.Testi[Indice(sezione)] = std::move(inizio.Testo);
+    if (inizio.Intero) continue;
+    lavoro.Interi = false;
+    lavoro.NumSezioni = static_cast<std::int16_t>(Indice(sezione) + 1);
+    if (sezione == Sezione::Corpo) lavoro.RigheCorpo = std::min(lavoro.RigheCorpo, lavoro.LineeCorpo);
+  }
+  return lavoro;
+}
+
+void Editore::PrendiTesti(LavoroStampa& lavoro, const std::stop_token& smetti) const {
+  for (const Sezione sezione : TutteLeSezioni) {
+    if (static_cast<int>(sezione) >= lavoro.NumSezioni) break;
+    lavoro.Testi[Indice(sezione)] = vista_.TestoAPezzi(sezione, smetti);
+  }
+}
+
 bool Editore::Genera() {
-  const LavoroStampa lavoro = Lavoro();
+  LavoroStampa lavoro = InizioLavoro();
   InizioAnteprima inizio = GeneraInizioAnteprima(lavoro.Dati(), ParteImmediata);
   vista_.MostraAnteprima(std::move(inizio.Testo));
   if (inizio.Intera) return true;
+  const bool daPrendere = !lavoro.Interi;
+  if (daPrendere) lavoro = LavoroSenzaTesti();
   std::optional<Anteprima> intera;
-  const Esito<void> atteso =
-      vista_.Attendi([&](const std::stop_token& smetti) { intera = GeneraAnteprima(lavoro.Dati(), smetti); });
+  const Esito<void> atteso = vista_.Attendi([&](const std::stop_token& smetti) {
+    if (daPrendere) PrendiTesti(lavoro, smetti);
+    intera = GeneraAnteprima(lavoro.Dati(), smetti);
+  });
   if (!atteso) interlocutore_.Chiedi({.Testo = TestoErrore(atteso.Errore())});
   if (!intera) return false;
   vista_.CompletaAnteprima(std::move(*intera));
@@ -110,10 +140,12 @@ void Editore::StampaTesto() {
   const fs::path scelto = interlocutore_.ScegliFile(richiesta);
   if (scelto.empty()) return;
   fileStampa_ = ConEstensione(scelto, EstensioneTesti);
-  const LavoroStampa lavoro = Lavoro();
+  LavoroStampa lavoro = LavoroSenzaTesti();
   // The command is silent on every failure: the old file, if there was one, is whole.
-  static_cast<void>(vista_.Attendi(
-      [&](const std::stop_token& smetti) { StampaSuFile(fileStampa_, lavoro.Dati(), smetti); }));
+  static_cast<void>(vista_.Attendi([&](const std::stop_token& smetti) {
+    PrendiTesti(lavoro, smetti);
+    if (!smetti.stop_requested()) StampaSuFile(fileStampa_, lavoro.Dati(), smetti);
+  }));
 }
 
 }  // namespace parvik

@@ -287,6 +287,15 @@ void frmParvik::CompletaUltimaRiga(Sezione sezione) {
   sezioni_[Indice(sezione)]->CompletaUltimaRiga();
 }
 
+Vista::InizioTesto frmParvik::Inizio(Sezione sezione, std::size_t massimo) const {
+  const txtTCP::RigheTesto righe = sezioni_[Indice(sezione)]->Righe(0, massimo);
+  return {.Testo = DaSchermo(righe.Testo), .Intero = righe.Ultime};
+}
+
+std::string frmParvik::TestoAPezzi(Sezione sezione, const std::stop_token& smetti) const {
+  return sezioni_[Indice(sezione)]->AnsiAPezzi(smetti);
+}
+
 void frmParvik::MostraAnteprima(Anteprima anteprima) {
   anteprima_->Mostra(std::move(anteprima));
 }

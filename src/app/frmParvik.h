@@ -38,6 +38,8 @@ class frmParvik final : public QMainWindow, private Vista {
   void ImpostaTesto(Sezione sezione, std::string_view testo) override;
   void CompletaUltimaRiga(Sezione sezione) override;
   void Aggiorna() override;
+  InizioTesto Inizio(Sezione sezione, std::size_t massimo) const override;
+  std::string TestoAPezzi(Sezione sezione, const std::stop_token& smetti) const override;
   void MostraAnteprima(Anteprima anteprima) override;
   void CompletaAnteprima(Anteprima anteprima) override;
   Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override;

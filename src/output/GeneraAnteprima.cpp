@@ -84,7 +84,7 @@ std::optional<Anteprima> GeneraAnteprima(const DatiStampa& dati, const std::stop
 InizioAnteprima GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo) {
   InizioAnteprima inizio;
   RaccoltaInizio raccolta(inizio.Testo.Testo, massimo);
-  inizio.Intera = GeneraStampa(dati, TipoStampa::Anteprima, raccolta);
+  inizio.Intera = GeneraStampa(dati, TipoStampa::Anteprima, raccolta) && dati.Interi;
   if (inizio.Intera) {
     AggiungiFine(inizio.Testo.Testo);
   } else {

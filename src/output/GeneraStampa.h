@@ -25,6 +25,8 @@ struct DatiStampa {
   std::int16_t RigheCorpo = 0;
   std::int16_t LineeCorpo = 0;
   const FlagPerStampe& Flag;
+  /// False: a template's beginning, cut behind a line. Its lines are the template's first ones.
+  bool Interi = true;
 };
 
 /// Where the lines of a run go.
@@ -72,7 +74,7 @@ struct InizioAnteprima {
 /// The beginning of the preview, to be shown while the whole is made: as many whole lines as `massimo` bytes
 /// of rendered text hold, style markers counted; fewer, or none, when the run goes on and on without ending a
 /// line. It looks as it does in the whole preview, but for a style marker that only what follows completes.
-/// Costs little more than rendering `massimo` bytes.
+/// Costs little more than rendering `massimo` bytes. Of a template's beginning it is never the whole preview.
 InizioAnteprima GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo);
 
 }  // namespace parvik

@@ -16,6 +16,7 @@ struct LavoroStampa {
   std::int16_t RigheCorpo = 0;
   std::int16_t LineeCorpo = 0;
   FlagPerStampe Flag;
+  bool Interi = true;  // false: only the beginning of the template
 
   /// Looks at this object, which must outlive it.
   DatiStampa Dati() const {
@@ -23,7 +24,8 @@ struct LavoroStampa {
             .NumSezioni = NumSezioni,
             .RigheCorpo = RigheCorpo,
             .LineeCorpo = LineeCorpo,
-            .Flag = Flag};
+            .Flag = Flag,
+            .Interi = Interi};
   }
 };
 

@@ -5,6 +5,7 @@
 #include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QMimeData>
+#include <QResizeEvent>
 #include <QSignalBlocker>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -141,6 +142,7 @@ txtTCP::txtTCP(Sezione sezione, QWidget* padre) : QPlainTextEdit(padre), sezione
   setLineWrapMode(NoWrap);
   setTabChangesFocus(true);
   colori_->ImpostaTavolozza(palette());
+  connect(document(), &QTextDocument::contentsChange, this, [this] { ++edizione_; });
   connect(this, &QPlainTextEdit::textChanged, this, &txtTCP::Modificata);
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, &txtTCP::SegnaCodiceAttivo);
   connect(this, &QPlainTextEdit::textChanged, this, &txtTCP::SegnaCodiceAttivo);
@@ -149,6 +151,40 @@ txtTCP::txtTCP(Sezione sezione, QWidget* padre) : QPlainTextEdit(padre), sezione
 // Not toPlainText: it turns the no-break space into a space.
 std::string txtTCP::Ansi() const {
   return DaSchermo(document()->toRawText());
+}
+
+txtTCP::RigheTesto txtTCP::Righe(int prima, std::size_t massimo) const {
+  RigheTesto righe{.Testo = {}, .Prossima = prima, .Edizione = edizione_};
+  QTextBlock riga = document()->findBlockByNumber(prima);
+  const auto spazio = static_cast<qsizetype>(massimo);
+  while (righe.Prossima == prima || righe.Testo.size() + riga.length() <= spazio) {
+    righe.Testo += riga.text();
+    ++righe.Prossima;
+    riga = riga.next();
+    righe.Ultime = !riga.isValid();
+    if (righe.Ultime) break;
+    righe.Testo += QChar(QChar::ParagraphSeparator);
+  }
+  return righe;
+}
+
+std::string txtTCP::AnsiAPezzi(const std::stop_token& smetti) {
+  constexpr std::size_t Pezzo = 128UL * 1024UL;  // characters: well under a millisecond of the window's
+  std::string ansi;
+  RigheTesto righe;
+  while (!righe.Ultime && !smetti.stop_requested()) {
+    const int da = righe.Prossima;
+    const int edizione = righe.Edizione;
+    QMetaObject::invokeMethod(
+        this, [&] { righe = Righe(da, Pezzo); }, Qt::BlockingQueuedConnection);
+    if (da > 0 && righe.Edizione != edizione) {
+      ansi.clear();
+      righe = {};
+    } else {
+      ansi += DaSchermo(righe.Testo);
+    }
+  }
+  return ansi;
 }
 
 void txtTCP::ImpostaAnsi(std::string_view ansi) {
@@ -359,6 +395,16 @@ void txtTCP::changeEvent(QEvent* evento) {
     colori_->ImpostaTavolozza(palette());
     SegnaCodiceAttivo();
   }
+}
+
+/// In another width the base class lays out every line anew, so that the horizontal scroll bar is never
+/// longer than it need be. Unwrapped lines look alike in any width: where there are very many, the window
+/// comes first.
+void txtTCP::resizeEvent(QResizeEvent* evento) {
+  constexpr int RigheDisposteSubito = 100'000;
+  const bool tante = document()->blockCount() > RigheDisposteSubito;
+  QResizeEvent ridotto(evento->size(), tante ? evento->size() : evento->oldSize());
+  QPlainTextEdit::resizeEvent(&ridotto);
 }
 
 }  // namespace parvik

@@ -5,6 +5,7 @@
 #include <QPlainTextEdit>
 #include <functional>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,20 @@ class txtTCP final : public QPlainTextEdit {
 
   /// The text as bytes, lines separated by CR LF.
   std::string Ansi() const;
+
+  struct RigheTesto {
+    QString Testo;  // the end of each line a paragraph separator; the text's last line has none
+    int Prossima = 0;
+    bool Ultime = false;  // nothing follows
+    int Edizione = 0;     // another one: the text was changed
+  };
+  /// Whole lines of the document, from line `prima` (0 the first) on: as many as `massimo` characters hold,
+  /// but one at least.
+  RigheTesto Righe(int prima, std::size_t massimo) const;
+
+  /// The same as Ansi, for another thread while this one handles events: the text is handed over a little at
+  /// a time. Once it was changed on the way, from the start again. What there is when `smetti` was asked for.
+  std::string AnsiAPezzi(const std::stop_token& smetti);
 
   /// Replaces the whole text. No edit of the user's: nothing to undo, and Modificata is not emitted.
   void ImpostaAnsi(std::string_view ansi);
@@ -66,6 +81,7 @@ class txtTCP final : public QPlainTextEdit {
   void focusInEvent(QFocusEvent* evento) override;
   void mouseDoubleClickEvent(QMouseEvent* evento) override;
   void changeEvent(QEvent* evento) override;
+  void resizeEvent(QResizeEvent* evento) override;
   bool viewportEvent(QEvent* evento) override;
 
  private:
@@ -80,6 +96,7 @@ class txtTCP final : public QPlainTextEdit {
 
   Sezione sezione_;
   frmColori* colori_ = nullptr;
+  int edizione_ = 0;  // counts the changes of the document
   Descrizione descrizione_;
 };
 

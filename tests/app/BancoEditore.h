@@ -22,6 +22,16 @@ class VistaFinta final : public Vista {
   void ImpostaTesto(Sezione sezione, std::string_view testo) override { Testi[Indice(sezione)] = testo; }
   void CompletaUltimaRiga(Sezione sezione) override { Testi[Indice(sezione)] += "\r\n"; }
   void Aggiorna() override { ++Aggiornamenti; }
+  InizioTesto Inizio(Sezione sezione, std::size_t massimo) const override {
+    const std::string& testo = Testi[Indice(sezione)];
+    if (testo.size() <= massimo) return {.Testo = testo, .Intero = true};
+    const std::size_t fine =
+        std::max(testo.rfind("\r\n", massimo - std::min<std::size_t>(massimo, 2)), testo.find("\r\n"));
+    return {.Testo = testo.substr(0, fine + 2), .Intero = false};
+  }
+  std::string TestoAPezzi(Sezione sezione, const std::stop_token& smetti) const override {
+    return smetti.stop_requested() ? std::string() : Testo(sezione);
+  }
   void MostraAnteprima(Anteprima anteprima) override { Anteprime.push_back(std::move(anteprima.Testo)); }
   void CompletaAnteprima(Anteprima anteprima) override { Completate.push_back(std::move(anteprima.Testo)); }
   Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override {

@@ -216,6 +216,51 @@ TEST_F(Stampa, ALargePreviewShowsItsBeginningFirstAndIsThenCompleted) {
   EXPECT_FALSE(vista_.Anteprime[0].ends_with("--- Fine file ---"));
 }
 
+/// Three sections, of which one is far longer than what is rendered at once.
+class StampaLunga : public Stampa, public testing::WithParamInterface<Sezione> {
+ protected:
+  StampaLunga() {
+    editore_.ScegliTipo(Fattura);
+    editore_.ImpostaCorpo({.RigheCorpo = 4, .LineeCorpo = 2, .FlagSbarra = "", .FlagAccorpa = ""});
+    vista_.Testi = {"testa\r\n", "corpo\r\nuno\r\n", "piede\r\n"};
+    vista_.Anteprime.clear();
+  }
+  void Allunga(std::string_view riga) {
+    for (int i = 0; i < 500'000; ++i) vista_.Testi[Indice(GetParam())] += riga;
+  }
+};
+
+TEST_P(StampaLunga, WhatIsShownFirstIsTheBeginningOfTheWholePreview) {
+  Allunga(Byte("r«V1;5»\r\n"));
+  StampaSu(Destinazione::Anteprima);
+  ASSERT_EQ(vista_.Anteprime.size(), 1U);
+  ASSERT_EQ(vista_.Completate.size(), 1U);
+  EXPECT_GT(vista_.Anteprime[0].size(), 500'000U);
+  EXPECT_TRUE(vista_.Completate[0].starts_with(vista_.Anteprime[0]));
+  EXPECT_TRUE(vista_.Completate[0].ends_with("piede\r\n\r\n--- Fine file ---") ||
+              GetParam() == Sezione::Piede);
+}
+
+TEST_P(StampaLunga, ACodeThatIsNeverClosedLeavesNoLineThatIsNotInTheWholePreview) {
+  vista_.Testi[Indice(GetParam())] += Byte("prima\r\n«mai chiuso\r\n");
+  Allunga("dentro\r\n");
+  StampaSu(Destinazione::Anteprima);
+  ASSERT_EQ(vista_.Completate.size(), 1U);
+  EXPECT_TRUE(vista_.Completate[0].starts_with(vista_.Anteprime[0]));
+  EXPECT_THAT(vista_.Anteprime[0], testing::HasSubstr("prima\r\n"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Sezioni, StampaLunga, testing::ValuesIn(TutteLeSezioni),
+                         [](const auto& caso) { return std::string(NomiSezioni[Indice(caso.param)]); });
+
+TEST_F(Stampa, ALargeTemplateIsTakenOverWholeForTheTextFile) {
+  vista_.Testi[0].clear();
+  for (int i = 0; i < 500'000; ++i) vista_.Testi[0] += "riga\r\n";
+  const std::filesystem::path file = dir_ / "uscita.txt";
+  StampaSuFile(file);
+  EXPECT_EQ(Contenuto(file), vista_.Testi[0]);
+}
+
 TEST_F(Stampa, ALargePreviewThatIsGivenUpKeepsItsBeginning) {
   for (int i = 0; i < 20; ++i) vista_.Testi[0] += vista_.Testi[0];
   vista_.Attesa = VistaFinta::ComeAttende::Smette;

@@ -9,6 +9,8 @@
 #include <QTest>
 
 #include "Finestra.h"
+#include "common/frmAttesa.h"
+#include "common/frmTesto.h"
 
 namespace parvik {
 namespace {
@@ -110,6 +112,100 @@ TEST(TxtTCP, ShiftEnterIsALineEndLikeEnter) {
   QTest::keyClick(&editor, Qt::Key_Return, Qt::ShiftModifier);
   QTest::keyClicks(&editor, "b");
   EXPECT_EQ(editor.Ansi(), "a\r\nb");
+}
+
+std::string TanteRighe(int quante) {
+  std::string righe;
+  for (int i = 0; i < quante; ++i)
+    righe += "riga " + std::to_string(i) +
+             " \xAB"
+             "V1;5\xBB\r\n";
+  return righe;
+}
+
+TEST(TxtTCP, WholeLinesAreGivenAsManyAsFitButOneAtLeast) {
+  txtTCP editor(Sezione::Corpo, nullptr);
+  editor.ImpostaAnsi("uno\r\ndue\r\ntre");
+  const auto righe = [&editor](int prima, std::size_t massimo) {
+    const txtTCP::RigheTesto lette = editor.Righe(prima, massimo);
+    EXPECT_EQ(lette.Ultime, lette.Prossima == 3);
+    return std::pair(DaSchermo(lette.Testo), lette.Prossima);
+  };
+  EXPECT_EQ(righe(0, 0), std::pair(std::string("uno\r\n"), 1));
+  EXPECT_EQ(righe(0, 7), std::pair(std::string("uno\r\n"), 1));
+  EXPECT_EQ(righe(0, 8), std::pair(std::string("uno\r\ndue\r\n"), 2));
+  EXPECT_EQ(righe(0, 12), std::pair(std::string("uno\r\ndue\r\ntre"), 3));
+  EXPECT_EQ(righe(2, 12), std::pair(std::string("tre"), 3));
+  editor.ImpostaAnsi("");
+  EXPECT_TRUE(editor.Righe(0, 0).Ultime);
+}
+
+TEST(TxtTCP, AnotherThreadIsGivenTheSameText) {
+  txtTCP editor(Sezione::Corpo, nullptr);
+  for (const std::string& testo : {std::string(), std::string("una"), TanteRighe(20'000)}) {
+    editor.ImpostaAnsi(testo);
+    std::string preso;
+    EXPECT_TRUE(
+        AttendiLavoro(nullptr, [&](const std::stop_token& smetti) { preso = editor.AnsiAPezzi(smetti); }));
+    EXPECT_TRUE(preso == testo) << preso.size() << " of " << testo.size();
+  }
+}
+
+/// Edits a text between the first lines that it hands over and the second ones.
+class Disturbo final : public QObject {
+ public:
+  explicit Disturbo(txtTCP& editor) : editor_(editor) { editor.installEventFilter(this); }
+  int Richieste() const { return richieste_; }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* evento) override {
+    if (evento->type() == QEvent::MetaCall && ++richieste_ == 2)
+      QTextCursor(editor_.document()).insertText("nuovo ");
+    return false;
+  }
+
+ private:
+  txtTCP& editor_;
+  int richieste_ = 0;
+};
+
+TEST(TxtTCP, ATextThatIsChangedWhileItIsHandedOverIsHandedOverAnew) {
+  txtTCP editor(Sezione::Corpo, nullptr);
+  editor.ImpostaAnsi(TanteRighe(20'000));
+  QCoreApplication::processEvents();  // what the text itself has still to call
+  const Disturbo disturbo(editor);
+  std::string preso;
+  EXPECT_TRUE(
+      AttendiLavoro(nullptr, [&](const std::stop_token& smetti) { preso = editor.AnsiAPezzi(smetti); }));
+  EXPECT_GT(disturbo.Richieste(), 2);
+  EXPECT_TRUE(preso.starts_with("nuovo riga 0 "));
+  EXPECT_TRUE(preso == editor.Ansi()) << preso.size();
+}
+
+TEST(TxtTCP, HandingATextOverEndsWhenItIsGivenUp) {
+  txtTCP editor(Sezione::Corpo, nullptr);
+  editor.ImpostaAnsi("una");
+  std::stop_source smetti;
+  smetti.request_stop();
+  EXPECT_EQ(editor.AnsiAPezzi(smetti.get_token()), "");
+}
+
+TEST(TxtTCP, AVeryLongTextLooksInANewWidthAsOneOpenedInThatWidth) {
+  constexpr QSize Grande(700, 300);
+  constexpr QSize Piccola(200, 300);
+  const std::string testo = TanteRighe(100'001) + std::string(60, 'm');
+  const auto aperta = [&testo](QSize prima, QSize poi) {
+    txtTCP editor(Sezione::Corpo, nullptr);
+    editor.resize(prima);
+    editor.show();
+    editor.ImpostaAnsi(testo);
+    QCoreApplication::processEvents();
+    editor.resize(poi);
+    QCoreApplication::processEvents();
+    return editor.viewport()->grab().toImage();
+  };
+  EXPECT_EQ(aperta(Grande, Piccola), aperta(Piccola, Piccola));
+  EXPECT_EQ(aperta(Piccola, Grande), aperta(Grande, Grande));
 }
 
 }  // namespace
