@@ -37,6 +37,24 @@ void ProvaFile(std::string_view byte, Formato formato) {
   Esigi(static_cast<bool>(dueVolte) && *dueVolte == *unaVolta, "the second writing gives the same bytes");
 }
 
+/// As a file arrives, in pieces.
+void ProvaAPezzi(std::string_view byte, Formato formato, std::size_t pezzo) {
+  PreparaImmagine prepara(formato);
+  ByteFile finora;
+  while (finora.size() < byte.size()) {
+    const std::string_view nuovi = byte.substr(finora.size(), pezzo);
+    finora.insert(finora.end(), nuovi.begin(), nuovi.end());
+    prepara.Prosegui(finora);
+  }
+  const ImmagineLetta letta = LeggiImmagine(byte, formato, ImpostazioniPredefinite());
+  const ImmagineInPosto inPosto(std::move(finora), prepara, ImpostazioniPredefinite());
+  const EsitoImmagine& esito = inPosto.Esito();
+  Esigi(std::ranges::equal(inPosto.Testi(), letta.Testi), "in pieces the same texts are read");
+  Esigi(esito.Corpo == letta.Corpo && esito.Errore == letta.Errore &&
+            esito.TestoNonLetto == letta.TestoNonLetto && esito.CorpoIncompleto == letta.CorpoIncompleto,
+        "in pieces the same is said of it");
+}
+
 bool SoloRigheIntere(std::string_view testo) {
   if (!testo.empty() && !testo.ends_with(FineRiga)) return false;
   for (std::size_t cr = testo.find('\r'); cr != std::string_view::npos; cr = testo.find('\r', cr + 1)) {
@@ -77,6 +95,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* dati, std::size_t dimensione) {
   const unsigned char scelta = ingresso.Byte();
   fuzz::ProvaFile(ingresso.Resto(), Formato::UnaSezione);
   fuzz::ProvaFile(ingresso.Resto(), Formato::TreSezioni);
+  fuzz::ProvaAPezzi(ingresso.Resto(), FormatoDi(scelta % 2 == 0 ? 3 : 1), 1 + scelta / 2);
   TestiSezioni testi;
   for (std::string& testo : testi) testo = ingresso.Testo();
   fuzz::ProvaSezioni(testi, scelta);

@@ -21,13 +21,13 @@ void Avverti(const std::filesystem::path& file, const EsitoImmagine& letta) {
                     " righe di corpo che il marcatore promette");
 }
 
-/// What `leggi` makes of the file's bytes; nothing after a message.
+/// What `leggi` reads; nothing after a message.
 template <class Letta, class Leggi>
 Letta LeggiCon(const std::filesystem::path& file, const Leggi& leggi) {
   try {
-    Esito<std::string> byte = LeggiFile(file);
-    if (byte) return leggi(std::move(*byte));
-    Segnala(file, byte.Errore());
+    Esito<Letta> letta = leggi();
+    if (letta) return std::move(*letta);
+    Segnala(file, letta.Errore());
   } catch (const std::bad_alloc&) {  // one file that is too large must not stop the others
     Segnala(file, NumeroErrore::MemoriaEsaurita);
   }
@@ -37,17 +37,25 @@ Letta LeggiCon(const std::filesystem::path& file, const Leggi& leggi) {
 }  // namespace
 
 std::optional<ImmagineLetta> LeggiModello(const std::filesystem::path& file, const TipoDoc& tipo) {
+  using Letta = std::optional<ImmagineLetta>;
   const Formato formato = FormatoDi(tipo.NumSezioni);
-  auto letta = LeggiCon<std::optional<ImmagineLetta>>(
-      file, [formato](const std::string& byte) { return LeggiImmagine(byte, formato, Iniziali(formato)); });
+  auto letta = LeggiCon<Letta>(file, [&]() -> Esito<Letta> {
+    const Esito<std::string> byte = LeggiFile(file);
+    if (!byte) return byte.Errore();
+    return Letta(LeggiImmagine(*byte, formato, Iniziali(formato)));
+  });
   if (letta) Avverti(file, *letta);
   return letta;
 }
 
 std::unique_ptr<const ImmagineInPosto> ApriModello(const std::filesystem::path& file, const TipoDoc& tipo) {
   const Formato formato = FormatoDi(tipo.NumSezioni);
-  auto letta = LeggiCon<std::unique_ptr<const ImmagineInPosto>>(file, [formato](std::string&& byte) {
-    return std::make_unique<ImmagineInPosto>(std::move(byte), formato, Iniziali(formato));
+  using Letta = std::unique_ptr<const ImmagineInPosto>;
+  auto letta = LeggiCon<Letta>(file, [&]() -> Esito<Letta> {
+    PreparaImmagine prepara(formato);
+    Esito<ByteFile> byte = LeggiFile(file, [&](std::span<char> finora) { prepara.Prosegui(finora); });
+    if (!byte) return byte.Errore();
+    return Letta(std::make_unique<const ImmagineInPosto>(std::move(*byte), prepara, Iniziali(formato)));
   });
   if (letta) Avverti(file, letta->Esito());
   return letta;

@@ -107,16 +107,15 @@ void AggiungiDaFile(std::string_view righe, std::string& sezione) {
   if (!righe.empty() && !finita) sezione.append(FineRiga);
 }
 
-bool RendiSezione(std::span<char> righe) {
+bool RendiRighe(std::span<char> righe) {
   const std::string_view testo(righe.data(), righe.size());
   for (std::size_t posto = 0; posto < testo.size();) {
     const std::string_view pezzo = PezzoDa(testo, posto);
-    if (HaCrSolo(pezzo))
-      return false;  // delimiters that were exchanged stay so when they are exchanged again
+    if (HaCrSolo(pezzo)) return false;  // what was exchanged stays so when it is exchanged again
     DelimitatoriVersoEditor(righe.subspan(posto, pezzo.size()));
     posto += pezzo.size();
   }
-  return testo.empty() || testo.ends_with(FineRiga);
+  return true;
 }
 
 std::size_t AggiungiVersoFile(std::string_view sezione, std::string& file) {

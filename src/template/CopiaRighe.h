@@ -17,9 +17,10 @@ void DelimitatoriVersoFile(std::span<char> testo);
 /// get the editor's delimiters.
 void AggiungiDaFile(std::string_view righe, std::string& sezione);
 
-/// Makes a section of lines of a file where they stand. False when line ends would have to be added: then
-/// AggiungiDaFile still makes of them what it would have made before.
-bool RendiSezione(std::span<char> righe);
+/// Makes lines of a section of lines of a file where they stand; of the last one its line end may be missing.
+/// False when a CR without its LF is among them: then AggiungiDaFile still makes of them what it would have
+/// made before.
+bool RendiRighe(std::span<char> righe);
 
 /// Adds a section to a file: each line gets CR LF as its end, whatever byte follows its CR is skipped, and
 /// the codes get the file's delimiters. Where in `file` that begins which the last CR leaves over; it is

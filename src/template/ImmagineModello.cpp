@@ -1,78 +1,14 @@
 #include "template/ImmagineModello.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "common/Delimitatori.h"
 #include "common/LettoreRighe.h"
-#include "common/NumeroLeniente.h"
 #include "template/CopiaRighe.h"
 #include "template/RigheSezione.h"
 
 namespace parvik {
 namespace {
-
-constexpr std::size_t NonTrovato = std::string_view::npos;
-
-// In two pieces: in one literal the C would belong to the escape.
-constexpr std::string_view InizioMarcatore =
-    "\xAE"
-    "C";
-
-/// The text from byte `da` on; nothing when there is no such byte.
-std::string_view Da(std::string_view testo, std::size_t da) {
-  return testo.substr(std::min(da, testo.size()));
-}
-
-/// Looks for ";" from byte `da` on and gives the position after it, or 0: without a separator, what should
-/// follow it is looked for from the start of the line.
-std::size_t DopoSeparatore(std::string_view riga, std::size_t da) {
-  const std::size_t trovato = riga.find(';', da);
-  return trovato == NonTrovato ? 0 : trovato + 1;
-}
-
-void LeggiInterruttori(std::string_view testo, ImpostazioniCorpo& corpo) {
-  const std::string_view primo = testo.substr(0, 1);
-  const std::string_view secondo = Da(testo, 1).substr(0, 1);
-  if (primo == std::string_view(&DelimFileChiusura, 1)) {
-    corpo.FlagSbarra.clear();
-    corpo.FlagAccorpa.clear();
-    return;
-  }
-  if (primo == "C" || primo == "S") {
-    corpo.FlagSbarra = primo == "C" ? "C" : "";
-    corpo.FlagAccorpa = primo == "S" ? "S" : "";
-  }
-  if (secondo != std::string_view(&DelimFileChiusura, 1)) corpo.FlagAccorpa = secondo;
-}
-
-/// `inizio` is where the marker's two first bytes stand in the line. What was set before an error stays set.
-std::optional<NumeroErrore> LeggiMarcatore(std::string_view riga, std::size_t inizio,
-                                           ImpostazioniCorpo& corpo) {
-  const Esito<std::int16_t> righe = InteroLeniente(Da(riga, inizio + InizioMarcatore.size()));
-  if (!righe) return righe.Errore();
-  corpo.RigheCorpo = *righe;
-  const std::size_t dopoPrimo = DopoSeparatore(riga, inizio);
-  const Esito<std::int16_t> linee = InteroLeniente(Da(riga, dopoPrimo));
-  if (!linee) return linee.Errore();
-  corpo.LineeCorpo = *linee;
-  LeggiInterruttori(Da(riga, DopoSeparatore(riga, dopoPrimo)), corpo);
-  return std::nullopt;
-}
-
-/// The line of the marker, which is never looked for in the first line; nullopt when the file has none.
-struct Marcatore {
-  std::size_t InizioRiga = 0;
-  std::size_t Posto = 0;  // where the two bytes that it is known by stand
-};
-std::optional<Marcatore> TrovaMarcatore(std::string_view byte) {
-  LettoreRighe prima(byte);
-  prima.Prossima();
-  const std::size_t posto = TrovaCoppia(byte, InizioMarcatore, byte.size() - prima.Resto().size());
-  if (posto == NonTrovato) return std::nullopt;
-  const std::size_t inizio = byte.rfind('\r', posto) + 1;  // another line lies before this one
-  return Marcatore{.InizioRiga = inizio + (byte[inizio] == '\n' ? 1 : 0), .Posto = posto};
-}
 
 void DividiCorpoEPiede(LettoreRighe righe, ImmagineDivisa& divisa) {
   const std::string_view corpo = righe.Resto();
@@ -85,16 +21,26 @@ void DividiCorpoEPiede(LettoreRighe righe, ImmagineDivisa& divisa) {
   if (divisa.CorpoIncompleto && lette > 0) divisa.Errore = NumeroErrore::InputOltreFine;
 }
 
-void DividiTreSezioni(std::string_view byte, ImmagineDivisa& divisa) {
-  const auto marcatore = TrovaMarcatore(byte);
+void DividiTreSezioni(std::string_view byte, const std::optional<Marcatore>& marcatore,
+                      ImmagineDivisa& divisa) {
   const std::size_t fineTestata = marcatore ? marcatore->InizioRiga : byte.size();
   divisa.Righe[Indice(Sezione::Testata)] = byte.substr(0, fineTestata);
   if (!marcatore) return;
-  LettoreRighe righe(byte.substr(fineTestata));
-  const std::string_view riga = righe.Prossima().value_or("");
-  divisa.Errore = LeggiMarcatore(riga, marcatore->Posto - fineTestata, divisa.Corpo);
+  divisa.Errore = LeggiMarcatore(byte, *marcatore, divisa.Corpo);
   divisa.TestoNonLetto = divisa.Errore.has_value();
-  if (!divisa.Errore) DividiCorpoEPiede(righe, divisa);
+  if (!divisa.Errore) DividiCorpoEPiede(LettoreRighe(byte.substr(marcatore->FineRiga)), divisa);
+}
+
+ImmagineDivisa Dividi(std::string_view byte, Formato formato, const std::optional<Marcatore>& marcatore,
+                      const ImpostazioniCorpo& attuali) {
+  ImmagineDivisa divisa;
+  divisa.Corpo = attuali;
+  if (formato == Formato::TreSezioni) {
+    DividiTreSezioni(byte, marcatore, divisa);
+  } else {
+    divisa.Righe[Indice(Sezione::Testata)] = byte;
+  }
+  return divisa;
 }
 
 /// A section of the three-section layout: an unfinished last line is written with its own line end and one
@@ -116,45 +62,27 @@ std::size_t Dimensione(const TestiSezioni& testi) {
   return dimensione;
 }
 
-std::string RigaMarcatore(const ImpostazioniCorpo& corpo) {
-  std::string riga(InizioMarcatore);
-  riga += std::to_string(corpo.RigheCorpo) + ";" + std::to_string(corpo.LineeCorpo) + ";";
-  riga += corpo.FlagSbarra + corpo.FlagAccorpa;
-  riga += DelimFileChiusura;
-  return riga.append(FineRiga);
-}
-
 }  // namespace
 
 ImpostazioniCorpo ImpostazioniPredefinite() {
   return {.RigheCorpo = 23, .LineeCorpo = 1, .FlagSbarra = "", .FlagAccorpa = ""};
 }
 
-ImmagineDivisa DividiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali) {
-  ImmagineDivisa divisa;
-  divisa.Corpo = attuali;
-  if (formato == Formato::TreSezioni) {
-    DividiTreSezioni(byte, divisa);
-  } else {
-    divisa.Righe[Indice(Sezione::Testata)] = byte;
-  }
-  return divisa;
-}
-
 ImmagineLetta LeggiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali) {
-  const ImmagineDivisa divisa = DividiImmagine(byte, formato, attuali);
+  const auto marcatore = formato == Formato::TreSezioni ? TrovaMarcatore(byte, 0) : std::nullopt;
+  const ImmagineDivisa divisa = Dividi(byte, formato, marcatore, attuali);
   ImmagineLetta letta{divisa, {}};
   for (std::size_t i = 0; i < MaxSezioni; ++i) AggiungiDaFile(divisa.Righe[i], letta.Testi[i]);
   return letta;
 }
 
-ImmagineInPosto::ImmagineInPosto(std::string byte, Formato formato, const ImpostazioniCorpo& attuali)
-    : byte_(std::move(byte)), divisa_(DividiImmagine(byte_, formato, attuali)) {
+ImmagineInPosto::ImmagineInPosto(ByteFile byte, PreparaImmagine prepara, const ImpostazioniCorpo& attuali)
+    : byte_(std::move(byte)) {
+  prepara.Concludi(byte_);
+  divisa_ = Dividi({byte_.data(), byte_.size()}, prepara.Per(), prepara.Trovato(), attuali);
   for (std::size_t i = 0; i < MaxSezioni; ++i) {
     std::string_view& righe = divisa_.Righe[i];
-    if (righe.empty()) continue;
-    const auto inizio = static_cast<std::size_t>(righe.data() - byte_.data());
-    if (RendiSezione(std::span(byte_).subspan(inizio, righe.size()))) continue;
+    if (righe.empty() || (!prepara.CrSoli() && righe.ends_with(FineRiga))) continue;
     AggiungiDaFile(righe, completati_[i]);
     righe = completati_[i];
   }

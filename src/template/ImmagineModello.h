@@ -2,32 +2,18 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "common/ByteFile.h"
 #include "common/Esito.h"
 #include "common/Sezione.h"
+#include "template/Formato.h"
+#include "template/Marcatore.h"
+#include "template/PreparaImmagine.h"
 
 namespace parvik {
-
-/// How a document type lays a template out; the file itself does not say.
-enum class Formato { UnaSezione, TreSezioni };
-
-constexpr Formato FormatoDi(std::int16_t numSezioni) {
-  return HaTreSezioni(numSezioni) ? Formato::TreSezioni : Formato::UnaSezione;
-}
-
-/// The body settings, kept in the marker line of a three-section file.
-struct ImpostazioniCorpo {
-  std::int16_t RigheCorpo = 0;  // rows that the body takes on a page
-  std::int16_t LineeCorpo = 0;  // lines of the Corpo section: one row
-  std::string FlagSbarra;       // "C": rows left over are barred; or ""
-  std::string FlagAccorpa;      // "S": empty rows are merged; or "", or any one byte that a file had there
-
-  bool operator==(const ImpostazioniCorpo&) const = default;
-};
 
 /// What the choice of a three-section document type sets.
 ImpostazioniCorpo ImpostazioniPredefinite();
@@ -55,14 +41,12 @@ struct ImmagineDivisa : EsitoImmagine {
   std::array<std::string_view, MaxSezioni> Righe;
 };
 
-/// Says where in a file's bytes the sections lie, and copies none of them.
-ImmagineDivisa DividiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali);
-
 /// A template file read to be looked at: its sections stay where they are in its bytes, unless line ends have
 /// to be added to them.
 class ImmagineInPosto {
  public:
-  ImmagineInPosto(std::string byte, Formato formato, const ImpostazioniCorpo& attuali);
+  /// Of bytes that `prepara` was shown, or a beginning of them.
+  ImmagineInPosto(ByteFile byte, PreparaImmagine prepara, const ImpostazioniCorpo& attuali);
   ImmagineInPosto(const ImmagineInPosto&) = delete;
   ImmagineInPosto& operator=(const ImmagineInPosto&) = delete;
   ~ImmagineInPosto() = default;
@@ -72,7 +56,7 @@ class ImmagineInPosto {
   const std::array<std::string_view, MaxSezioni>& Testi() const { return divisa_.Righe; }
 
  private:
-  std::string byte_;
+  ByteFile byte_;
   TestiSezioni completati_;
   ImmagineDivisa divisa_;
 };

@@ -48,6 +48,30 @@ TEST(LeggiFile, ReadsALargeFileWhole) {
   EXPECT_EQ(byte, Letto(cartella / "a"));
 }
 
+TEST(LeggiFile, ShowsWhatWasReadAfterEachPieceAndKeepsWhatIsDoneToIt) {
+  const CartellaTemporanea cartella;
+  const std::string byte(3'000'001, 'x');
+  Crea(cartella / "a", byte);
+  std::size_t visti = 0;
+  int volte = 0;
+  const Esito<ByteFile> letto = LeggiFile(cartella / "a", [&](std::span<char> finora) {
+    EXPECT_GT(finora.size(), visti);
+    for (; visti < finora.size(); ++visti) finora[visti] = static_cast<char>(finora[visti] + 1);
+    ++volte;
+  });
+  ASSERT_TRUE(letto);
+  EXPECT_GT(volte, 1);
+  EXPECT_TRUE(std::string_view(letto->data(), letto->size()) == std::string(3'000'001, 'y'));
+}
+
+TEST(LeggiFile, ShowsNothingOfAnEmptyFileAndOfOneThatCannotBeRead) {
+  const CartellaTemporanea cartella;
+  Crea(cartella / "a", "");
+  const auto mai = [](std::span<char> finora) { ADD_FAILURE() << finora.size(); };
+  EXPECT_TRUE(LeggiFile(cartella / "a", mai)->empty());
+  EXPECT_EQ(LeggiFile(cartella / "manca", mai).Errore(), NumeroErrore::FileNonTrovato);
+}
+
 TEST(LeggiFile, ReadsAFileThatHidesItsSize) {
   EXPECT_NE("", Letto("/proc/self/status"));
 }

@@ -5,8 +5,11 @@
 #include <optional>
 #include <string>
 
+#include "common/FileDiProva.h"
 #include "common/LettoreRighe.h"
+#include "common/LetturaFile.h"
 #include "common/NumeroLeniente.h"
+#include "supporto/Cartelle.h"
 #include "template/CopiaRighe.h"
 #include "template/Modelli.h"
 
@@ -70,20 +73,99 @@ TEST(LeggiImmagine, ReadsAnyThreeSectionsAsLineByLine) {
   }));
 }
 
-void ConfrontaInPosto(const std::string& byte, Formato formato) {
+/// As a file arrives: in pieces, each time all that there is so far, in new memory; the last pieces may never
+/// have been shown.
+ImmagineInPosto LettaAPezzi(std::string_view byte, Formato formato, std::size_t pezzo, bool finoInFondo) {
+  PreparaImmagine prepara(formato);
+  ByteFile finora;
+  while (finora.size() < byte.size()) {
+    const std::string_view nuovi = byte.substr(finora.size(), pezzo);
+    ByteFile altrove(finora);
+    altrove.insert(altrove.end(), nuovi.begin(), nuovi.end());
+    finora = std::move(altrove);
+    if (finoInFondo || finora.size() < byte.size()) prepara.Prosegui(finora);
+  }
+  return {std::move(finora), prepara, Precedenti()};
+}
+
+/// In what the two ways to read differ; "" when they do not.
+std::string Differenze(std::string_view byte, Formato formato, std::size_t pezzo, bool finoInFondo) {
   const ImmagineLetta letta = LeggiImmagine(byte, formato, Precedenti());
-  const ImmagineInPosto inPosto(byte, formato, Precedenti());
-  for (std::size_t i = 0; i < MaxSezioni; ++i) RC_ASSERT(inPosto.Testi()[i] == letta.Testi[i]);
-  RC_ASSERT(inPosto.Esito().Corpo == letta.Corpo);
-  RC_ASSERT(inPosto.Esito().Errore == letta.Errore);
-  RC_ASSERT(inPosto.Esito().CorpoIncompleto == letta.CorpoIncompleto);
-  RC_ASSERT(inPosto.Esito().TestoNonLetto == letta.TestoNonLetto);
+  const ImmagineInPosto inPosto = LettaAPezzi(byte, formato, pezzo, finoInFondo);
+  const EsitoImmagine& esito = inPosto.Esito();
+  std::string differenze;
+  for (const Sezione sezione : TutteLeSezioni) {
+    const std::size_t i = Indice(sezione);
+    if (inPosto.Testi()[i] != letta.Testi[i]) differenze.append(NomiSezioni[i]).append(" ");
+  }
+  if (!(esito.Corpo == letta.Corpo)) differenze += "settings ";
+  if (esito.Errore != letta.Errore || esito.CorpoIncompleto != letta.CorpoIncompleto ||
+      esito.TestoNonLetto != letta.TestoNonLetto) {
+    differenze += "errors ";
+  }
+  return differenze;
 }
 
 TEST(ImmagineInPosto, SaysWhatTheReaderSays) {
   EXPECT_TRUE(rc::check("in place", [] {
-    ConfrontaInPosto(*ByteDiFile(), *rc::gen::element(Formato::UnaSezione, Formato::TreSezioni));
+    const Formato formato = *rc::gen::element(Formato::UnaSezione, Formato::TreSezioni);
+    const std::size_t pezzo = *rc::gen::element<std::size_t>(1'000'000, 5'000, 4'096, 1'001);
+    RC_ASSERT(Differenze(*ByteDiFile(), formato, pezzo, *rc::gen::arbitrary<bool>()) == "");
   }));
+}
+
+/// Files of a few bytes, cut everywhere.
+TEST(ImmagineInPosto, SaysWhatTheReaderSaysWhereverTheFileIsCut) {
+  for (const std::string_view byte :
+       std::initializer_list<std::string_view>{"", "\r", "\n", "\r\n", "a", "a\r", "a\r\n", "a\r\nb",
+                                               "a\rb\r\n\xAE"
+                                               "a\xAF\r\n",
+                                               "\xAE"
+                                               "C1;1;\xAF\r\nuna\r\n\xAE"
+                                               "C2;1;\xAF\r\ncorpo\xAE\xAF\r\npiede\r\n",
+                                               "\xAE\r\nx\xAF\xAE"
+                                               "C3;2;\xAE\xAF\r\n\xAE"
+                                               "C4;1;\r\n",
+                                               "t\r\xAF;;\xAE"
+                                               "C\xAE\xAF\xAE\r\n\xAE\xAF",
+                                               "t\r\n\xAE"
+                                               "C70000;1;\r\nresto\xAE\r\n",
+                                               "t\n\r\n\r\n\xAE"
+                                               "C5;1",
+                                               "\xAE"
+                                               "C\r\n\xAE"
+                                               "C",
+                                               "t\r\n\xAE"
+                                               "C2;1;S\xAE\r"}) {
+    for (const Formato formato : {Formato::UnaSezione, Formato::TreSezioni}) {
+      for (std::size_t pezzo = 1; pezzo <= byte.size() + 1; ++pezzo) {
+        EXPECT_EQ(Differenze(byte, formato, pezzo, true), "") << testing::PrintToString(byte) << pezzo;
+        EXPECT_EQ(Differenze(byte, formato, pezzo, false), "") << testing::PrintToString(byte) << pezzo;
+      }
+    }
+  }
+}
+
+TEST(ImmagineInPosto, ReadsAFileWhileItComesAsTheReaderReadsItsBytes) {
+  const CartellaTemporanea cartella;
+  std::string byte = "prima\r\n";
+  while (byte.size() < 1'000'000)
+    byte +=
+        "riga \xAE"
+        "V1;5\xAF\r\n";
+  byte +=
+      "\xAE"
+      "C3;1;\xAF\r\ncorpo\r\n" +
+      byte;
+  Crea(cartella / "a", byte);
+  PreparaImmagine prepara(Formato::TreSezioni);
+  Esito<ByteFile> letto =
+      LeggiFile(cartella / "a", [&](std::span<char> finora) { prepara.Prosegui(finora); });
+  ASSERT_TRUE(letto);
+  const ImmagineInPosto letta(std::move(*letto), prepara, Precedenti());
+  const ImmagineLetta attesa = LeggiTre(byte);
+  for (std::size_t i = 0; i < MaxSezioni; ++i) EXPECT_TRUE(letta.Testi()[i] == attesa.Testi[i]) << i;
+  EXPECT_EQ(letta.Esito().Corpo, attesa.Corpo);
 }
 
 }  // namespace

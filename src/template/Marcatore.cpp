@@ -1,0 +1,88 @@
+#include "template/Marcatore.h"
+
+#include <algorithm>
+
+#include "common/Delimitatori.h"
+#include "common/LettoreRighe.h"
+#include "common/NumeroLeniente.h"
+#include "template/CopiaRighe.h"
+
+namespace parvik {
+namespace {
+
+constexpr std::size_t NonTrovato = std::string_view::npos;
+
+// In two pieces: in one literal the C would belong to the escape.
+constexpr std::string_view InizioMarcatore =
+    "\xAE"
+    "C";
+
+/// The text from byte `da` on; nothing when there is no such byte.
+std::string_view Da(std::string_view testo, std::size_t da) {
+  return testo.substr(std::min(da, testo.size()));
+}
+
+/// Looks for ";" from byte `da` on and gives the position after it, or 0: without a separator, what should
+/// follow it is looked for from the start of the line.
+std::size_t DopoSeparatore(std::string_view riga, std::size_t da) {
+  const std::size_t trovato = riga.find(';', da);
+  return trovato == NonTrovato ? 0 : trovato + 1;
+}
+
+void LeggiInterruttori(std::string_view testo, ImpostazioniCorpo& corpo) {
+  const std::string_view primo = testo.substr(0, 1);
+  const std::string_view secondo = Da(testo, 1).substr(0, 1);
+  if (primo == std::string_view(&DelimFileChiusura, 1)) {
+    corpo.FlagSbarra.clear();
+    corpo.FlagAccorpa.clear();
+    return;
+  }
+  if (primo == "C" || primo == "S") {
+    corpo.FlagSbarra = primo == "C" ? "C" : "";
+    corpo.FlagAccorpa = primo == "S" ? "S" : "";
+  }
+  if (secondo != std::string_view(&DelimFileChiusura, 1)) corpo.FlagAccorpa = secondo;
+}
+
+std::size_t FineRigaDa(std::string_view byte, std::size_t inizio) {
+  LettoreRighe righe(byte.substr(inizio));
+  righe.Prossima();
+  return byte.size() - righe.Resto().size();
+}
+
+}  // namespace
+
+std::optional<Marcatore> TrovaMarcatore(std::string_view byte, std::size_t da) {
+  if (da == 0) da = FineRigaDa(byte, 0);
+  const std::size_t posto = TrovaCoppia(byte, InizioMarcatore, da);
+  if (posto == NonTrovato) return std::nullopt;
+  const std::size_t dopoCr = byte.rfind('\r', posto) + 1;  // another line lies before this one
+  const std::size_t inizio = dopoCr + (byte[dopoCr] == '\n' ? 1 : 0);
+  return Marcatore{.InizioRiga = inizio, .Posto = posto, .FineRiga = FineRigaDa(byte, inizio)};
+}
+
+std::optional<NumeroErrore> LeggiMarcatore(std::string_view byte, const Marcatore& marcatore,
+                                           ImpostazioniCorpo& corpo) {
+  const std::string_view riga =
+      LettoreRighe(byte.substr(0, marcatore.FineRiga).substr(marcatore.InizioRiga)).Prossima().value_or("");
+  const std::size_t inizio = marcatore.Posto - marcatore.InizioRiga;
+  const Esito<std::int16_t> righe = InteroLeniente(Da(riga, inizio + InizioMarcatore.size()));
+  if (!righe) return righe.Errore();
+  corpo.RigheCorpo = *righe;
+  const std::size_t dopoPrimo = DopoSeparatore(riga, inizio);
+  const Esito<std::int16_t> linee = InteroLeniente(Da(riga, dopoPrimo));
+  if (!linee) return linee.Errore();
+  corpo.LineeCorpo = *linee;
+  LeggiInterruttori(Da(riga, DopoSeparatore(riga, dopoPrimo)), corpo);
+  return std::nullopt;
+}
+
+std::string RigaMarcatore(const ImpostazioniCorpo& corpo) {
+  std::string riga(InizioMarcatore);
+  riga += std::to_string(corpo.RigheCorpo) + ";" + std::to_string(corpo.LineeCorpo) + ";";
+  riga += corpo.FlagSbarra + corpo.FlagAccorpa;
+  riga += DelimFileChiusura;
+  return riga.append(FineRiga);
+}
+
+}  // namespace parvik
