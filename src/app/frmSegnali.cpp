@@ -23,9 +23,11 @@ void frmSegnali::SegnaleArrivato() {
 /// Where nobody may be asked nothing is written by itself, and the session ends.
 void frmSegnali::FineSessione(QSessionManager& gestore) {
   if (!gestore.allowsInteraction()) return;
-  const bool chiusa = Chiudi();
-  gestore.release();
-  if (!chiusa) gestore.cancel();
+  if (Chiudi()) {
+    gestore.release();
+  } else {
+    gestore.cancel();
+  }
 }
 
 bool frmSegnali::Chiudi() {
