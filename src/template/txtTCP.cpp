@@ -138,7 +138,6 @@ txtTCP::txtTCP(Sezione sezione, QWidget* padre) : QPlainTextEdit(padre), sezione
   colori_ = new frmColori(document());
   setObjectName(QStringLiteral("txtTCP_%1").arg(Indice(sezione)));
   setAccessibleName(NomiAccessibili[Indice(sezione)]);
-  setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));  // templates are columns
   setLineWrapMode(NoWrap);
   setTabChangesFocus(true);
   colori_->ImpostaTavolozza(palette());
@@ -286,6 +285,8 @@ void txtTCP::CancellaSelezione() {
 bool txtTCP::event(QEvent* evento) {
   // Here and not in keyPressEvent, which never sees the keys that move the focus.
   if (evento->type() == QEvent::KeyPress) emit Modificata();
+  // Not before it can be seen, as no section can when the program starts: loading a font takes time.
+  if (evento->type() == QEvent::Show) setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   return QPlainTextEdit::event(evento);
 }
 

@@ -31,7 +31,8 @@ TEST(TxtTCP, AnAccessibleNameTellsTheSections) {
 }
 
 TEST(TxtTCP, TheFontHasOneWidth) {
-  const txtTCP editor(Sezione::Testata, nullptr);
+  txtTCP editor(Sezione::Testata, nullptr);
+  editor.show();
   EXPECT_EQ(editor.fontMetrics().horizontalAdvance("iiii"), editor.fontMetrics().horizontalAdvance("MMMM"));
 }
 
