@@ -1,31 +1,24 @@
 #include "output/GeneraStampa.h"
 
 #include <algorithm>
-#include <cstring>
 #include <optional>
 #include <string>
 
 #include "common/Delimitatori.h"
 #include "output/BloccoStampa.h"
+#include "output/TrovaByte.h"
 
 namespace parvik {
 namespace {
-
-/// The first `cercato` at or after `da`; the text's size when there is none. `da` lies within the text.
-std::size_t Trova(std::string_view testo, char cercato, std::size_t da) {
-  const void* const trovato = std::memchr(testo.data() + da, cercato, testo.size() - da);
-  return trovato == nullptr ? testo.size()
-                            : static_cast<std::size_t>(static_cast<const char*>(trovato) - testo.data());
-}
 
 /// Finds one byte again and again from growing positions; looks at every byte of the text once.
 class Cercatore {
  public:
   Cercatore(std::string_view testo, char cercato)
-      : testo_(testo), cercato_(cercato), trovato_(Trova(testo, cercato, 0)) {}
+      : testo_(testo), cercato_(cercato), trovato_(TrovaByte(testo, cercato, 0)) {}
   /// The first place at or after `da`; the text's size when there is none. `da` never goes back.
   std::size_t Da(std::size_t da) {
-    if (trovato_ < da) trovato_ = Trova(testo_, cercato_, da);
+    if (trovato_ < da) trovato_ = TrovaByte(testo_, cercato_, da);
     return trovato_;
   }
 
@@ -90,10 +83,10 @@ class Corsa {
   bool UnaVolta() {
     Cercatore fineRiga(testo_, '\r');
     for (std::size_t posto = 0; posto < testo_.size();) {
-      const std::size_t apertura = Trova(testo_, DelimApertura, posto);
+      const std::size_t apertura = TrovaByte(testo_, DelimApertura, posto);
       if (!ScriviRighe(posto, apertura, fineRiga)) return false;
       if (apertura == testo_.size()) break;
-      const std::size_t chiusura = Trova(testo_, DelimChiusura, apertura);
+      const std::size_t chiusura = TrovaByte(testo_, DelimChiusura, apertura);
       Letti(chiusura - apertura);
       if (chiusura == testo_.size()) break;  // swallows the rest, and is no code
       if (!Scrivi(trovaVar_({testo_.data() + apertura + 1, chiusura - apertura - 1}))) return false;
