@@ -3,12 +3,13 @@
 #include <utility>
 
 #include "common/LetturaFile.h"
+#include "common/TestoMostrabile.h"
 
 namespace parvik {
 namespace {
 
 std::string TestoConPosto(NumeroErrore errore, const std::filesystem::path& file, std::size_t riga) {
-  return TestoErrore(errore) + "\r\n" + file.string() + ", riga " + std::to_string(riga);
+  return TestoErrore(errore) + "\r\n" + Mostrabile(file.string()) + ", riga " + std::to_string(riga);
 }
 
 }  // namespace

@@ -7,12 +7,13 @@
 #include <cstdio>
 
 #include "common/Ripeti.h"
+#include "common/TestoMostrabile.h"
 #include "common/Windows1252.h"
 
 namespace parvik::batch {
 
 void Segnala(std::string_view testo) {
-  std::string riga = "parvik32-batch: ";
+  std::string riga;
   for (const char c : testo) {
     if (c == '\r') continue;
     if (c == '\n') {
@@ -21,13 +22,13 @@ void Segnala(std::string_view testo) {
       riga += c;
     }
   }
-  riga += '\n';
+  riga = "parvik32-batch: " + Mostrabile(riga) + '\n';
   // Nobody is left to tell when standard error itself fails.
   static_cast<void>(std::fwrite(riga.data(), 1, riga.size(), stderr));
 }
 
 void Segnala(const std::filesystem::path& file, std::string_view testo) {
-  Segnala(file.string() + ": " + std::string(testo));
+  Segnala(Mostrabile(file.string()) + ": " + std::string(testo));
 }
 
 void Segnala(const std::filesystem::path& file, NumeroErrore errore) {

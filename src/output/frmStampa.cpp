@@ -7,6 +7,7 @@
 #include <QProgressDialog>
 #include <cerrno>
 
+#include "common/TestoMostrabile.h"
 #include "output/ricCarta.h"
 
 namespace parvik {
@@ -29,7 +30,7 @@ Esito<ModuloStampa*, std::string> CaricaModuloStampa(const std::filesystem::path
   // The name of the contract can be read without running what lies there.
   if (libreria.metaData().value("IID").toString() == qobject_interface_iid<ModuloStampa*>())
     modulo = qobject_cast<ModuloStampa*>(libreria.instance());
-  if (modulo == nullptr) return TestoErrore(Motivo(file)) + "\r\n" + file.string();
+  if (modulo == nullptr) return TestoErrore(Motivo(file)) + "\r\n" + Mostrabile(file.string());
   return modulo;
 }
 

@@ -53,6 +53,15 @@ TEST_F(AvvioTest, EndsWithAMessageThatNamesTheErrorTheCatalogueAndItsLine) {
   EXPECT_EQ("Ordavia", messaggio.Titolo);
 }
 
+TEST_F(AvvioTest, ShowsTheNameOfACatalogueThatIsNoText) {
+  const CartellaTemporanea cartella;
+  const auto file = cartella / "caff\xE8\n\x1B.txt";
+  Crea(file, "");
+  EXPECT_EQ("Si è verificato l'errore: 62 Input oltre la fine del file\r\n" +
+                (cartella / "caff\\xE8\\x0A\\x1B.txt").string() + ", riga 1",
+            ErroreDi(file));
+}
+
 TEST_F(AvvioTest, EndsWithoutAFurtherMessageWhenTheCatalogueIsNotFound) {
   interlocutore_.Rispondera(Risposta::No);
   EXPECT_FALSE(Avvia(ambiente_, interlocutore_));

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "common/TestoMostrabile.h"
 #include "docs/Pagine.h"
 #include "supporto/Cartelle.h"
 
@@ -54,6 +55,12 @@ void ControllaSessione(std::string_view nome) {
     ++comandi;
   }
   EXPECT_GT(comandi, 1) << nome;
+}
+
+TEST(BatchPage, TellsHowANameIsShown) {
+  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "shown", 2)) {
+    EXPECT_EQ(Mostrabile(riga.Byte(0)), riga.Byte(1)) << riga.Posto();
+  }
 }
 
 TEST(BatchPage, ShowsHowTheCatalogueIsListed) {
