@@ -10,29 +10,13 @@
 
 #include "app/Versione.h"
 #include "batch/Messaggi.h"
+#include "batch/Parole.h"
+#include "common/TestoMostrabile.h"
 
 namespace parvik::batch {
 namespace {
 
 using Comando = Uscita (*)(const Opzioni&);
-
-/// What the library says of the arguments, in the user's language.
-std::string Spiega(const CLI::ParseError& errore) {
-  std::string detto = errore.what();
-  const auto finoA = [&detto](std::string_view segno) { return detto.substr(0, detto.find(segno)); };
-  if (dynamic_cast<const CLI::RequiredError*>(&errore) != nullptr) {
-    if (detto.starts_with("A subcommand")) return "manca il comando, o non è tra quelli previsti";
-    return "manca " + finoA(" is required");
-  }
-  if (dynamic_cast<const CLI::ExtrasError*>(&errore) != nullptr) {
-    return "argomento non previsto" + detto.substr(std::min(detto.find(':'), detto.size()));
-  }
-  if (dynamic_cast<const CLI::ExcludesError*>(&errore) != nullptr) return "--velkor e --campi si escludono";
-  if (dynamic_cast<const CLI::ValidationError*>(&errore) != nullptr) return detto;  // the checks below
-  if (dynamic_cast<const CLI::ArgumentMismatch*>(&errore) != nullptr)
-    return "manca il valore di " + finoA(":");
-  return "argomenti non validi: " + detto;
-}
 
 // Checks of single values: the text that says what is wrong, or nothing.
 
@@ -48,12 +32,12 @@ std::optional<int> NumeroIntero(std::string_view testo) {
 }
 
 std::string Numero(const std::string& valore) {
-  return NumeroIntero(valore) ? "" : "vuole un numero, non \"" + valore + "\"";
+  return NumeroIntero(valore) ? "" : "vuole un numero, non \"" + Mostrabile(valore) + "\"";
 }
 
 std::string NomeSezione(const std::string& valore) {
   const bool noto = std::ranges::find(NomiSezioni, valore) != NomiSezioni.end();
-  return noto ? "" : "vuole testata, corpo o piede, non \"" + valore + "\"";
+  return noto ? "" : "vuole testata, corpo o piede, non \"" + Mostrabile(valore) + "\"";
 }
 
 /// "3,14,97" as numbers; nullopt when one is none.
@@ -70,7 +54,12 @@ std::optional<std::vector<int>> Numeri(std::string_view elenco) {
 }
 
 std::string ElencoDiNumeri(const std::string& valore) {
-  return Numeri(valore) ? "" : "vuole numeri separati da virgole, non \"" + valore + "\"";
+  return Numeri(valore) ? "" : "vuole numeri separati da virgole, non \"" + Mostrabile(valore) + "\"";
+}
+
+/// A word of the command line in a message.
+std::string Detta(const std::string& parola) {
+  return parola.empty() ? "\"\"" : Mostrabile(parola);
 }
 
 constexpr const char* GruppoOpzioni = "Opzioni";
@@ -95,22 +84,64 @@ class RigaDiComando {
   }
 
   Uscita Esegui(int argc, char** argv) {
+    const Parole parole = Scherma(
+        {argv + 1, argv + argc}, [this](const std::string& nome) { return Genere(nome); },
+        [this](const std::string& nome) { return EComando(nome); });
     try {
-      app_.parse(argc, argv);
+      app_.parse(std::vector<std::string>(parole.Schermate.rbegin(), parole.Schermate.rend()));
     } catch (const CLI::ParseError& errore) {
       if (errore.get_exit_code() == 0) return app_.exit(errore) == 0 ? Uscita::Fatto : Uscita::NonFatto;
-      Segnala(Spiega(errore) + " (--help elenca gli argomenti)");
+      Segnala(Spiega(errore, parole) + " (--help elenca gli argomenti)");
       return Uscita::NonFatto;
     }
     Completa(argv[0]);
     if (comando_ == Normalizza && opzioni_.Uscita && opzioni_.File.size() > 1) {
-      Segnala("-o vuole un file solo: " + opzioni_.Uscita->string());
+      Segnala("-o vuole un file solo: " + Mostrabile(opzioni_.Uscita->string()));
       return Uscita::NonFatto;
     }
     return comando_(opzioni_);
   }
 
  private:
+  bool EComando(const std::string& nome) const {
+    return !app_.get_subcommands([&nome](const CLI::App* app) { return app->check_name(nome); }).empty();
+  }
+
+  GenereOpzione Genere(const std::string& nome) const {
+    std::vector<const CLI::App*> tutte = app_.get_subcommands([](const CLI::App*) { return true; });
+    tutte.push_back(&app_);
+    for (const CLI::App* app : tutte) {
+      const CLI::Option* opzione = app->get_option_no_throw(nome);
+      if (opzione == nullptr) continue;
+      return opzione->get_items_expected_min() > 0 ? GenereOpzione::ConValore : GenereOpzione::SenzaValore;
+    }
+    return GenereOpzione::Sconosciuta;
+  }
+
+  /// What the library says of the arguments, in the user's language.
+  std::string Spiega(const CLI::ParseError& errore, const Parole& parole) const {
+    std::string detto = errore.what();
+    const auto finoA = [&detto](std::string_view segno) { return detto.substr(0, detto.find(segno)); };
+    if (dynamic_cast<const CLI::ValidationError*>(&errore) != nullptr) return detto;  // the checks above
+    if (dynamic_cast<const CLI::ExcludesError*>(&errore) != nullptr) return "--velkor e --campi si escludono";
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&errore) != nullptr) {
+      return parole.Ripetuta ? "opzione ripetuta: " + *parole.Ripetuta : "manca il valore di " + finoA(":");
+    }
+    const bool senzaComando = app_.get_subcommands().empty();
+    if (senzaComando && parole.Comando) return "comando sconosciuto: " + Detta(*parole.Comando);
+    if (const std::string altri = NonPrevisti(); !altri.empty()) return "argomento non previsto:" + altri;
+    if (senzaComando) return "manca il comando";
+    if (dynamic_cast<const CLI::RequiredError*>(&errore) != nullptr) return "manca " + finoA(" is required");
+    return "argomenti non validi: " + Mostrabile(detto);
+  }
+
+  /// The words that nobody wanted, each after a blank.
+  std::string NonPrevisti() const {
+    std::string parole;
+    for (const std::string& parola : app_.remaining(true)) parole += " " + Detta(Svela(parola));
+    return parole;
+  }
+
   static void Traduci(CLI::App& app) {
     app.set_help_flag("-h,--help", "Mostra questo aiuto ed esce")->group(GruppoOpzioni);
     const auto formato = app.get_formatter();
@@ -130,25 +161,36 @@ class RigaDiComando {
     return app;
   }
 
-  static CLI::Option* AggiungiNome(CLI::App& app, const char* opzione, std::string& nome, const char* scopo) {
-    return app.add_option(opzione, nome, scopo)->type_name("FILE")->check(NonVuoto);
+  /// Every option goes through here: its value comes behind a sign.
+  template <class Valore>
+  static CLI::Option* Aggiungi(CLI::App& app, const char* opzione, Valore& valore, const char* scopo) {
+    const auto svela = [](std::string& schermato) {
+      schermato = Svela(schermato);
+      return std::string();
+    };
+    return app.add_option(opzione, valore, scopo)->transform(CLI::Validator(svela, ""));
+  }
+
+  template <class Valore>
+  static CLI::Option* AggiungiNome(CLI::App& app, const char* opzione, Valore& nome, const char* scopo) {
+    return Aggiungi(app, opzione, nome, scopo)->type_name("FILE")->check(NonVuoto);
   }
 
   void AggiungiTipo(CLI::App& app) {
-    app.add_option("--tipo", tipo_, "Numero del tipo di documento, come nel catalogo")
+    Aggiungi(app, "--tipo", tipo_, "Numero del tipo di documento, come nel catalogo")
         ->required()
         ->type_name("N")
         ->check(Numero);
   }
 
   void AggiungiFile(CLI::App& app) {
-    app.add_option("IMG", file_, "Modelli di stampa (*.img)")->required()->type_name("FILE");
+    AggiungiNome(app, "IMG", file_, "Modelli di stampa (*.img)")->required();
   }
 
   void AggiungiCampi() {
     CLI::App& app = AggiungiComando("campi", "Elenca variabili e flag di un tipo di documento", Campi);
     AggiungiTipo(app);
-    app.add_option("--sezione", sezione_, "Solo questa sezione: testata, corpo o piede")
+    Aggiungi(app, "--sezione", sezione_, "Solo questa sezione: testata, corpo o piede")
         ->type_name("S")
         ->check(NomeSezione);
   }
@@ -157,9 +199,7 @@ class RigaDiComando {
     CLI::App& app = AggiungiComando("stampa", "Scrive i modelli come testo, con valori di esempio",
                                     parvik::batch::Stampa);
     AggiungiTipo(app);
-    app.add_option("--veri", veri_, "Flag veri, per numero: 3,14,97")
-        ->type_name("N,N")
-        ->check(ElencoDiNumeri);
+    Aggiungi(app, "--veri", veri_, "Flag veri, per numero: 3,14,97")->type_name("N,N")->check(ElencoDiNumeri);
     AggiungiNome(app, "-o", uscita_, "File da scrivere, invece dell'uscita standard");
     AggiungiFile(app);
   }

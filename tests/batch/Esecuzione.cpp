@@ -41,6 +41,9 @@ class Azioni {
   void Apri(int numero, const char* file) {
     posix_spawn_file_actions_addopen(&azioni_, numero, file, O_RDWR, 0);
   }
+  void Cambia(const std::filesystem::path& cartella) {
+    posix_spawn_file_actions_addchdir_np(&azioni_, cartella.c_str());
+  }
   void Chiudi(int numero) { posix_spawn_file_actions_addclose(&azioni_, numero); }
   const posix_spawn_file_actions_t* Puntatore() const { return &azioni_; }
 
@@ -162,6 +165,7 @@ Esecuzione Esegui(const std::vector<std::string>& argomenti, const Avvio& avvio)
   IndirizzaUscita(avvio.Uscita, uscita, azioni);
   azioni.Indirizza(STDERR_FILENO, errori);
   azioni.Apri(STDIN_FILENO, "/dev/null");
+  if (!avvio.Cartella.empty()) azioni.Cambia(avvio.Cartella);
   Esecuzione esecuzione;
   const pid_t figlio = Lancia(argomenti, avvio, azioni);
   if (figlio < 0) return esecuzione;

@@ -31,6 +31,7 @@ struct Avvio {
   UscitaStandard Uscita = UscitaStandard::Raccolta;
   std::size_t Memoria = 0;          // bytes of address space at most; 0 is no limit
   std::filesystem::path Casa = {};  // what HOME and XDG_CONFIG_HOME name; "" is a place that does not exist
+  std::filesystem::path Cartella = {};  // the working directory; "" is the test's own
 };
 
 /// Whether a run can be given a limit of memory: a program under the address sanitizer cannot.

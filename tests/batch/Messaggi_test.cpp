@@ -1,0 +1,99 @@
+// What the program says of files whose names are no text: one line that a terminal can show.
+#include <gtest/gtest.h>
+
+#include "batch/Esecuzione.h"
+#include "batch/Esempi.h"
+
+namespace parvik::prova {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Nome {
+  const char* Caso;
+  std::string Byte;
+  std::string Mostrato;
+};
+
+void PrintTo(const Nome& nome, std::ostream* uscita) {
+  *uscita << nome.Caso;
+}
+
+class NomeNeiMessaggiTest : public testing::TestWithParam<Nome> {
+ protected:
+  Esecuzione EseguiQui(const std::vector<std::string>& argomenti) const {
+    return Esegui(argomenti, {.Cartella = Cartella.Percorso()});
+  }
+  Esecuzione EseguiCon(std::vector<std::string> argomenti) const {
+    return EseguiQui(Host.Argomenti(argomenti));
+  }
+  static Esecuzione Errore(const std::string& testo) { return {2, "", Detto(testo)}; }
+  static const std::string& Byte() { return GetParam().Byte; }
+  static const std::string& Mostrato() { return GetParam().Mostrato; }
+
+  HostDiProva Host;
+  CartellaTemporanea Cartella;
+};
+
+TEST_P(NomeNeiMessaggiTest, OfATemplateIsShownInOneLine) {
+  const std::string manca = Mostrato() + ": Si è verificato l'errore: 53 Impossibile trovare il file";
+  EXPECT_EQ(EseguiCon({"stampa", "--tipo", "2", Byte()}), Errore(manca));
+  EXPECT_EQ(EseguiCon({"normalizza", "--tipo", "2", Byte()}), Errore(manca));
+  Crea(Cartella / Byte(), "t\r\n" + NelFile("C2;2;") + "\r\nc\r\n");
+  EXPECT_EQ(EseguiCon({"stampa", "--tipo", "1", Byte()}).Errori,
+            Detto(Mostrato() + ": avviso: il file ha meno delle 2 righe di corpo che il marcatore promette"));
+  Crea(Cartella / Byte(), "t\r\n" + NelFile("C99999;1;") + "\r\nc\r\n");
+  EXPECT_EQ(EseguiCon({"stampa", "--tipo", "1", Byte()}).Errori,
+            Detto(Mostrato() + ": avviso: lettura interrotta: Si è verificato l'errore: 6 Overflow"));
+  EXPECT_EQ(EseguiCon({"normalizza", "--tipo", "1", Byte()}),
+            Errore(Mostrato() + ": Si è verificato l'errore: 6 Overflow"));
+}
+
+TEST_P(NomeNeiMessaggiTest, OfAnOutputIsShownInOneLine) {
+  Crea(Cartella / "m.img", "x\r\n");
+  fs::create_directory(Cartella / Byte());
+  const std::string cartella =
+      Mostrato() + ": Si è verificato l'errore: 75 Errore di accesso al percorso/file";
+  EXPECT_EQ(EseguiCon({"stampa", "--tipo", "2", "-o", Byte(), "m.img"}), Errore(cartella));
+  EXPECT_EQ(EseguiCon({"normalizza", "--tipo", "2", "-o", Byte(), "m.img"}), Errore(cartella));
+  EXPECT_EQ(EseguiCon({"normalizza", "--tipo", "2", "-o", Byte(), "m.img", "n.img"}),
+            Errore("-o vuole un file solo: " + Mostrato()));
+}
+
+TEST_P(NomeNeiMessaggiTest, OfACatalogueIsShownInOneLine) {
+  Crea(Cartella / Byte(), "1\r\n");
+  EXPECT_EQ(EseguiQui({"--campi", Byte(), "tipi"}),
+            Errore("Si è verificato l'errore: 5 Chiamata di routine o argomento non validi - " + Mostrato() +
+                   ", riga 1"));
+  Crea(Cartella / Byte(), Contenuto(Host.Catalogo()));
+  EXPECT_EQ(EseguiQui({"--campi", Byte(), "campi", "--tipo", "3"}),
+            Errore(Mostrato() + ": tipo di documento 3 sconosciuto"));
+}
+
+TEST_P(NomeNeiMessaggiTest, AnythingElseOnTheCommandLineIsShownInOneLine) {
+  const std::string aiuto = " (--help elenca gli argomenti)";
+  EXPECT_EQ(EseguiQui({Byte()}), Errore("comando sconosciuto: " + Mostrato() + aiuto));
+  EXPECT_EQ(EseguiQui({"tipi", Byte()}), Errore("argomento non previsto: " + Mostrato() + aiuto));
+  EXPECT_EQ(EseguiQui({"tipi", "--" + Byte()}), Errore("argomento non previsto: --" + Mostrato() + aiuto));
+  EXPECT_EQ(EseguiQui({"campi", "--tipo", Byte()}),
+            Errore("--tipo: vuole un numero, non \"" + Mostrato() + "\"" + aiuto));
+  EXPECT_EQ(EseguiQui({"campi", "--tipo", "1", "--sezione", Byte()}),
+            Errore("--sezione: vuole testata, corpo o piede, non \"" + Mostrato() + "\"" + aiuto));
+  EXPECT_EQ(EseguiQui({"stampa", "--tipo", "1", "--veri", Byte(), "m.img"}),
+            Errore("--veri: vuole numeri separati da virgole, non \"" + Mostrato() + "\"" + aiuto));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Nomi, NomeNeiMessaggiTest,
+    testing::Values(Nome{"plain", "m n.img", "m n.img"}, Nome{"utf8", "caff\xC3\xA8", "caff\xC3\xA8"},
+                    Nome{"windows1252", "caff\xE8", "caff\\xE8"}, Nome{"line_feed", "a\nb", "a\\x0Ab"},
+                    Nome{"line_end", "a\r\nb", "a\\x0D\\x0Ab"}, Nome{"tab", "a\tb", "a\\x09b"},
+                    Nome{"terminal", "\x1B[2J", "\\x1B[2J"}, Nome{"delete", "a\x7F", "a\\x7F"},
+                    Nome{"next_line", "a\xC2\x85", "a\\xC2\\x85"},
+                    Nome{"paragraph", "a\xE2\x80\xA9", "a\\xE2\\x80\\xA9"},
+                    Nome{"cut_short", "\xE2\x82", "\\xE2\\x82"}, Nome{"backslash", "a\\nb", "a\\nb"},
+                    Nome{"brackets", "[x]", "[x]"}),
+    [](const auto& caso) { return std::string(caso.param.Caso); });
+
+}  // namespace
+}  // namespace parvik::prova
