@@ -46,7 +46,7 @@ void Editore::ApplicaTipoDoc() {
 }
 
 void Editore::CaricaFlagStampe() {
-  for (const NumeroErrore errore : flag_.Carica(catalogo_, Tipo())) SegnalaErroreCatalogo(errore);
+  for (const ErroreSezione& errore : flag_.Carica(catalogo_, Tipo())) SegnalaErroreCatalogo(errore.Numero);
   vista_.RicaricaFlagStampe();
 }
 

@@ -1,6 +1,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "batch/Catalogo.h"
 #include "batch/Comandi.h"
@@ -34,6 +35,17 @@ std::string Righe(Sezione sezione, const Tabella<Flag>& flag) {
   return righe;
 }
 
+/// Variables and flags of a section, as far as they could be read.
+std::string Voci(const Catalogo& catalogo, const TipoDoc& tipo, Sezione sezione,
+                 std::vector<ErroreSezione>& errori) {
+  const Tabella<Variabile> variabili = catalogo.LeggiVariabili(tipo, sezione);
+  if (variabili.Errore) errori.push_back({sezione, *variabili.Errore, variabili.RigaErrore});
+  if (AltraVersione(errori)) return {};
+  const Tabella<Flag> flag = catalogo.LeggiFlag(tipo, sezione);
+  if (flag.Errore) errori.push_back({sezione, *flag.Errore, flag.RigaErrore});
+  return Righe(sezione, variabili) + Righe(sezione, flag);
+}
+
 std::span<const Sezione> SezioniDi(const TipoDoc& tipo) {
   return std::span(TutteLeSezioni).first(HaTreSezioni(tipo.NumSezioni) ? MaxSezioni : 1);
 }
@@ -44,20 +56,16 @@ Uscita Campi(const Opzioni& opzioni) {
   const auto catalogo = ApriCatalogo(opzioni);
   const TipoDoc* tipo = catalogo ? TrovaTipo(*catalogo, opzioni.Tipo) : nullptr;
   if (tipo == nullptr) return Uscita::NonFatto;
-  Uscita esito = Uscita::Fatto;
+  std::vector<ErroreSezione> errori;
   std::string uscita;
   for (const Sezione sezione : SezioniDi(*tipo)) {
     if (opzioni.SolaSezione && *opzioni.SolaSezione != sezione) continue;
-    const Tabella<Variabile> variabili = catalogo->Campi.LeggiVariabili(*tipo, sezione);
-    const Tabella<Flag> flag = catalogo->Campi.LeggiFlag(*tipo, sezione);
-    uscita += Righe(sezione, variabili) + Righe(sezione, flag);
-    for (const auto& errore : {variabili.Errore, flag.Errore}) {
-      if (!errore) continue;
-      esito = Uscita::NonFatto;
-      if (SegnalaErroreSezione(*catalogo, *errore)) return esito;
-    }
+    uscita += Voci(catalogo->Campi, *tipo, sezione, errori);
+    if (AltraVersione(errori)) break;
   }
-  return Stampa(uscita) ? esito : Uscita::NonFatto;
+  SegnalaErrori(*catalogo, errori);
+  if (AltraVersione(errori)) return Uscita::NonFatto;
+  return Stampa(uscita) && errori.empty() ? Uscita::Fatto : Uscita::NonFatto;
 }
 
 }  // namespace parvik::batch

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <span>
 
 #include "batch/Comandi.h"
 #include "catalogue/Catalogo.h"
@@ -20,7 +21,11 @@ std::optional<CatalogoScelto> ApriCatalogo(const Opzioni& opzioni);
 /// Any filled slot; nullptr after a message.
 const TipoDoc* TrovaTipo(const CatalogoScelto& catalogo, int numero);
 
-/// Says what is wrong with a section's lines. True when the catalogue is of another version.
-bool SegnalaErroreSezione(const CatalogoScelto& catalogo, NumeroErrore errore);
+/// Says what is wrong with the sections' lines: each line that is wrong once, with all sections that it
+/// belongs to.
+void SegnalaErrori(const CatalogoScelto& catalogo, std::span<const ErroreSezione> errori);
+
+/// Whether one of them tells that the catalogue is of another version.
+bool AltraVersione(std::span<const ErroreSezione> errori);
 
 }  // namespace parvik::batch

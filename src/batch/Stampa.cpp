@@ -1,6 +1,8 @@
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "batch/Catalogo.h"
 #include "batch/Comandi.h"
@@ -21,16 +23,14 @@ enum class FlagCaricati { Tutti, InParte, NonCaricabili };
 
 /// Says what is wrong with the sections that could not be loaded whole.
 FlagCaricati CaricaFlag(const CatalogoScelto& catalogo, const TipoDoc& tipo, FlagPerStampe& flag) {
-  FlagCaricati caricati = FlagCaricati::Tutti;
-  for (const NumeroErrore errore : flag.Carica(catalogo.Campi, tipo)) {
-    if (SegnalaErroreSezione(catalogo, errore)) return FlagCaricati::NonCaricabili;
-    caricati = FlagCaricati::InParte;
-  }
-  return caricati;
+  const std::vector<ErroreSezione> errori = flag.Carica(catalogo.Campi, tipo);
+  SegnalaErrori(catalogo, errori);
+  if (AltraVersione(errori)) return FlagCaricati::NonCaricabili;
+  return errori.empty() ? FlagCaricati::Tutti : FlagCaricati::InParte;
 }
 
 void ImpostaVeri(const std::vector<int>& veri, const std::filesystem::path& catalogo, FlagPerStampe& flag) {
-  for (const int numero : veri) {
+  for (const int numero : std::set<int>(veri.begin(), veri.end())) {
     if (flag.SettaNumero(numero, true)) continue;
     Segnala(catalogo, "avviso: il tipo di documento non ha il flag " + std::to_string(numero) + ": ignorato");
   }

@@ -209,6 +209,16 @@ std::optional<std::size_t> Catalogo::TrovaRiga(std::int16_t numero) const {
   return static_cast<std::size_t>(trovata - righeCorpo_.begin());
 }
 
+/// Counted when it is asked for: only what is wrong needs it.
+std::size_t Catalogo::RigaNelFile(std::size_t rigaCorpo) const {
+  LettoreRighe righe(*contenuto_);
+  const bool esiste = rigaCorpo < righeCorpo_.size();
+  while (const auto riga = righe.Prossima()) {
+    if (esiste && riga->data() + riga->size() > righeCorpo_[rigaCorpo].data()) return righe.Numero();
+  }
+  return righe.Numero() + 1;
+}
+
 template <class Voce>
 Tabella<Voce> Catalogo::CaricaTabella(Intervallo intervallo, Esito<Voce> (*leggi)(std::string_view)) const {
   Tabella<Voce> tabella;
@@ -220,6 +230,7 @@ Tabella<Voce> Catalogo::CaricaTabella(Intervallo intervallo, Esito<Voce> (*leggi
     Esito<Voce> voce = leggi(i < righeCorpo_.size() ? righeCorpo_[i] : std::string_view());
     if (!voce) {
       tabella.Errore = voce.Errore();
+      tabella.RigaErrore = RigaNelFile(i);
       break;
     }
     tabella.Voci.push_back(std::move(*voce));

@@ -12,6 +12,7 @@
 
 #include "catalogue/TipoDoc.h"
 #include "common/Esito.h"
+#include "common/Sezione.h"
 
 namespace parvik {
 
@@ -27,6 +28,17 @@ struct Tabella {
   std::vector<Voce> Voci;
   /// ArgumentoNonValido: the catalogue is of another version. Any other: the loading stopped there.
   std::optional<NumeroErrore> Errore;
+  /// The 1-based line of the file that the error is about; the one after the last where lines are missing.
+  std::size_t RigaErrore = 0;
+};
+
+/// What is wrong with the records of a section.
+struct ErroreSezione {
+  Sezione Dove;
+  NumeroErrore Numero;
+  std::size_t Riga;
+
+  bool operator==(const ErroreSezione&) const = default;
 };
 
 class Catalogo {
@@ -57,6 +69,7 @@ class Catalogo {
   std::optional<ErroreCatalogo> LeggiTestata(class LettoreRighe& righe);
   void LeggiCorpo(class LettoreRighe& righe);
   std::optional<std::size_t> TrovaRiga(std::int16_t numero) const;
+  std::size_t RigaNelFile(std::size_t rigaCorpo) const;
   template <class Voce>
   Tabella<Voce> CaricaTabella(Intervallo intervallo, Esito<Voce> (*leggi)(std::string_view)) const;
 

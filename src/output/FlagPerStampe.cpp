@@ -21,14 +21,14 @@ void FlagPerStampe::Aggiungi(const Flag& flag) {
   righe_.push_back("F" + numero + "  " + descrizione + "   " + SegnoFalso);
 }
 
-std::vector<NumeroErrore> FlagPerStampe::Carica(const Catalogo& catalogo, const TipoDoc& tipo) {
-  std::vector<NumeroErrore> errori;
+std::vector<ErroreSezione> FlagPerStampe::Carica(const Catalogo& catalogo, const TipoDoc& tipo) {
+  std::vector<ErroreSezione> errori;
   Svuota();
   for (const Sezione sezione : TutteLeSezioni) {
     if (static_cast<int>(sezione) >= tipo.NumSezioni) break;
     const Tabella<Flag> tabella = catalogo.LeggiFlag(tipo, sezione);
     for (const Flag& flag : tabella.Voci) Aggiungi(flag);
-    if (tabella.Errore) errori.push_back(*tabella.Errore);
+    if (tabella.Errore) errori.push_back({sezione, *tabella.Errore, tabella.RigaErrore});
     if (tabella.Errore == NumeroErrore::ArgomentoNonValido) return errori;
   }
   for (const Flag& condizione : CondPagina()) Aggiungi(condizione);

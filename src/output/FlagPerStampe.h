@@ -18,7 +18,7 @@ class FlagPerStampe {
   /// The rows of the type's sections and of the page conditions, all false. A section whose lines could not
   /// all be read has the rows that were read before the error. The errors, in the order of the sections, as
   /// the catalogue gives them; after one that tells another version nothing more is loaded.
-  std::vector<NumeroErrore> Carica(const Catalogo& catalogo, const TipoDoc& tipo);
+  std::vector<ErroreSezione> Carica(const Catalogo& catalogo, const TipoDoc& tipo);
 
   void Svuota() { righe_.clear(); }
 

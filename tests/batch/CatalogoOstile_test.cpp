@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 constexpr std::size_t MB = 1024UL * 1024UL;
 /// Under the address sanitizer the same takes ten times as long.
 const std::size_t RigaLunga = MemoriaLimitabile() ? 64 * MB : 4 * MB;
-constexpr std::string_view Versione =
+const std::string Versione =
     "Questa versione di Parvik a 32 bit è disallineata con quella del file CAMPI.TXT. - Impossibile "
     "continuare!";
 
@@ -92,7 +92,8 @@ TEST_F(CatalogoOstile, ANumberOfAThousandDigitsIsBeyond16Bits) {
   EXPECT_EQ(Con(Tipo("0;" + Mille('1')), {"tipi"}), Errore("6 Overflow", 1));
   EXPECT_EQ(
       Con(Tipo("1;2") + "1,\"a;1;1;;1;0;0;0;0;0;0\r\n2,\"b;" + Mille('7') + ";1;;1;0;0;0;0;0;0\r\n", Campi),
-      (Esecuzione{2, "testata\tV\t1\t«V1;1L»\ta\n", Detto(File, "Si è verificato l'errore: 6 Overflow")}));
+      (Esecuzione{2, "testata\tV\t1\t«V1;1L»\ta\n",
+                  Detto(File, "testata, riga 4: Si è verificato l'errore: 6 Overflow")}));
 }
 
 TEST_F(CatalogoOstile, AThousandZerosInFrontOfANumberChangeNothing) {
@@ -112,7 +113,7 @@ TEST_F(CatalogoOstile, ARangeThatNoLineBeginsHasNoEntries) {
 
 TEST_F(CatalogoOstile, ARangePastTheEndIsOfAnotherVersion) {
   EXPECT_EQ(Con(Tipo("1;32767") + "1,\"a;1;1;;1;0;0;0;0;0;0\r\n", Campi),
-            (Esecuzione{2, "", Detto(File, Versione)}));
+            (Esecuzione{2, "", Detto(File, "testata, riga 4: " + Versione)}));
 }
 
 TEST_F(CatalogoOstile, ARangeOf32767LinesHas32767Entries) {

@@ -64,9 +64,7 @@ TEST(CatalogoScelto, IsTheFileNamedWithCampi) {
 TEST(CatalogoScelto, IsNamedInTheMessageWhenTheHostHasNone) {
   const CartellaTemporanea host;
   EXPECT_EQ(Esegui({"--velkor", host.Percorso().string(), "tipi"}),
-            (Esecuzione{2, "",
-                        Detto("Si è verificato l'errore: 53 Impossibile trovare il file - " +
-                              (host / "D_IMG" / "CAMPI.TXT").string() + ", riga 1")}));
+            (Esecuzione{2, "", Detto(host / "D_IMG" / "CAMPI.TXT", "catalogo non trovato")}));
 }
 
 TEST(CatalogoScelto, MayBeNeitherAFolderNorAbsent) {
@@ -76,9 +74,13 @@ TEST(CatalogoScelto, MayBeNeitherAFolderNorAbsent) {
                         Detto("Si è verificato l'errore: 75 Errore di accesso al percorso/file - " +
                               host.Percorso().string() + ", riga 1")}));
   EXPECT_EQ(Esegui({"--campi", (host / "manca").string(), "tipi"}),
-            (Esecuzione{2, "",
-                        Detto("Si è verificato l'errore: 53 Impossibile trovare il file - " +
-                              (host / "manca").string() + ", riga 1")}));
+            (Esecuzione{2, "", Detto(host / "manca", "catalogo non trovato")}));
+  Crea(host / "file", "");
+  EXPECT_EQ(Esegui({"--campi", (host / "file" / "campi.txt").string(), "tipi"}),
+            (Esecuzione{2, "", Detto(host / "file" / "campi.txt", "catalogo non trovato")}));
+  std::filesystem::create_symlink("nulla", host / "legame");
+  EXPECT_EQ(Esegui({"--campi", (host / "legame").string(), "tipi"}),
+            (Esecuzione{2, "", Detto(host / "legame", "catalogo non trovato")}));
 }
 
 struct Caso {

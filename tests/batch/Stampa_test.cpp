@@ -53,6 +53,14 @@ TEST_F(StampaTest, WarnsOfANumberThatNoFlagHasAndGoesOn) {
                         Detto(Host.Catalogo(), "avviso: il tipo di documento non ha il flag 77: ignorato")}));
 }
 
+TEST_F(StampaTest, WarnsOfEachNumberOnce) {
+  const std::string avviso = "avviso: il tipo di documento non ha il flag ";
+  EXPECT_EQ(Stampa({"--veri", "77,5,1,77", Modello("m.img", "a\r\n")}),
+            (Esecuzione{0, "a\r\n",
+                        Detto(Host.Catalogo(), avviso + "5: ignorato") +
+                            Detto(Host.Catalogo(), avviso + "77: ignorato")}));
+}
+
 TEST_F(StampaTest, WarnsOfAFlagOfAnotherType) {
   const std::string m = Modello("m.img", "a\r\n");
   EXPECT_EQ(Stampa({"--veri", "14", m}, "2"),
@@ -142,7 +150,7 @@ TEST_F(StampaTest, DoesNotChangeTheTemplate) {
   EXPECT_EQ(Contenuto(m), byte);
 }
 
-constexpr std::string_view AltraVersione =
+const std::string AltraVersione =
     "Questa versione di Parvik a 32 bit è disallineata con quella del file CAMPI.TXT. - Impossibile "
     "continuare!";
 
@@ -157,7 +165,7 @@ Esecuzione StampaConCatalogo(const CartellaTemporanea& cartella, const std::stri
 TEST(Stampa, RefusesAFlagLineOfAnotherVersion) {
   const CartellaTemporanea cartella;
   EXPECT_EQ(StampaConCatalogo(cartella, "0003,\"a;1;N\r\n0004,\"b\r\n"),
-            (Esecuzione{2, "", Detto(cartella / "campi.txt", AltraVersione)}));
+            (Esecuzione{2, "", Detto(cartella / "campi.txt", "testata, riga 4: " + AltraVersione)}));
 }
 
 TEST(Stampa, DoesNotMindVariablesOfAnotherVersion) {
@@ -168,8 +176,10 @@ TEST(Stampa, DoesNotMindVariablesOfAnotherVersion) {
 
 TEST(Stampa, RendersWithTheFlagsReadBeforeANumberBeyond16Bits) {
   const CartellaTemporanea cartella;
-  EXPECT_EQ(StampaConCatalogo(cartella, "0003,\"a;1;N\r\n0004,\"b;40000;N\r\n"),
-            (Esecuzione{2, "a\r\n", Detto(cartella / "campi.txt", "Si è verificato l'errore: 6 Overflow")}));
+  EXPECT_EQ(
+      StampaConCatalogo(cartella, "0003,\"a;1;N\r\n0004,\"b;40000;N\r\n"),
+      (Esecuzione{2, "a\r\n",
+                  Detto(cartella / "campi.txt", "testata, riga 4: Si è verificato l'errore: 6 Overflow")}));
 }
 
 }  // namespace

@@ -127,7 +127,8 @@ TEST(FlagPerStampe, TellThatTheCatalogueIsOfAnotherVersion) {
       "documenti\r\n0001,\"a;11;N\r\n0002,b;12;N\r\n0003,\"c;13;N\r\n");
   ASSERT_TRUE(catalogo);
   FlagPerStampe flag;
-  EXPECT_THAT(flag.Carica(*catalogo, catalogo->TipiDoc()[0]), ElementsAre(NumeroErrore::ArgomentoNonValido));
+  EXPECT_THAT(flag.Carica(*catalogo, catalogo->TipiDoc()[0]),
+              ElementsAre(ErroreSezione{Sezione::Testata, NumeroErrore::ArgomentoNonValido, 4}));
 }
 
 TEST(FlagPerStampe, GoOnInTheNextSectionAfterANumberBeyond16Bits) {
@@ -137,7 +138,8 @@ TEST(FlagPerStampe, GoOnInTheNextSectionAfterANumberBeyond16Bits) {
   ASSERT_TRUE(catalogo);
   FlagPerStampe flag;
   EXPECT_THAT(flag.Carica(*catalogo, catalogo->TipiDoc()[0]),
-              ElementsAre(NumeroErrore::Overflow, NumeroErrore::Overflow));
+              ElementsAre(ErroreSezione{Sezione::Testata, NumeroErrore::Overflow, 4},
+                          ErroreSezione{Sezione::Piede, NumeroErrore::Overflow, 7}));
   EXPECT_THAT(flag.Righe(),
               ElementsAre("F11  a                                                              F",
                           "F21  c                                                              F",
