@@ -16,6 +16,7 @@ per_riga() {
 # section, key, file
 { printf 'AMBIENTE\036Dir velkor\036'; cat "$esempio/VELKOR.INI"; } > profilo/esempio
 printf 'A\036b\036\357\273\277; nota\r\n [ a ] x\r\n B = "c:\\velkor" \r\nb='\''d'\''\n' > profilo/apici
+printf 'A\036b\036\377\376[\0A\0]\0\n\0b\0=\0\254\040\251\003' > profilo/utf16
 
 # A catalogue for each document type: its line, and the first lines of each of its ranges.
 awk -F'[,;"]' '

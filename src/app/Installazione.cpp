@@ -94,7 +94,7 @@ fs::path TrovaDirVelkor(const Ambiente& ambiente) {
   fs::path genitore = ConSeparatore(ambiente.DirProgramma.parent_path());
   if (EsisteFile(TrovaSenzaCaso(genitore, FileProfilo))) return genitore;
   const std::string valore = DirDalProfilo(ambiente);
-  return valore.empty() ? fs::path() : ConSeparatore(valore);
+  return valore.empty() ? fs::path() : ConSeparatore(PercorsoDellHost(valore));
 }
 
 std::optional<Installazione> VerificaCampiTXT(const Ambiente& ambiente, Interlocutore& interlocutore) {

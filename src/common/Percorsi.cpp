@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <system_error>
 
+#include "common/Windows1252.h"
+
 namespace parvik {
 namespace {
 
@@ -39,6 +41,15 @@ std::filesystem::path TrovaSenzaCaso(const std::filesystem::path& cartella, std:
     }
   }
   return migliore.empty() ? esatto : cartella / migliore;
+}
+
+std::filesystem::path PercorsoDellHost(std::string_view valore) {
+  std::string byte(valore);
+  std::ranges::replace(byte, '\\', '/');
+  std::error_code errore;
+  if (std::filesystem::exists(byte, errore)) return byte;
+  std::filesystem::path utf8 = Utf8DaAnsi(byte);
+  return std::filesystem::exists(utf8, errore) ? utf8 : std::filesystem::path(byte);
 }
 
 std::filesystem::path ConEstensione(std::filesystem::path percorso, std::string_view estensione) {

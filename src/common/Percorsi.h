@@ -12,6 +12,10 @@ namespace parvik {
 /// come from shares that do not tell the cases apart. `cartella`/`nome` again when there is none.
 std::filesystem::path TrovaSenzaCaso(const std::filesystem::path& cartella, std::string_view nome);
 
+/// The folder that a value of the host means: a backslash is "/". The host writes Windows-1252; where the
+/// very bytes name nothing that exists, but the same text in UTF-8 does, it is that.
+std::filesystem::path PercorsoDellHost(std::string_view valore);
+
 /// Equality without regard to the case of the letters A to Z; no locale.
 bool UgualiSenzaCaso(std::string_view a, std::string_view b);
 

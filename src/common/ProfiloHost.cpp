@@ -4,16 +4,18 @@
 #include <optional>
 
 #include "common/Percorsi.h"
+#include "common/Windows1252.h"
 
 namespace parvik {
 namespace {
 
 constexpr std::size_t MaxValore =
     199;  // the host's reader fills 200 bytes, the last one being the terminator
-constexpr std::string_view SegnoOrdineByte = "\xEF\xBB\xBF";
+constexpr std::string_view SegnoUtf8 = "\xEF\xBB\xBF";
+constexpr std::string_view SegnoUtf16 = "\xFF\xFE";
 
 std::string_view SenzaBianchi(std::string_view testo) {
-  constexpr std::string_view Bianchi = " \t";
+  constexpr std::string_view Bianchi = " \t\v\f";
   const std::size_t inizio = testo.find_first_not_of(Bianchi);
   if (inizio == std::string_view::npos) return {};
   return testo.substr(inizio, testo.find_last_not_of(Bianchi) - inizio + 1);
@@ -27,10 +29,11 @@ std::string_view TogliRiga(std::string_view& resto) {
   return riga;
 }
 
-/// The name in a line "[name]"; nullopt for any other line. Text after the bracket does not matter.
+/// The name in a line "[name]", which ends at the last bracket; nullopt for any other line. Text after it
+/// does not matter.
 std::optional<std::string_view> NomeSezione(std::string_view riga) {
   if (!riga.starts_with('[')) return std::nullopt;
-  const std::size_t chiusa = riga.find(']');
+  const std::size_t chiusa = riga.rfind(']');
   if (chiusa == std::string_view::npos) return std::nullopt;
   return SenzaBianchi(riga.substr(1, chiusa - 1));
 }
@@ -46,13 +49,12 @@ std::optional<std::string_view> ValoreDi(std::string_view riga, std::string_view
   const std::size_t uguale = riga.find('=');
   if (riga.starts_with(';') || uguale == std::string_view::npos) return std::nullopt;
   if (!UgualiSenzaCaso(SenzaBianchi(riga.substr(0, uguale)), chiave)) return std::nullopt;
-  return SenzaApici(SenzaBianchi(riga.substr(uguale + 1)));
+  const std::string_view valore = riga.substr(uguale + 1);
+  // The reader hands on a text that ends with a NUL.
+  return SenzaApici(SenzaBianchi(valore.substr(0, valore.find('\0'))));
 }
 
-}  // namespace
-
-std::string LeggiProfilo(std::string_view contenuto, std::string_view sezione, std::string_view chiave) {
-  if (contenuto.starts_with(SegnoOrdineByte)) contenuto.remove_prefix(SegnoOrdineByte.size());
+std::string LeggiAnsi(std::string_view contenuto, std::string_view sezione, std::string_view chiave) {
   bool nellaSezione = false;
   while (!contenuto.empty()) {
     const std::string_view riga = SenzaBianchi(TogliRiga(contenuto));
@@ -64,6 +66,16 @@ std::string LeggiProfilo(std::string_view contenuto, std::string_view sezione, s
     }
   }
   return {};
+}
+
+}  // namespace
+
+std::string LeggiProfilo(std::string_view contenuto, std::string_view sezione, std::string_view chiave) {
+  if (contenuto.starts_with(SegnoUtf16)) {
+    return LeggiAnsi(AnsiDaUtf16(contenuto.substr(SegnoUtf16.size())), sezione, chiave);
+  }
+  if (contenuto.starts_with(SegnoUtf8)) contenuto.remove_prefix(SegnoUtf8.size());
+  return LeggiAnsi(contenuto, sezione, chiave);
 }
 
 }  // namespace parvik

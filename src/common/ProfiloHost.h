@@ -7,8 +7,9 @@
 
 namespace parvik {
 
-/// The value of `chiave` in `sezione`, at most 199 bytes of it; empty when section or key is not there.
-/// `contenuto` is the whole file; the names are compared without regard to the case of A to Z.
+/// The value of `chiave` in `sezione`, at most 199 characters of it; empty when section or key is not there.
+/// Bytes as they are in the file, of UTF-16 those of Windows-1252. `contenuto` is the whole file; the names
+/// are compared without regard to the case of A to Z.
 std::string LeggiProfilo(std::string_view contenuto, std::string_view sezione, std::string_view chiave);
 
 }  // namespace parvik

@@ -1,5 +1,7 @@
 #include "common/Windows1252.h"
 
+#include <algorithm>
+
 namespace parvik {
 namespace {
 
@@ -38,6 +40,27 @@ void Aggiungi(std::string& utf8, char16_t valore) {
 }  // namespace
 
 constexpr std::array<char16_t, 256> UnicodeDiAnsi = CostruisciTabella();
+
+namespace {
+
+char AnsiDa(char16_t unita) {
+  if (unita < UnicodeDiAnsi.size() && UnicodeDiAnsi[unita] == unita) return static_cast<char>(unita);
+  const auto trovata = std::ranges::find(SecondaMeta, unita);
+  return trovata == SecondaMeta.end() ? '?' : static_cast<char>(0x80 + (trovata - SecondaMeta.begin()));
+}
+
+}  // namespace
+
+std::string AnsiDaUtf16(std::string_view byte) {
+  std::string ansi;
+  ansi.reserve(byte.size() / 2);
+  for (std::size_t i = 0; i + 1 < byte.size(); i += 2) {
+    const unsigned int basso = static_cast<unsigned char>(byte[i]);
+    const unsigned int alto = static_cast<unsigned char>(byte[i + 1]);
+    ansi.push_back(AnsiDa(static_cast<char16_t>(basso | (alto << 8U))));
+  }
+  return ansi;
+}
 
 std::string Utf8DaAnsi(std::string_view byte) {
   std::string utf8;

@@ -67,6 +67,33 @@ TEST_F(InstallazioneTest, CutsALongValueTo199Bytes) {
   EXPECT_EQ(lungo.substr(0, 199) + "/", TrovaDirVelkor(ambiente_).string());
 }
 
+TEST_F(InstallazioneTest, IsTheFolderWhoseUtf8NameTheWindows1252ValueMeans) {
+  fs::create_directories(dir_ / "Citt\xC3\xA0 \xE2\x82\xAC" / "velkor");
+  Profilo("conf1", (dir_ / "Citt\xE0 \x80/velkor").string());
+  EXPECT_EQ((dir_ / "Citt\xC3\xA0 \xE2\x82\xAC/velkor/").string(), TrovaDirVelkor(ambiente_).string());
+}
+
+TEST_F(InstallazioneTest, IsTheFolderWithTheVeryBytesOfTheValueWhenThatIsThere) {
+  fs::create_directories(dir_ / "Citt\xC3\xA0");
+  fs::create_directories(dir_ / "Citt\xE0");
+  Profilo("conf1", (dir_ / "Citt\xE0").string());
+  EXPECT_EQ((dir_ / "Citt\xE0/").string(), TrovaDirVelkor(ambiente_).string());
+  Profilo("conf1", (dir_ / "Citt\xC3\xA0").string());
+  EXPECT_EQ((dir_ / "Citt\xC3\xA0/").string(), TrovaDirVelkor(ambiente_).string());
+}
+
+TEST_F(InstallazioneTest, TakesABackslashOfTheValueForASlash) {
+  fs::create_directories(dir_ / "a" / "Citt\xC3\xA0");
+  Profilo("conf1", dir_.Percorso().string() + "\\a/Citt\xE0\\");
+  EXPECT_EQ((dir_ / "a/Citt\xC3\xA0/").string(), TrovaDirVelkor(ambiente_).string());
+  Profilo("conf1", "\\\\server\\dati");
+  EXPECT_EQ("//server/dati/", TrovaDirVelkor(ambiente_).string());
+  Profilo("conf1", "D:\\VELKOR\\");
+  EXPECT_EQ("D:/VELKOR/", TrovaDirVelkor(ambiente_).string());
+  Profilo("conf1", "D:\\VELKOR");
+  EXPECT_EQ("D:/VELKOR/", TrovaDirVelkor(ambiente_).string());
+}
+
 TEST_F(InstallazioneTest, ReadsTheFirstConfigurationFileThatExistsAndNoOther) {
   Profilo("conf2", "/due", "velkor.ini");
   EXPECT_EQ("/due/", TrovaDirVelkor(ambiente_).string());

@@ -39,6 +39,20 @@ TEST(CatalogoScelto, IsThatOfTheProfileInTheUsersConfiguration) {
       UnTipo);
 }
 
+TEST(CatalogoScelto, IsThatOfAProfileAsTheHostsPlatformWritesIt) {
+  const CartellaTemporanea cartella;
+  Crea(cartella / "citt\xC3\xA0" / "host" / "d_img" / "campi.txt", TipoBuono + "//fine documenti\r\n");
+  const std::string profilo =
+      "[AMBIENTE]\r\nDir velkor=" + cartella.Percorso().string() + "\\citt\xE0\\host\\\r\n";
+  std::string utf16 = "\xFF\xFE";
+  for (const char c : profilo) utf16.append(1, c).append(1, '\0');
+  const fs::path programma = ProgrammaIn(cartella / "altrove" / "P");
+  for (const std::string& contenuto : {profilo, utf16}) {
+    Crea(cartella / "casa" / "VELKOR.INI", contenuto);
+    EXPECT_EQ(Esegui({"tipi"}, {.Programma = programma, .Casa = cartella / "casa"}), UnTipo);
+  }
+}
+
 TEST(CatalogoScelto, CannotBeFoundWithoutAProfile) {
   const CartellaTemporanea cartella;
   const Esecuzione esecuzione = Esegui({"tipi"}, {.Programma = ProgrammaIn(cartella / "altrove" / "P")});

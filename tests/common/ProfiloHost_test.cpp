@@ -9,6 +9,8 @@
 namespace parvik::prova {
 namespace {
 
+using namespace std::string_literals;
+
 std::string Dir(std::string_view contenuto) {
   return LeggiProfilo(contenuto, "AMBIENTE", "Dir velkor");
 }
@@ -18,6 +20,13 @@ struct Caso {
   std::string Contenuto;
   std::string Atteso;
 };
+
+/// The bytes of a UTF-16 file with its mark; every byte of `ansi` is one character below 256.
+std::string Utf16(std::string_view ansi) {
+  std::string byte = "\xFF\xFE";
+  for (const char c : ansi) byte.append(1, c).append(1, '\0');
+  return byte;
+}
 
 class ProfiloHostTest : public testing::TestWithParam<Caso> {};
 
@@ -65,6 +74,28 @@ INSTANTIATE_TEST_SUITE_P(Casi, ProfiloHostTest, testing::Values(
     Caso{"longer_key", "[AMBIENTE]\r\nDir velkor 2=/no\r\n", ""},
     Caso{"byte_order_mark", "\xEF\xBB\xBF[AMBIENTE]\r\nDir velkor=/srv\r\n", "/srv"},
     Caso{"empty_lines", "\r\n\r\n[AMBIENTE]\r\n\r\nDir velkor=/srv\r\n", "/srv"},
+    Caso{"two_closing_brackets", "[AMBIENTE]]\r\nDir velkor=/no\r\n", ""},
+    Caso{"two_closing_brackets_end_the_section_before", "[AMBIENTE]\r\n[X]]\r\nDir velkor=/no\r\n", ""},
+    Caso{"a_bracket_in_the_text_after_it", "[AMBIENTE] [host]\r\nDir velkor=/no\r\n", ""},
+    Caso{"nul_ends_the_value", "[AMBIENTE]\r\nDir velkor=/srv\0/no\r\n"s, "/srv"},
+    Caso{"nul_ends_the_value_before_its_quote", "[AMBIENTE]\r\nDir velkor=\"/srv\0\"\r\n"s, "\"/srv"},
+    Caso{"nul_after_quotes", "[AMBIENTE]\r\nDir velkor=\"/srv\" \0x\r\n"s, "/srv"},
+    Caso{"nothing_but_nul", "[AMBIENTE]\r\nDir velkor=\0/no\r\nDir velkor=/no\r\n"s, ""},
+    Caso{"vertical_tab_and_form_feed_are_blanks",
+         "\f[\vAMBIENTE\f]\r\n\v Dir velkor\f=\v\f/srv\t\v\r\n", "/srv"},
+    Caso{"vertical_tab_and_form_feed_inside_the_value_stay", "[AMBIENTE]\r\nDir velkor=/a\v\fb\r\n", "/a\v\fb"},
+    Caso{"utf16", Utf16("[AMBIENTE]\r\nDir velkor=/srv\r\n"), "/srv"},
+    Caso{"utf16_without_line_end", Utf16("[AMBIENTE]\nDir velkor=/Citt\xE0"), "/Citt\xE0"},
+    Caso{"utf16_half_a_character_at_the_end", Utf16("[AMBIENTE]\nDir velkor=/srv") + "x", "/srv"},
+    Caso{"utf16_with_what_the_code_page_has_elsewhere",
+         Utf16("[AMBIENTE]\nDir velkor=/") + "\xAC\x20\x19\x20" + "\x81\0"s, "/\x80\x92\x81"},
+    Caso{"utf16_with_what_the_code_page_lacks",
+         Utf16("[AMBIENTE]\nDir velkor=/") + "\x92\0\xA9\x03\x3D\xD8\x00\xDE"s, "/????"},
+    Caso{"utf16_with_bytes_of_line_ends_and_signs_in_its_characters",
+         Utf16("[AMBIENTE]\nDir velkor=/a") + "\x0D\x0A\x3D\x5D\x0A\x22" + "b\0"s, "/a???b"},
+    Caso{"utf16_nul", Utf16("[AMBIENTE]\nDir velkor=/srv\0/no"s), "/srv"},
+    Caso{"utf16_mark_alone", "\xFF\xFE", ""},
+    Caso{"utf16_without_its_mark", Utf16("[AMBIENTE]\nDir velkor=/no").substr(2), ""},
     Caso{"bytes_are_kept", "[AMBIENTE]\r\nDir velkor=/srv/\xE0\x80\xFF\r\n", "/srv/\xE0\x80\xFF"}),
     [](const auto& caso) { return std::string(caso.param.Nome); });
 // clang-format on
@@ -74,6 +105,13 @@ TEST(LeggiProfilo, GivesAValueOf199BytesWholeAndCutsALongerOne) {
   EXPECT_EQ(std::string(199, 'x'), Dir(prima + std::string(199, 'x') + "\r\n"));
   EXPECT_EQ(std::string(199, 'x'), Dir(prima + std::string(200, 'x') + "\r\n"));
   EXPECT_EQ(std::string(199, 'x'), Dir(prima + "\"" + std::string(300, 'x') + "\"\r\n"));
+}
+
+TEST(LeggiProfilo, CutsAValueOfUtf16By199CharactersToo) {
+  const std::string euro = "\xAC\x20";
+  std::string molti;
+  for (int i = 0; i < 250; ++i) molti += euro;
+  EXPECT_EQ(std::string(199, '\x80'), Dir(Utf16("[AMBIENTE]\nDir velkor=") + molti));
 }
 
 TEST(LeggiProfilo, ReadsTheExampleInstallationsFile) {
