@@ -1,12 +1,13 @@
 #!/bin/sh
-# Installs what is missing, builds, and starts the editor on the example installation. Run it again at any time.
+# Installs what building and running need, builds, and starts the editor on the example installation. Run it again at
+# any time.
 set -eu
 cd "$(dirname "$0")"
 
-./packaging/install-packages.sh
+./packaging/install-packages.sh run-packages.txt
 echo "Building the release programs ..."
-cmake --preset release
-cmake --build --preset release-programs
+cmake --preset programs
+cmake --build --preset programs
 
 programs=build/release/velkor/PARVIK
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then

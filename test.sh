@@ -3,7 +3,7 @@
 set -eu
 cd "$(dirname "$0")"
 
-./packaging/install-packages.sh
+./packaging/install-packages.sh run-packages.txt test-packages.txt
 echo "Checking the style of the sources ..."
 ./packaging/check-style.sh
 echo "Building the programs and their tests ..."
