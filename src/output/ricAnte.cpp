@@ -120,7 +120,7 @@ void ricAnte::Rivela(std::size_t byte) {
 void ricAnte::Rimisura() {
   rapporto_ = viewport()->devicePixelRatioF();
   risoluzione_ = viewport()->logicalDpiY();
-  celle_.emplace(font(), viewport());
+  celle_ = Celle::SuSchermo(font(), *viewport());
   MisuraLarghezza();
 }
 

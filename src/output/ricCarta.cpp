@@ -11,17 +11,17 @@ namespace {
 
 constexpr double ScalaMinima = 0.5;  // of text that is still read
 
-/// Lengths are the painter's: dots of the printer, made smaller where the text is too wide for the page.
+/// Lengths are twips, made smaller where the text is too wide for the page.
 class Carta {
  public:
   Carta(QPagedPaintDevice& foglio, QPainter& pittore, const TestoAnteprima& testo)
       : foglio_(foglio),
         pittore_(pittore),
         testo_(testo),
-        celle_(CarattereAnteprima(), &foglio),
-        pagina_(QSizeF(foglio.width(), foglio.height())) {
+        celle_(Celle::SuCarta(CarattereAnteprima())),
+        pagina_(QSizeF(foglio.width(), foglio.height()) / UnitaPerTwip()) {
     const double scala = Scala();
-    pittore_.scale(scala, scala);
+    pittore_.scale(scala * UnitaPerTwip(), scala * UnitaPerTwip());
     pagina_ /= scala;
   }
 
@@ -42,6 +42,10 @@ class Carta {
   }
 
  private:
+  double UnitaPerTwip() const {
+    return foglio_.logicalDpiY() / double{TwipPerPollice};
+  }  // dots of the printer
+
   /// What makes the widest line fit, or nothing when it would be too small to be read.
   double Scala() const {
     PerAspetto<double> larghezze = {};

@@ -1,6 +1,6 @@
 #include "output/ricCelle.h"
 
-#include <QFontMetricsF>
+#include <QGlyphRun>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -12,18 +12,8 @@
 namespace parvik {
 namespace {
 
-constexpr double Tolleranza = 0.01;  // in parts of a cell: sums of advances are rounded
-
-QFont ConAspetto(QFont carattere, const Aspetto& aspetto) {
-  carattere.setWeight(aspetto.Grassetto ? QFont::Bold : QFont::Normal);
-  carattere.setItalic(aspetto.Italico);
-  carattere.setUnderline(aspetto.Sottolineato);
-  carattere.setPointSizeF(Punti(aspetto.Corpo));
-  // No ligatures: a cell holds one character.
-  carattere.setStyleStrategy(
-      static_cast<QFont::StyleStrategy>(carattere.styleStrategy() | QFont::PreferNoShaping));
-  return carattere;
-}
+constexpr double Tolleranza = 0.01;      // in parts of a cell: advances are rounded
+constexpr int PixelPerMisurare = 2'048;  // of a character that is measured as it was designed
 
 }  // namespace
 
@@ -35,15 +25,47 @@ QFont CarattereAnteprima() {
   return carattere;
 }
 
-Celle::Celle(const QFont& base, const QPaintDevice* dispositivo) : base_(base), dispositivo_(dispositivo) {}
+Celle::Celle(const QFont& base, const QPaintDevice* schermo) : base_(base), schermo_(schermo) {}
+
+QFont Celle::ConAspetto(const Aspetto& aspetto) const {
+  QFont carattere = base_;
+  carattere.setWeight(aspetto.Grassetto ? QFont::Bold : QFont::Normal);
+  carattere.setItalic(aspetto.Italico);
+  // No ligatures: a cell holds one character.
+  carattere.setStyleStrategy(
+      static_cast<QFont::StyleStrategy>(carattere.styleStrategy() | QFont::PreferNoShaping));
+  if (schermo_ != nullptr) {
+    carattere.setPointSizeF(Punti(aspetto.Corpo));
+    return {carattere, schermo_};
+  }
+  carattere.setPixelSize(static_cast<int>(std::lround(Punti(aspetto.Corpo) * TwipPerPunto)));
+  carattere.setHintingPreference(QFont::PreferNoHinting);
+  return carattere;
+}
+
+QFontMetricsF Celle::Misure(const QFont& carattere) const {
+  return schermo_ != nullptr ? QFontMetricsF(carattere, schermo_) : QFontMetricsF(carattere);
+}
+
+/// The width of a cell: of a character of the normal or the compressed size without emphasis.
+qreal Celle::Passo(CorpoCarattere corpo) const {
+  const bool compresso = corpo == CorpoCarattere::Compresso;
+  QFont carattere = ConAspetto({.Corpo = compresso ? corpo : CorpoCarattere::Normale});
+  if (schermo_ != nullptr) return Misure(carattere).horizontalAdvance(u'M');
+  const int corpoInTwip = carattere.pixelSize();
+  carattere.setPixelSize(PixelPerMisurare);  // at its own size it would be rounded
+  return Misure(carattere).horizontalAdvance(u'M') * corpoInTwip / PixelPerMisurare;
+}
 
 Celle::Faccia& Celle::FacciaDi(const Aspetto& aspetto) const {
   std::optional<Faccia>& faccia = facce_[IndiceDi(aspetto)];
   if (!faccia) {
-    const QFont carattere(ConAspetto(base_, aspetto), dispositivo_);
-    const QFontMetricsF misure(carattere, dispositivo_);
+    const QFont carattere = ConAspetto(aspetto);
+    const QFontMetricsF misure = Misure(carattere);
     faccia = Faccia{.Carattere = carattere,
-                    .Avanzamento = misure.horizontalAdvance(u'M'),
+                    .Segni = QRawFont::fromFont(carattere),
+                    .Avanzamento = Passo(aspetto.Corpo),
+                    .Propria = misure.horizontalAdvance(u'M'),
                     .Ascesa = std::ceil(misure.ascent()),
                     .Discesa = std::ceil(misure.descent()),
                     .Larghezze = {}};
@@ -67,16 +89,18 @@ qreal Celle::Discesa(const Aspetto& aspetto) const {
   return FacciaDi(aspetto).Discesa;
 }
 
-/// Most characters are as wide as a cell and are drawn together. A stand-in may come from another font, with
-/// an underline at another height.
+/// Most characters are as wide as the font's others and are drawn together. A stand-in may come from another
+/// font, with an underline at another height.
 bool Celle::StaNellaCella(Faccia& faccia, char byte, QChar segno) const {
   const auto numero = static_cast<unsigned char>(byte);
   Larghezza& larghezza = faccia.Larghezze[numero];
   if (larghezza == Larghezza::Ignota) {
-    const qreal misura = QFontMetricsF(faccia.Carattere, dispositivo_).horizontalAdvance(segno);
-    const bool uguale = std::abs(misura - faccia.Avanzamento) <= Tolleranza * faccia.Avanzamento;
-    const bool sostituto = segno != QChar(UnicodeDiAnsi[numero]);
-    larghezza = uguale && !sostituto ? Larghezza::Cella : Larghezza::Propria;
+    const qreal misura = Misure(faccia.Carattere).horizontalAdvance(segno);
+    const qreal ammessa = Tolleranza * faccia.Avanzamento;
+    const bool uguale = std::abs(misura - faccia.Propria) <= ammessa;
+    const bool ciSta = misura <= faccia.Avanzamento + ammessa;
+    const bool sostituto = segno != QChar(UnicodeDiAnsi[numero]) || !faccia.Segni.supportsCharacter(segno);
+    larghezza = uguale && ciSta && !sostituto ? Larghezza::Cella : Larghezza::Propria;
   }
   return larghezza == Larghezza::Cella;
 }
@@ -90,23 +114,46 @@ void Celle::Disegna(QPainter& pittore, QPointF base, std::string_view byte, cons
     if (segno == QChar::SoftHyphen) segno = u'-';  // it would not be drawn
     if (StaNellaCella(faccia, byte[i], segno)) continue;
     stretti.emplace_back(i, segno);
-    segno = u' ';  // keeps an underline whole
+    segno = u' ';
   }
-  pittore.setFont(faccia.Carattere);
-  pittore.drawText(base, insieme);
+  DisegnaNelleCelle(pittore, base, insieme, faccia);
+  if (aspetto.Sottolineato) Sottolinea(pittore, base, byte.size(), faccia);
   for (const auto& [i, segno] : stretti) {
     DisegnaStretto(pittore, base + QPointF(static_cast<qreal>(i) * faccia.Avanzamento, 0), segno, faccia);
   }
 }
 
+/// Each at the left edge of its cell: widths of characters, which fonts round, are not added up.
+void Celle::DisegnaNelleCelle(QPainter& pittore, QPointF base, const QString& segni, const Faccia& faccia) {
+  const QList<quint32> glifi = faccia.Segni.glyphIndexesForString(segni);
+  QList<QPointF> posti;
+  posti.reserve(glifi.size());
+  for (qsizetype i = 0; i < glifi.size(); ++i)
+    posti.emplace_back(static_cast<qreal>(i) * faccia.Avanzamento, 0);
+  QGlyphRun fila;
+  fila.setRawFont(faccia.Segni);
+  fila.setGlyphIndexes(glifi);
+  fila.setPositions(posti);
+  pittore.drawGlyphRun(base, fila);
+}
+
+/// One line under all of them, whatever fonts they come from.
+void Celle::Sottolinea(QPainter& pittore, QPointF base, std::size_t celle, const Faccia& faccia) const {
+  const QFontMetricsF misure = Misure(faccia.Carattere);
+  const qreal y = base.y() + std::ceil(misure.underlinePos());
+  const qreal destra = base.x() + static_cast<qreal>(celle) * faccia.Avanzamento;
+  pittore.save();
+  pittore.setPen(QPen(pittore.pen().color(), misure.lineWidth(), Qt::SolidLine, Qt::FlatCap));
+  pittore.drawLine(QPointF(std::floor(base.x()), y), QPointF(std::floor(destra), y));
+  pittore.restore();
+}
+
 /// A character in the middle of its cell, made narrower when it does not fit.
 void Celle::DisegnaStretto(QPainter& pittore, QPointF base, QChar segno, const Faccia& faccia) const {
-  const qreal larghezza = QFontMetricsF(faccia.Carattere, dispositivo_).horizontalAdvance(segno);
+  const qreal larghezza = Misure(faccia.Carattere).horizontalAdvance(segno);
   const qreal scala = larghezza > faccia.Avanzamento ? faccia.Avanzamento / larghezza : 1;
-  QFont carattere = faccia.Carattere;
-  carattere.setUnderline(false);  // its cell is underlined already
   pittore.save();
-  pittore.setFont(carattere);
+  pittore.setFont(faccia.Carattere);
   pittore.translate(base.x() + (faccia.Avanzamento - larghezza * scala) / 2, base.y());
   pittore.scale(scala, 1);
   pittore.drawText(QPointF(), segno);

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPainter>
 #include <QPointF>
+#include <QRawFont>
 #include <QString>
 #include <array>
 #include <cstddef>
@@ -18,15 +20,24 @@ namespace parvik {
 /// The preview's family of fonts, in its design size.
 QFont CarattereAnteprima();
 
-/// Lengths are in the painter's units on the device: logical pixels of a widget, dots of a printer. Every
-/// character takes one cell of its look. Looks and characters are measured when first asked for.
+inline constexpr int TwipPerPunto = 20;
+inline constexpr int TwipPerPollice = 1440;
+
+/// Every character takes one cell of its look, and stands at its left edge. The pane's own size and the
+/// normal one have one width of cells: text in columns stays in them whatever its looks. Looks and characters
+/// are measured when first asked for.
 class Celle {
  public:
-  /// Of `base` only the size and the emphasis are replaced. The device is looked at while this object lives;
-  /// make a new one when its resolution or its pixel ratio has changed.
-  Celle(const QFont& base, const QPaintDevice* dispositivo);
+  // Of `base` only the size and the emphasis are replaced.
 
-  /// The font of a look, made for the device.
+  /// Lengths are logical pixels. The screen is looked at while this object lives; make a new one when its
+  /// resolution or its pixel ratio has changed.
+  static Celle SuSchermo(const QFont& base, const QPaintDevice& schermo) { return {base, &schermo}; }
+  /// Lengths are twips, whatever the printer's resolution: in them every size of the preview is a whole
+  /// number. Nothing is rounded, so compressed cells are eight tenths of the others.
+  static Celle SuCarta(const QFont& base) { return {base, nullptr}; }
+
+  /// The font of a look, made for screen or paper. Lines under text are drawn apart.
   const QFont& Carattere(const Aspetto& aspetto) const;
   qreal Avanzamento(const Aspetto& aspetto) const;  // the width of a cell
   qreal Ascesa(const Aspetto& aspetto) const;       // from the top of a cell to the baseline
@@ -34,25 +45,33 @@ class Celle {
   qreal Altezza(const Aspetto& aspetto) const { return Ascesa(aspetto) + Discesa(aspetto); }
 
   /// Draws `byte` (Windows-1252, no line ends in it) from the baseline point on, in the painter's pen.
-  /// Leaves the look's font in the painter.
   void Disegna(QPainter& pittore, QPointF base, std::string_view byte, const Aspetto& aspetto) const;
 
  private:
   enum class Larghezza : unsigned char { Ignota, Cella, Propria };
   struct Faccia {
     QFont Carattere;
-    qreal Avanzamento;
+    QRawFont Segni;
+    qreal Avanzamento;  // of a cell
+    qreal Propria;      // of the font's characters
     qreal Ascesa;
     qreal Discesa;
     std::array<Larghezza, 256> Larghezze;  // by byte
   };
 
+  Celle(const QFont& base, const QPaintDevice* schermo);
+
   Faccia& FacciaDi(const Aspetto& aspetto) const;
+  QFont ConAspetto(const Aspetto& aspetto) const;
+  QFontMetricsF Misure(const QFont& carattere) const;
+  qreal Passo(CorpoCarattere corpo) const;
   bool StaNellaCella(Faccia& faccia, char byte, QChar segno) const;
+  static void DisegnaNelleCelle(QPainter& pittore, QPointF base, const QString& segni, const Faccia& faccia);
+  void Sottolinea(QPainter& pittore, QPointF base, std::size_t celle, const Faccia& faccia) const;
   void DisegnaStretto(QPainter& pittore, QPointF base, QChar segno, const Faccia& faccia) const;
 
   QFont base_;
-  const QPaintDevice* dispositivo_;
+  const QPaintDevice* schermo_;  // none: paper
   mutable PerAspetto<std::optional<Faccia>> facce_;
 };
 

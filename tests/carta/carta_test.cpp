@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "CartaStampata.h"
+#include "ColonneStampate.h"
 #include "Finestra.h"
 #include "common/frmTesto.h"
 #include "output/ricAnte.h"
@@ -93,6 +94,7 @@ TEST(Carta, AnExampleTemplateComesOutLineByLineAsThePreviewShowsIt) {
   EXPECT_EQ(carta.Copie(), "1");
   ASSERT_TRUE(Mostrate(finestra).contains("--- Fine file ---"));
   EXPECT_EQ(Scritte(RigheDi(carta)), Scritte(Mostrate(finestra)));
+  EXPECT_GT(prova::ConfrontaColonne(carta, finestra.Anteprima().Contenuto()), 100U) << "frames are whole";
 }
 
 TEST(Carta, WordsStandInTheColumnsAndLinesOfThePreview) {
@@ -120,14 +122,15 @@ TEST(Carta, LooksHaveTheirFontsAndSizes) {
   const CartaStampata carta = CartaStampata::Prossima();
   EXPECT_THAT(carta.Caratteri(),
               ElementsAre("LiberationMono", "LiberationMono-Bold", "LiberationMono-Italic"));
-  const auto cella = [&carta](const QString& testo) {
+  EXPECT_EQ(prova::ConfrontaColonne(carta, finestra.Anteprima().Contenuto()), 9U);
+  const auto altezza = [&carta](const QString& testo) {
     const Parola parola = Trovata(carta, testo);
-    return (parola.Destra - parola.X) / static_cast<double>(testo.size());
+    return parola.Fondo - parola.Y;
   };
-  EXPECT_NEAR(cella("normale"), 6.0, 0.03);
-  EXPECT_NEAR(cella("grassetto"), 5.85, 0.03) << "no style has set a size yet: the pane's own, 9.75";
-  EXPECT_NEAR(cella("corsivo"), 5.85, 0.03);
-  EXPECT_NEAR(cella("compresso"), 4.8, 0.03);
+  EXPECT_NEAR(altezza("grassetto"), 0.975 * altezza("normale"), 0.01)
+      << "no style has set a size yet: the pane's own, 9.75";
+  EXPECT_NEAR(altezza("corsivo"), 0.975 * altezza("normale"), 0.01);
+  EXPECT_NEAR(altezza("compresso"), 0.8 * altezza("normale"), 0.01);
 }
 
 TEST(Carta, OnlyTheUnderlinedWordHasALineUnderIt) {

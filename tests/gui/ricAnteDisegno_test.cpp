@@ -35,7 +35,8 @@ int PixelDi(const QImage& immagine, QRect dove, const QColor& colore) {
   return quanti;
 }
 
-constexpr unsigned int Schermata = 100'000;  // more than a screenful of this size ever takes
+/// More than a screenful of this size ever takes: a recording keeps the outline of each character.
+constexpr unsigned int Schermata = 1'000'000;
 
 TEST(RicAnteDisegno, AMillionLinesTakeNoMoreThanAFewToPaint) {
   const auto conRighe = [](std::size_t righe) {

@@ -2,34 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <QBuffer>
-#include <QPdfWriter>
 #include <vector>
 
 #include "PannelloDiProva.h"
+#include "StampanteDiProva.h"
 
 namespace parvik {
 namespace {
 
 using prova::DiProva;
-
-/// A printer whose paper is a PDF file in memory.
-class StampanteDiProva final : public Stampante {
- public:
-  StampanteDiProva() { file_.open(QIODevice::WriteOnly); }
-
-  void Intitola(const QString& nomeLavoro) override { foglio_.setTitle(nomeLavoro); }
-  QPagedPaintDevice& Foglio() override { return foglio_; }
-  void Ritira() override { ++Ritirata; }
-
-  qsizetype Pagine() const { return file_.data().count("/Type /Page\n"); }
-
-  int Ritirata = 0;
-
- private:
-  QBuffer file_;
-  QPdfWriter foglio_{&file_};
-};
+using prova::StampanteDiProva;
 
 std::string Righe(int quante) {
   std::string testo;

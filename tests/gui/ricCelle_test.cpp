@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QBuffer>
 #include <QImage>
-#include <QPdfWriter>
 
 #include "PannelloDiProva.h"
 #include "common/frmTesto.h"
@@ -21,7 +19,7 @@ constexpr Aspetto Sottolineato{.Sottolineato = true};
 class CelleTest : public testing::Test {
  protected:
   QImage foglio_{400, 60, QImage::Format_RGB32};
-  Celle celle_{CarattereAnteprima(), &foglio_};
+  Celle celle_ = Celle::SuSchermo(CarattereAnteprima(), foglio_);
 
   QImage Disegnato(std::string_view byte, const Aspetto& aspetto) {
     QImage foglio = foglio_;
@@ -48,10 +46,8 @@ TEST_F(CelleTest, EachLookHasItsFont) {
   const QFont carattere = celle_.Carattere({.Grassetto = true, .Corpo = CorpoCarattere::Compresso});
   EXPECT_TRUE(carattere.bold());
   EXPECT_FALSE(carattere.italic());
-  EXPECT_FALSE(carattere.underline());
   EXPECT_EQ(carattere.pointSizeF(), 8);
   EXPECT_TRUE(celle_.Carattere({.Italico = true}).italic());
-  EXPECT_TRUE(celle_.Carattere(Sottolineato).underline());
   EXPECT_EQ(celle_.Carattere({}).pointSizeF(), 9.75);
   EXPECT_EQ(celle_.Carattere(Normale).pointSizeF(), 10);
 }
@@ -62,14 +58,28 @@ TEST_F(CelleTest, SmallerCharactersHaveSmallerCells) {
   EXPECT_EQ(celle_.Altezza(Normale), celle_.Ascesa(Normale) + celle_.Discesa(Normale));
 }
 
-TEST_F(CelleTest, OnAPrinterCellsGrowWithItsResolution) {
-  QBuffer file;
-  file.open(QIODevice::WriteOnly);
-  QPdfWriter stampante(&file);
-  stampante.setResolution(foglio_.logicalDpiX() * 10);
-  const Celle celle(CarattereAnteprima(), &stampante);
-  EXPECT_NEAR(celle.Avanzamento({}), celle_.Avanzamento({}) * 10, 5);
-  EXPECT_NEAR(celle.Altezza({}), celle_.Altezza({}) * 10, 15);
+TEST_F(CelleTest, OnAnyScreenThePanesOwnSizeAndTheNormalOneHaveOneWidth) {
+  constexpr double PolliciPerMetro = 1 / 0.0254;
+  for (const int puntiPerPollice : {96, 120, 144, 192}) {
+    foglio_.setDotsPerMeterX(qRound(puntiPerPollice * PolliciPerMetro));
+    foglio_.setDotsPerMeterY(qRound(puntiPerPollice * PolliciPerMetro));
+    const Celle celle = Celle::SuSchermo(CarattereAnteprima(), foglio_);
+    for (const bool grassetto : {false, true}) {
+      EXPECT_EQ(celle.Avanzamento({.Grassetto = grassetto}), celle.Avanzamento(Normale)) << puntiPerPollice;
+    }
+  }
+}
+
+TEST_F(CelleTest, OnPaperSizesAreExactAndCellsAreThoseOfTenPointsOrEightTenthsOfThem) {
+  const Celle celle = Celle::SuCarta(CarattereAnteprima());
+  const qreal cella = celle.Avanzamento(Normale);
+  EXPECT_NEAR(cella, 6 * TwipPerPunto, 0.05);
+  for (std::size_t i = 0; i < NumAspetti; ++i) {
+    const Aspetto aspetto = AspettoDiIndice(i);
+    const bool compresso = aspetto.Corpo == CorpoCarattere::Compresso;
+    EXPECT_NEAR(celle.Avanzamento(aspetto), compresso ? 0.8 * cella : cella, 1e-9) << i;
+    EXPECT_EQ(celle.Carattere(aspetto).pixelSize(), Punti(aspetto.Corpo) * TwipPerPunto) << i;
+  }
 }
 
 TEST_F(CelleTest, ManyCharactersAreAsWideAsTheirCells) {
