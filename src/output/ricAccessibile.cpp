@@ -205,12 +205,12 @@ QString ricAccessibile::attributes(int posizione, int* inizio, int* fine) const 
     *fine = Posizione(tratti.front().Inizio + tratti.front().Lunghezza);
   }
   const Aspetto aspetto = Testo().AspettoDi(byte);
-  return QStringLiteral(
-             "font-family:\"%1\";font-size:%2pt;font-weight:%3;font-style:%4;text-underline-style:%5;")
+  return QStringLiteral("font-family:\"%1\";font-size:%2pt;font-weight:%3;font-style:%4;%5")
       .arg(QFontInfo(Pannello().font()).family())
       .arg(Punti(aspetto.Corpo))
       .arg(aspetto.Grassetto ? "bold" : "normal", aspetto.Italico ? "italic" : "normal",
-           aspetto.Sottolineato ? "solid" : "none");
+           // Screen readers are told the type; the style alone says how a line would look.
+           aspetto.Sottolineato ? "text-underline-style:solid;text-underline-type:single;" : "");
 }
 
 }  // namespace parvik

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QTextEdit>
 
 #include "PannelloDiProva.h"
 
@@ -127,6 +128,40 @@ TEST_F(RicAccessibile, TellsTheLookOfEachRun) {
   const QString dopo = Testo().attributes(12, &inizio, &fine);
   EXPECT_EQ(std::pair(inizio, fine), std::pair(11, 20));
   EXPECT_TRUE(dopo.contains("font-size:9.75pt;font-weight:bold;font-style:normal;")) << dopo.toStdString();
+}
+
+/// What a text field of the toolkit's own tells of a character of that format.
+QString DelToolkit(const QTextCharFormat& formato) {
+  QTextEdit campo;
+  campo.textCursor().insertText("a", formato);
+  int inizio = 0;
+  int fine = 0;
+  return QAccessible::queryAccessibleInterface(&campo)->textInterface()->attributes(0, &inizio, &fine);
+}
+
+TEST_F(RicAccessibile, TellsALineUnderTextAsTheToolkitsOwnTextFieldsDo) {
+  pannello_->Mostra(DiProva("aS;SObS;NOc"));
+  const auto sottolineato = [](const QString& attributi) {
+    QStringList trovati;
+    for (const QString& attributo : attributi.split(';')) {
+      if (attributo.startsWith("text-underline")) trovati += attributo;
+    }
+    trovati.sort();
+    return trovati;
+  };
+  QTextCharFormat formato;
+  formato.setFontUnderline(true);
+  const QStringList attesi = sottolineato(DelToolkit(formato));
+  EXPECT_EQ(attesi.size(), 2) << attesi.join(' ').toStdString();
+  int inizio = 0;
+  int fine = 0;
+  EXPECT_EQ(sottolineato(Testo().attributes(1, &inizio, &fine)), attesi);
+  EXPECT_EQ(std::pair(inizio, fine), std::pair(1, 2));
+  for (const int posizione : {0, 2}) {
+    EXPECT_EQ(sottolineato(Testo().attributes(posizione, &inizio, &fine)),
+              sottolineato(DelToolkit(QTextCharFormat())))
+        << posizione;
+  }
 }
 
 TEST_F(RicAccessibile, PositionsInAHugeTextCostNoWalkThroughIt) {
