@@ -1,9 +1,13 @@
 // The print module: the toolkit's printers. A library of its own, of which nothing else is linked anywhere.
+#include <QChildEvent>
+#include <QCoreApplication>
+#include <QGroupBox>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 
 #include "output/frmStampante.h"
+#include "output/frmTestiStampa.h"
 
 namespace parvik {
 namespace {
@@ -18,6 +22,30 @@ class StampanteDiSistema final : public Stampante {
   QPrinter stampante_{QPrinter::HighResolution};
 };
 
+/// The toolkit's dialog without a choice of pages, which its options do not take out where a print server
+/// could make it, and without words of the print server's.
+class DialogoStampa final : public QPrintDialog {
+ public:
+  DialogoStampa(QPrinter& stampante, QWidget* padre) : QPrintDialog(&stampante, padre) {
+    setOptions(PrintShowPageSize | PrintCollateCopies);
+  }
+
+  void setVisible(bool visibile) override {
+    QPrintDialog::setVisible(visibile);  // which shows it
+    if (auto* pagine = findChild<QWidget*>("gbPrintRange")) pagine->hide();
+  }
+
+ protected:
+  /// The printer's properties are about to be shown. What a driver puts in no group stands in one named so.
+  void childEvent(QChildEvent* evento) override {
+    QPrintDialog::childEvent(evento);
+    if (!evento->polished()) return;
+    for (QGroupBox* gruppo : evento->child()->findChildren<QGroupBox*>()) {
+      if (gruppo->title() == "General") gruppo->setTitle("Generale");
+    }
+  }
+};
+
 }  // namespace
 
 class frmModuloStampa final : public QObject, public ModuloStampa {
@@ -26,15 +54,30 @@ class frmModuloStampa final : public QObject, public ModuloStampa {
   Q_INTERFACES(parvik::ModuloStampa)
 
  public:
+  /// Without a word to the windows that are open: their language stays, and buttons whose texts were set
+  /// would get the toolkit's back.
+  frmModuloStampa() {
+    QCoreApplication::instance()->installEventFilter(this);
+    QCoreApplication::installTranslator(&testi_);
+    QCoreApplication::instance()->removeEventFilter(this);
+  }
+
   std::unique_ptr<Stampante> ChiediStampante(QWidget* padre) override {
     // Without a printer the toolkit would print into a file.
     if (QPrinterInfo::availablePrinterNames().isEmpty()) return nullptr;
     auto stampante = std::make_unique<StampanteDiSistema>();
-    QPrintDialog dialogo(&stampante->Foglio(), padre);
-    dialogo.setOptions(QAbstractPrintDialog::PrintShowPageSize | QAbstractPrintDialog::PrintCollateCopies);
+    DialogoStampa dialogo(stampante->Foglio(), padre);
     if (dialogo.exec() != QDialog::Accepted) return nullptr;
     return stampante;
   }
+
+ protected:
+  bool eventFilter(QObject* /*oggetto*/, QEvent* evento) override {
+    return evento->type() == QEvent::LanguageChange;
+  }
+
+ private:
+  frmTestiStampa testi_;
 };
 
 }  // namespace parvik
