@@ -20,9 +20,9 @@ found=$(grep -lP '\r| +$' docs/*.md || true)
 [ -z "$found" ] || complain "carriage return or trailing blank in: $found"
 
 # Windows are the files named frm*, those named after their control, and main.
-core=$(echo "$files" | grep '^src/' | grep -vE '/(frm|txt|ric)[A-Z][A-Za-z]*\.(h|cpp)$|^src/app/main\.cpp$')
+core=$(echo "$files" | grep '^src/' | grep -vE '/(frm|txt|lbl|ric)[A-Z][A-Za-z]*\.(h|cpp)$|^src/app/main\.cpp$')
 # shellcheck disable=SC2086
-found=$(grep -lE '#include [<"](Q[A-Z]|frm|ui_|[a-z]+/(frm|txt|ric)[A-Z])' $core || true)
+found=$(grep -lE '#include [<"](Q[A-Z]|frm|ui_|[a-z]+/(frm|txt|lbl|ric)[A-Z])' $core || true)
 [ -z "$found" ] || complain "Qt or a window included in the core: $found"
 
 exit $failed

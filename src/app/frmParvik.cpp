@@ -74,10 +74,9 @@ void frmParvik::CreaControlli() {
     CreaEtichetta(sezione);
     CreaSezione(sezione);
   }
-  lblRighe_ = new QLabel(area_);
-  lblRighe_->setObjectName("lblRighe");
   anteprima_ = new ricAnte(area_);
-  connect(anteprima_, &ricAnte::CursoreMosso, this, &frmParvik::AggiornaRigaColonna);
+  lblRighe_ = new lblRighe(*anteprima_, area_);
+  lblRighe_->stackUnder(anteprima_);  // it is read first
   CreaDivisore();
 }
 
@@ -219,11 +218,6 @@ void frmParvik::RicaricaFlagStampe() {
 void frmParvik::AttivaSezione(Sezione sezione) {
   editore_.AttivaSezione(sezione);
   ColoraLabel(sezione);
-}
-
-void frmParvik::AggiornaRigaColonna() {
-  const auto [riga, colonna] = anteprima_->RigaColonna();
-  lblRighe_->setText(QStringLiteral("Riga: %1 Col.: %2").arg(riga).arg(colonna));
 }
 
 void frmParvik::AggiornaMenu() {

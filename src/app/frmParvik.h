@@ -16,6 +16,7 @@
 #include "app/frmMaschere.h"
 #include "output/frmSettaFlag.h"
 #include "output/frmTotRighe.h"
+#include "output/lblRighe.h"
 #include "output/ricAnte.h"
 #include "template/txtTCP.h"
 
@@ -66,12 +67,11 @@ class frmParvik final : public QMainWindow, private Vista {
   void MostraFlagStampe();
   void MostraTotali();
   void AttivaSezione(Sezione sezione);
-  void AggiornaRigaColonna();
 
   QWidget* area_ = nullptr;
   std::array<txtTCP*, MaxSezioni> sezioni_ = {};
   std::array<QLabel*, MaxSezioni> etichette_ = {};
-  QLabel* lblRighe_ = nullptr;
+  lblRighe* lblRighe_ = nullptr;
   ricAnte* anteprima_ = nullptr;
   std::optional<int> divisore_;  // in twips; where the user has dragged the boundary since the last resize
   bool inAttesa_ = false;        // a command waits for its work: the window stays

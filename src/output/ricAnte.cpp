@@ -46,6 +46,7 @@ void ricAnte::Mostra(Anteprima anteprima) {
   horizontalScrollBar()->setValue(0);
   MisuraLarghezza();
   ricAccessibile::AnnunciaTesto(*this, *prima);
+  emit Mostrata();
 }
 
 void ricAnte::Completa(Anteprima anteprima) {
@@ -55,6 +56,7 @@ void ricAnte::Completa(Anteprima anteprima) {
   ancora_ = Aggancia(*testo_, ancora_);
   MisuraLarghezza();
   ricAccessibile::AnnunciaAggiunta(*this, prima->Testo().size());
+  emit Mostrata();
 }
 
 Selezione ricAnte::Selezionato() const {

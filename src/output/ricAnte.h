@@ -83,6 +83,8 @@ class ricAnte final : public QAbstractScrollArea {
  signals:
   /// The pane was clicked, or an arrow key was released in it.
   void CursoreMosso();
+  /// The content is another one, or longer.
+  void Mostrata();
 
  protected:
   bool event(QEvent* evento) override;

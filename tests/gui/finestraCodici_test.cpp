@@ -107,6 +107,34 @@ TEST(FinestraStato, ArrowKeysAndClicksInThePreviewShowLineAndColumn) {
   EXPECT_EQ(stato->text(), "Riga: 2 Col.: 3");
 }
 
+TEST(FinestraStato, LineAndColumnShowFromTheFirstShowingOnAndAnewAfterEachRun) {
+  Finestra finestra;
+  finestra.Scegli(12);
+  const auto* stato = Trova<QLabel>(*finestra, "lblRighe");
+  ASSERT_TRUE(stato->isVisible());
+  EXPECT_EQ(stato->text(), "Riga: 1 Col.: 1") << "nothing was rendered yet";
+  ImpostaTesto(finestra.Sezione(0), "ab\ncd\n");
+  ricAnte& anteprima = finestra.Anteprima();
+  for (int volta = 0; volta < 2; ++volta) {
+    finestra.Azione("mnuAnte").trigger();
+    finestra.Azione("mnuAnte").trigger();
+    EXPECT_EQ(stato->text(), "Riga: 1 Col.: 1") << "the caret is at the start of what was rendered";
+    QTest::keyClick(&anteprima, Qt::Key_Down);
+    QTest::keyClick(&anteprima, Qt::Key_Right);
+    EXPECT_EQ(stato->text(), "Riga: 2 Col.: 2");
+  }
+}
+
+TEST(FinestraStato, LineAndColumnStandAnewAfterALongRunToo) {
+  Finestra finestra;
+  finestra.Scegli(12);
+  finestra.Azione("mnuAnte").trigger();
+  ImpostaTesto(finestra.Sezione(0), (std::string(1'500'000, 'x') + "\n").c_str());
+  finestra.Azione("mnuAnte").trigger();
+  EXPECT_TRUE(finestra.TestoAnteprima().endsWith("--- Fine file ---"));
+  EXPECT_EQ(Trova<QLabel>(*finestra, "lblRighe")->text(), "Riga: 1 Col.: 1");
+}
+
 TEST(FinestraStato, LabelsKeepTheirColoursWhileADialogHasTheFocus) {
   Finestra finestra;
   finestra.Scegli(1);
