@@ -28,9 +28,12 @@ int DestraAnteprima(const Finestra& finestra) {
 
 }  // namespace
 
-bool DivisoreAmmesso(const Finestra& finestra, int divisore) {
+std::optional<int> DivisoreAmmesso(const Finestra& finestra, int divisore) {
   const int minima = std::min(LarghezzaMinima, finestra.Larghezza / 4);
-  return divisore - finestra.SinistraSezioni >= minima && finestra.Larghezza - divisore >= minima;
+  const int primo = finestra.SinistraSezioni + minima;
+  const int ultimo = finestra.Larghezza - minima;
+  if (primo > ultimo) return std::nullopt;
+  return std::clamp(divisore, primo, ultimo);
 }
 
 Disposizione Disponi(const Finestra& finestra) {

@@ -31,9 +31,9 @@ struct Finestra {
   std::optional<int> Divisore = std::nullopt;
 };
 
-/// Whether the boundary may stand there: both columns keep 120 pixels, or a quarter of the window's width
-/// where that is less.
-bool DivisoreAmmesso(const Finestra& finestra, int divisore);
+/// The nearest place where the boundary may stand: both columns keep 120 pixels, or a quarter of the window's
+/// width where that is less. nullopt in a window too narrow even for that.
+std::optional<int> DivisoreAmmesso(const Finestra& finestra, int divisore);
 
 /// Only what is laid out has a place; the rest is hidden.
 struct Disposizione {

@@ -1,8 +1,11 @@
 #include "app/frmDivisore.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <cmath>
+#include <functional>
+#include <utility>
 
 namespace parvik {
 namespace {
@@ -24,6 +27,27 @@ void RipristinaPuntatore() {
 QPoint Pixel(const QPointF& punto) {
   return {static_cast<int>(std::floor(punto.x())), static_cast<int>(std::floor(punto.y()))};
 }
+
+/// Sees the program's keys before their receivers do, and keeps Escape from them while the pointer sizes.
+class FiltroFuga final : public QObject {
+ public:
+  explicit FiltroFuga(std::function<void()> rinuncia) : rinuncia_(std::move(rinuncia)) {
+    QCoreApplication::instance()->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* /*oggetto*/, QEvent* evento) override {
+    const bool premuto = evento->type() == QEvent::KeyPress;
+    if (!premuto && evento->type() != QEvent::ShortcutOverride) return false;
+    if (static_cast<const QKeyEvent*>(evento)->key() != Qt::Key_Escape || !PuntatoreDivide()) return false;
+    evento->accept();
+    if (premuto) rinuncia_();
+    return true;
+  }
+
+ private:
+  std::function<void()> rinuncia_;
+};
 
 void OsservaConVista(QAbstractScrollArea& area, QObject& osservatore) {
   for (QWidget* parte : {static_cast<QWidget*>(&area), area.viewport()}) {
@@ -59,24 +83,38 @@ bool frmDivisore::eventFilter(QObject* oggetto, QEvent* evento) {
       return Muovi(oggetto, static_cast<const QMouseEvent&>(*evento));
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-      return PuntatoreDivide();
-    case QEvent::MouseButtonRelease: {
-      if (!PuntatoreDivide()) return false;
-      if (static_cast<const QMouseEvent*>(evento)->button() == Qt::LeftButton) RipristinaPuntatore();
-      return true;
-    }
+      return Premi(oggetto, static_cast<const QMouseEvent&>(*evento));
+    case QEvent::MouseButtonRelease:
+      return Rilascia(static_cast<const QMouseEvent&>(*evento));
     case QEvent::Leave:
       if (oggetto == pannello_ && QApplication::mouseButtons() == Qt::NoButton) RipristinaPuntatore();
+      return false;
+    case QEvent::Hide:
+      if (oggetto == pannello_) Finisci();
       return false;
     default:
       return false;
   }
 }
 
+/// On the edge also when the pointer does not size: after a drag it is the ordinary one until the mouse
+/// moves.
+bool frmDivisore::Premi(QObject* oggetto, const QMouseEvent& evento) {
+  const bool inizia = evento.button() == Qt::LeftButton && evento.buttons() == Qt::LeftButton &&
+                      (PuntatoreDivide() || (SulPannello(oggetto) && SulBordo(evento)));
+  if (inizia) {
+    MostraPuntatore();
+    larghezza_ = pannello_->width();
+    fuga_ = std::make_unique<FiltroFuga>([this] { Rinuncia(); });
+  }
+  return PuntatoreDivide();
+}
+
 bool frmDivisore::Muovi(QObject* oggetto, const QMouseEvent& evento) {
   const bool premuto = evento.buttons().testFlag(Qt::LeftButton);
+  if (!premuto) fuga_.reset();
   if (PuntatoreDivide() && premuto && qobject_cast<QLabel*>(oggetto) == nullptr) {
-    emit Spostato(pannello_->parentWidget()->mapFromGlobal(Pixel(evento.globalPosition())).x());
+    emit Spostato(Posizione(evento));
     return true;
   }
   if (SulPannello(oggetto) && evento.buttons() == Qt::NoButton && SulBordo(evento)) {
@@ -84,7 +122,29 @@ bool frmDivisore::Muovi(QObject* oggetto, const QMouseEvent& evento) {
   } else {
     RipristinaPuntatore();
   }
-  return false;
+  return fuga_ != nullptr;
+}
+
+bool frmDivisore::Rilascia(const QMouseEvent& evento) {
+  if (!PuntatoreDivide() && fuga_ == nullptr) return false;
+  if (evento.button() == Qt::LeftButton) Finisci();
+  return true;
+}
+
+/// The pane's right edge has stayed where it was.
+void frmDivisore::Rinuncia() {
+  RipristinaPuntatore();
+  emit Spostato(pannello_->geometry().right() + 1 - larghezza_);
+}
+
+void frmDivisore::Finisci() {
+  RipristinaPuntatore();
+  fuga_.reset();
+}
+
+/// In the pane's parent.
+int frmDivisore::Posizione(const QMouseEvent& evento) const {
+  return pannello_->parentWidget()->mapFromGlobal(Pixel(evento.globalPosition())).x();
 }
 
 bool frmDivisore::SulBordo(const QMouseEvent& evento) const {

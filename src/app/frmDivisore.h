@@ -1,10 +1,11 @@
-// The boundary between sections and preview, dragged with the mouse (docs/menus.md). The sizing pointer is
-// its whole state: while it is shown a press of the left button drags, and when it goes nothing does.
+// The boundary between sections and preview, dragged with the mouse (docs/menus.md). The sizing pointer tells
+// that a press of the left button drags, or that it is dragging; when it goes, nothing does.
 #pragma once
 
 #include <QAbstractScrollArea>
 #include <QLabel>
 #include <QObject>
+#include <memory>
 
 class QMouseEvent;
 
@@ -31,10 +32,18 @@ class frmDivisore final : public QObject {
 
  private:
   bool SulPannello(QObject* oggetto) const;
+  bool Premi(QObject* oggetto, const QMouseEvent& evento);
   bool Muovi(QObject* oggetto, const QMouseEvent& evento);
+  bool Rilascia(const QMouseEvent& evento);
   bool SulBordo(const QMouseEvent& evento) const;
+  int Posizione(const QMouseEvent& evento) const;
+  void Rinuncia();
+  void Finisci();
 
   QAbstractScrollArea* pannello_;
+  int larghezza_ = 0;  // of the pane when the drag began
+  /// Waits for Escape. It is there from the press that begins a drag to its release, given up or not.
+  std::unique_ptr<QObject> fuga_;
 };
 
 }  // namespace parvik

@@ -239,8 +239,9 @@ Finestra frmParvik::Misure() const {
 }
 
 void frmParvik::SpostaDivisore(int x) {
-  if (!DivisoreAmmesso(Misure(), InTwip(x))) return;
-  divisore_ = InTwip(x);
+  const std::optional<int> ammesso = DivisoreAmmesso(Misure(), InTwip(x));
+  if (!ammesso) return;
+  divisore_ = ammesso;
   ResizeControls();
 }
 

@@ -135,18 +135,22 @@ TEST(Disponi, WithoutAPreviewThereIsNoBoundary) {
 
 TEST(DivisoreAmmesso, LeavesEachColumnAHundredAndTwentyPixels) {
   const Finestra finestra = ConAnteprima(15375);
-  EXPECT_FALSE(DivisoreAmmesso(finestra, 375 + 1799));
-  EXPECT_TRUE(DivisoreAmmesso(finestra, 375 + 1800));
-  EXPECT_TRUE(DivisoreAmmesso(finestra, 15375 - 1800));
-  EXPECT_FALSE(DivisoreAmmesso(finestra, 15375 - 1799));
+  for (const int posto : {375 + 1800, 7000, 15375 - 1800}) EXPECT_EQ(DivisoreAmmesso(finestra, posto), posto);
+  for (const int posto : {375 + 1799, 0, -90'000}) EXPECT_EQ(DivisoreAmmesso(finestra, posto), 375 + 1800);
+  for (const int posto : {15375 - 1799, 90'000}) EXPECT_EQ(DivisoreAmmesso(finestra, posto), 15375 - 1800);
 }
 
 TEST(DivisoreAmmesso, LeavesEachColumnAQuarterOfANarrowWindow) {
   const Finestra finestra = ConAnteprima(4000);
-  EXPECT_FALSE(DivisoreAmmesso(finestra, 375 + 999));
-  EXPECT_TRUE(DivisoreAmmesso(finestra, 375 + 1000));
-  EXPECT_TRUE(DivisoreAmmesso(finestra, 4000 - 1000));
-  EXPECT_FALSE(DivisoreAmmesso(finestra, 4000 - 999));
+  EXPECT_EQ(DivisoreAmmesso(finestra, 375 + 999), 375 + 1000);
+  EXPECT_EQ(DivisoreAmmesso(finestra, 375 + 1000), 375 + 1000);
+  EXPECT_EQ(DivisoreAmmesso(finestra, 4000 - 1000), 4000 - 1000);
+  EXPECT_EQ(DivisoreAmmesso(finestra, 4000 - 999), 4000 - 1000);
+}
+
+TEST(DivisoreAmmesso, IsNowhereInAWindowThatHoldsNoTwoSuchColumns) {
+  EXPECT_EQ(DivisoreAmmesso(ConAnteprima(750), 562), 562);
+  EXPECT_EQ(DivisoreAmmesso(ConAnteprima(740), 560), std::nullopt);
 }
 
 }  // namespace

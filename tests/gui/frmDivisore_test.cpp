@@ -152,6 +152,126 @@ TEST_F(FrmDivisore, NeitherColumnCanVanish) {
   EXPECT_EQ(Pannello().x(), destra - 120);
 }
 
+TEST_F(FrmDivisore, AMoveFarBeyondStopsAtTheBound) {
+  const int sinistra = Testata().x();
+  const int destra = Pannello().geometry().right() + 1;
+  Afferra();
+  Manda(QEvent::MouseMove, {-300, 100}, Qt::NoButton, Qt::LeftButton, Pannello());  // which has the mouse
+  EXPECT_EQ(Pannello().x(), sinistra + 120);
+  Manda(QEvent::MouseButtonRelease, {-300, 100}, Qt::LeftButton, Qt::NoButton, Pannello());
+  Afferra();
+  Manda(QEvent::MouseMove, {destra + 400, 300}, Qt::NoButton, Qt::LeftButton, Pannello());
+  EXPECT_EQ(Pannello().x(), destra - 120);
+}
+
+TEST_F(FrmDivisore, EscapeGivesTheDragUpAndPutsTheBoundaryBack) {
+  const QRect prima = Pannello().geometry();
+  Afferra();
+  Muovi({prima.x() + 90, 300}, Qt::LeftButton);
+  ASSERT_NE(Pannello().geometry(), prima);
+  QTest::keyClick(&Testata(), Qt::Key_Escape);
+  EXPECT_EQ(Pannello().geometry(), prima);
+  EXPECT_EQ(Puntatore(), std::nullopt);
+  Muovi({prima.x() + 50, 300}, Qt::LeftButton);
+  EXPECT_EQ(Pannello().geometry(), prima) << "the button is still down, and nothing is dragged";
+  Lascia({prima.x() + 50, 300});
+  Afferra();
+  Muovi({prima.x() - 40, 300}, Qt::LeftButton);
+  EXPECT_EQ(Pannello().x(), prima.x() - 40) << "the next drag is one again";
+}
+
+TEST_F(FrmDivisore, EscapeGoesBackToWhereTheSecondDragBegan) {
+  const int prima = Bordo();
+  Afferra();
+  Muovi({prima + 70, 300}, Qt::LeftButton);
+  Lascia({prima + 70, 300});
+  Afferra();
+  Muovi({prima - 70, 300}, Qt::LeftButton);
+  QTest::keyClick(&Testata(), Qt::Key_Escape);
+  EXPECT_EQ(Bordo(), prima + 70);
+}
+
+/// Keys that reach a section.
+class Contatore final : public QObject {
+ public:
+  int Tasti = 0;
+
+ protected:
+  bool eventFilter(QObject* /*oggetto*/, QEvent* evento) override {
+    Tasti += evento->type() == QEvent::KeyPress ? 1 : 0;
+    return false;
+  }
+};
+
+TEST_F(FrmDivisore, EscapeReachesTheSectionUnlessADragIsGivenUp) {
+  Contatore contatore;
+  Testata().installEventFilter(&contatore);
+  Muovi({Bordo(), 200});
+  QTest::keyClick(&Testata(), Qt::Key_Escape);
+  EXPECT_EQ(contatore.Tasti, 1) << "the pointer sizes, but no button is down";
+  EXPECT_EQ(Puntatore(), Qt::SizeHorCursor);
+  Premi({Bordo(), 200});
+  QTest::keyClick(&Testata(), Qt::Key_Escape);
+  EXPECT_EQ(contatore.Tasti, 1);
+  QTest::keyClick(&Testata(), Qt::Key_Escape);
+  EXPECT_EQ(contatore.Tasti, 2) << "the drag was given up already";
+  Lascia({Bordo(), 200});
+  QTest::keyClick(&Testata(), Qt::Key_Escape);
+  EXPECT_EQ(contatore.Tasti, 3);
+}
+
+TEST_F(FrmDivisore, OtherKeysLeaveTheDragAlone) {
+  const int prima = Bordo();
+  Afferra();
+  Muovi({prima + 70, 300}, Qt::LeftButton);
+  QTest::keyClick(&Testata(), Qt::Key_Left);
+  Muovi({prima + 50, 300}, Qt::LeftButton);
+  EXPECT_EQ(Bordo(), prima + 50);
+}
+
+TEST_F(FrmDivisore, ASecondDragNeedsNoMoveInBetween) {
+  const int prima = Bordo();
+  Afferra();
+  Muovi({prima + 80, 300}, Qt::LeftButton);
+  Lascia({prima + 80, 300});
+  EXPECT_EQ(Puntatore(), std::nullopt);
+  Premi({prima + 80, 300});
+  EXPECT_EQ(Puntatore(), Qt::SizeHorCursor);
+  Muovi({prima + 30, 300}, Qt::LeftButton);
+  EXPECT_EQ(Bordo(), prima + 30);
+  Lascia({prima + 30, 300});
+  Manda(QEvent::MouseButtonDblClick, {prima + 30, 300}, Qt::LeftButton, Qt::LeftButton, Pannello());
+  Muovi({prima, 300}, Qt::LeftButton);
+  EXPECT_EQ(Bordo(), prima) << "a quick second press is a double click";
+}
+
+TEST_F(FrmDivisore, OnlyTheLeftButtonOnTheEdgeBelowTheTopRowBeginsADrag) {
+  const int prima = Bordo();
+  const auto trascina = [this](QPoint da, Qt::MouseButton tasto) {
+    Premi(da, tasto);
+    Muovi({da.x() + 60, 300}, tasto);
+    Lascia({da.x() + 60, 300}, tasto);
+  };
+  trascina({prima, 200}, Qt::RightButton);
+  trascina({prima, Pannello().y()}, Qt::LeftButton);
+  trascina({prima + 1, 200}, Qt::LeftButton);
+  trascina({prima - 1, 200}, Qt::LeftButton);
+  EXPECT_EQ(Bordo(), prima);
+  EXPECT_EQ(Puntatore(), std::nullopt);
+  trascina({prima, 200}, Qt::LeftButton);
+  EXPECT_EQ(Bordo(), prima + 60);
+}
+
+TEST_F(FrmDivisore, ADragThatLosesThePreviewIsOver) {
+  Afferra();
+  finestra_.Azione("mnuAnte").trigger();
+  EXPECT_EQ(Puntatore(), std::nullopt);
+  finestra_.Azione("mnuAnte").trigger();
+  const int prima = Bordo();
+  Muovi({prima + 60, 300}, Qt::LeftButton);
+  EXPECT_EQ(Bordo(), prima);
+}
+
 TEST_F(FrmDivisore, ThePlaceLastsUntilTheWindowIsResized) {
   const int prima = Bordo();
   Afferra();
