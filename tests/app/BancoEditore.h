@@ -14,6 +14,15 @@
 #include "supporto/Cartelle.h"
 #include "supporto/InterlocutoreScritto.h"
 
+namespace parvik {
+
+/// A row that is a section is told by its name.
+inline void PrintTo(Sezione sezione, std::ostream* uscita) {
+  *uscita << NomiSezioni[Indice(sezione)];
+}
+
+}  // namespace parvik
+
 namespace parvik::prova {
 
 class VistaFinta final : public Vista {

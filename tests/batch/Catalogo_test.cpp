@@ -3,6 +3,7 @@
 
 #include "batch/Esecuzione.h"
 #include "batch/Esempi.h"
+#include "supporto/ConNome.h"
 
 namespace parvik::prova {
 namespace {
@@ -103,10 +104,7 @@ struct Caso {
   std::string_view Errore;
   int Riga;
 };
-
-void PrintTo(const Caso& caso, std::ostream* uscita) {
-  *uscita << caso.Nome;
-}
+using prova::PrintTo;
 
 class TestataErrataTest : public testing::TestWithParam<Caso> {};
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "supporto/Cartelle.h"
+#include "supporto/ConNome.h"
 
 namespace parvik::prova {
 

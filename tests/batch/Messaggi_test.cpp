@@ -3,23 +3,21 @@
 
 #include "batch/Esecuzione.h"
 #include "batch/Esempi.h"
+#include "supporto/ConNome.h"
 
 namespace parvik::prova {
 namespace {
 
 namespace fs = std::filesystem;
 
-struct Nome {
-  const char* Caso;
+struct Caso {
+  const char* Nome;
   std::string Byte;
   std::string Mostrato;
 };
+using prova::PrintTo;
 
-void PrintTo(const Nome& nome, std::ostream* uscita) {
-  *uscita << nome.Caso;
-}
-
-class NomeNeiMessaggiTest : public testing::TestWithParam<Nome> {
+class NomeNeiMessaggiTest : public testing::TestWithParam<Caso> {
  protected:
   Esecuzione EseguiQui(const std::vector<std::string>& argomenti) const {
     return Esegui(argomenti, {.Cartella = Cartella.Percorso()});
@@ -85,15 +83,15 @@ TEST_P(NomeNeiMessaggiTest, AnythingElseOnTheCommandLineIsShownInOneLine) {
 
 INSTANTIATE_TEST_SUITE_P(
     Nomi, NomeNeiMessaggiTest,
-    testing::Values(Nome{"plain", "m n.img", "m n.img"}, Nome{"utf8", "caff\xC3\xA8", "caff\xC3\xA8"},
-                    Nome{"windows1252", "caff\xE8", "caff\\xE8"}, Nome{"line_feed", "a\nb", "a\\x0Ab"},
-                    Nome{"line_end", "a\r\nb", "a\\x0D\\x0Ab"}, Nome{"tab", "a\tb", "a\\x09b"},
-                    Nome{"terminal", "\x1B[2J", "\\x1B[2J"}, Nome{"delete", "a\x7F", "a\\x7F"},
-                    Nome{"next_line", "a\xC2\x85", "a\\xC2\\x85"},
-                    Nome{"paragraph", "a\xE2\x80\xA9", "a\\xE2\\x80\\xA9"},
-                    Nome{"cut_short", "\xE2\x82", "\\xE2\\x82"}, Nome{"backslash", "a\\nb", "a\\nb"},
-                    Nome{"brackets", "[x]", "[x]"}),
-    [](const auto& caso) { return std::string(caso.param.Caso); });
+    testing::Values(Caso{"plain", "m n.img", "m n.img"}, Caso{"utf8", "caff\xC3\xA8", "caff\xC3\xA8"},
+                    Caso{"windows1252", "caff\xE8", "caff\\xE8"}, Caso{"line_feed", "a\nb", "a\\x0Ab"},
+                    Caso{"line_end", "a\r\nb", "a\\x0D\\x0Ab"}, Caso{"tab", "a\tb", "a\\x09b"},
+                    Caso{"terminal", "\x1B[2J", "\\x1B[2J"}, Caso{"delete", "a\x7F", "a\\x7F"},
+                    Caso{"next_line", "a\xC2\x85", "a\\xC2\\x85"},
+                    Caso{"paragraph", "a\xE2\x80\xA9", "a\\xE2\\x80\\xA9"},
+                    Caso{"cut_short", "\xE2\x82", "\\xE2\\x82"}, Caso{"backslash", "a\\nb", "a\\nb"},
+                    Caso{"brackets", "[x]", "[x]"}),
+    [](const auto& caso) { return std::string(caso.param.Nome); });
 
 }  // namespace
 }  // namespace parvik::prova

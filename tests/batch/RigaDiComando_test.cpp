@@ -4,6 +4,7 @@
 #include "app/Versione.h"
 #include "batch/Esecuzione.h"
 #include "batch/Esempi.h"
+#include "supporto/ConNome.h"
 
 namespace parvik::prova {
 namespace {
@@ -48,10 +49,7 @@ struct Caso {
   std::vector<std::string> Argomenti;
   std::string_view Detto;
 };
-
-void PrintTo(const Caso& caso, std::ostream* uscita) {
-  *uscita << caso.Nome;
-}
+using prova::PrintTo;
 
 class ArgomentiErratiTest : public testing::TestWithParam<Caso> {};
 

@@ -3,6 +3,7 @@
 
 #include "batch/Esecuzione.h"
 #include "batch/Esempi.h"
+#include "supporto/ConNome.h"
 
 namespace parvik::prova {
 namespace {
@@ -12,10 +13,7 @@ struct Caso {
   UscitaStandard Dove;
   std::string_view Detto;
 };
-
-void PrintTo(const Caso& caso, std::ostream* uscita) {
-  *uscita << caso.Nome;
-}
+using prova::PrintTo;
 
 class UscitaStandardTest : public testing::TestWithParam<Caso> {};
 

@@ -10,6 +10,7 @@
 
 #include "catalogue/CampiDiProva.h"
 #include "catalogue/Catalogo.h"
+#include "supporto/ConNome.h"
 
 namespace parvik::prova {
 namespace {
@@ -127,6 +128,7 @@ struct CasoErrore {
   NumeroErrore Numero;
   std::size_t Riga;
 };
+using prova::PrintTo;
 
 class CatalogoRottoTest : public testing::TestWithParam<CasoErrore> {};
 

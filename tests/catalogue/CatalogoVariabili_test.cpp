@@ -6,6 +6,7 @@
 
 #include "catalogue/CampiDiProva.h"
 #include "catalogue/Catalogo.h"
+#include "supporto/ConNome.h"
 
 namespace parvik::prova {
 namespace {
@@ -71,6 +72,7 @@ struct CasoRotto {
   std::string Riga;
   NumeroErrore Errore;
 };
+using prova::PrintTo;
 
 class RigaVariabileRottaTest : public testing::TestWithParam<CasoRotto> {};
 

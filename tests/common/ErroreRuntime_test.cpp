@@ -14,6 +14,10 @@ struct Caso {
   const char* Descrizione;
 };
 
+void PrintTo(const Caso& caso, std::ostream* uscita) {
+  *uscita << caso.Descrizione;
+}
+
 class ErroreRuntimeTest : public testing::TestWithParam<Caso> {};
 
 TEST_P(ErroreRuntimeTest, HasItsNumberAndItsItalianDescription) {

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "supporto/ConNome.h"
+
 namespace parvik::prova {
 namespace {
 
@@ -24,6 +26,7 @@ struct Caso {
   std::string Testo;
   Righe Attese;
 };
+using prova::PrintTo;
 
 class LettoreRigheTest : public testing::TestWithParam<Caso> {};
 

@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 
+#include "supporto/ConNome.h"
+
 namespace parvik::prova {
 namespace {
 
@@ -17,6 +19,7 @@ struct CasoNumero {
   std::string Testo;
   double Atteso;
 };
+using prova::PrintTo;
 
 class NumeroLenienteTest : public testing::TestWithParam<CasoNumero> {};
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "supporto/Cartelle.h"
+#include "supporto/ConNome.h"
 
 namespace parvik::prova {
 namespace {
@@ -20,6 +21,7 @@ struct Caso {
   std::string Contenuto;
   std::string Atteso;
 };
+using prova::PrintTo;
 
 /// The bytes of a UTF-16 file with its mark; every byte of `ansi` is one character below 256.
 std::string Utf16(std::string_view ansi) {

@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <string>
 
+#include "supporto/ConNome.h"
+
 namespace parvik::prova {
 
 struct CasoGuasto {

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "Finestra.h"
+#include "supporto/ConNome.h"
 
 namespace parvik {
 namespace {
@@ -80,10 +81,7 @@ struct Tinta {
   const char* Nome;
   QPalette Tavolozza;
 };
-
-void PrintTo(const Tinta& tinta, std::ostream* uscita) {
-  *uscita << tinta.Nome;
-}
+using prova::PrintTo;
 
 std::string NomeDi(const testing::TestParamInfo<Tinta>& info) {
   return info.param.Nome;
@@ -167,10 +165,6 @@ struct Caso {
   QString Riga;
   std::string Atteso;
 };
-
-void PrintTo(const Caso& caso, std::ostream* uscita) {
-  *uscita << caso.Nome;
-}
 
 class RigaColorata : public testing::TestWithParam<Caso> {};
 

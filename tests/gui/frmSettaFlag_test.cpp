@@ -12,6 +12,7 @@
 
 #include "Finestra.h"
 #include "output/FlagPerStampe.h"
+#include "supporto/ConNome.h"
 
 namespace parvik {
 namespace {
@@ -291,6 +292,7 @@ struct Intestazione {
   int Da;  // characters before the column
   int A;   // characters up to its end
 };
+using prova::PrintTo;
 
 class IntestazioniTest : public FrmSettaFlag, public testing::WithParamInterface<Intestazione> {
  protected:

@@ -10,6 +10,7 @@
 #include <QTest>
 
 #include "Maschera.h"
+#include "supporto/ConNome.h"
 
 namespace parvik {
 namespace {
@@ -69,10 +70,11 @@ TEST(FrmStile, OkWithoutAChoiceInsertsTheEmptyText) {
 }
 
 struct Caso {
-  const char* nome;
-  int opzione;
-  const char* contenuto;
+  const char* Nome;
+  int Opzione;
+  const char* Contenuto;
 };
+using prova::PrintTo;
 
 const Caso Casi[] = {{"Normale", 0, "S;NORMALE"},
                      {"Grassetto", 1, "S;GRASSETTO"},
@@ -85,33 +87,33 @@ class FrmStileTest : public testing::TestWithParam<Caso> {};
 TEST_P(FrmStileTest, AClickOnAnOptionWritesItsCode) {
   frmStile dialogo(nullptr);
   Apri(dialogo);
-  QTest::mouseClick(Opzione(dialogo, GetParam().opzione), Qt::LeftButton, {}, {8, 8});
-  EXPECT_EQ(Scelta(dialogo), GetParam().opzione);
+  QTest::mouseClick(Opzione(dialogo, GetParam().Opzione), Qt::LeftButton, {}, {8, 8});
+  EXPECT_EQ(Scelta(dialogo), GetParam().Opzione);
   Conferma(dialogo);
-  EXPECT_EQ(dialogo.Codici(), Codici({ConDelimitatori(GetParam().contenuto)}));
+  EXPECT_EQ(dialogo.Codici(), Codici({ConDelimitatori(GetParam().Contenuto)}));
 }
 
 TEST_P(FrmStileTest, TheFocusSelectsAnOptionAndWritesItsCode) {
   frmStile dialogo(nullptr);
   Apri(dialogo);
-  Opzione(dialogo, GetParam().opzione)->setFocus(Qt::OtherFocusReason);
-  EXPECT_EQ(Scelta(dialogo), GetParam().opzione);
+  Opzione(dialogo, GetParam().Opzione)->setFocus(Qt::OtherFocusReason);
+  EXPECT_EQ(Scelta(dialogo), GetParam().Opzione);
   Conferma(dialogo);
-  EXPECT_EQ(dialogo.Codici(), Codici({ConDelimitatori(GetParam().contenuto)}));
+  EXPECT_EQ(dialogo.Codici(), Codici({ConDelimitatori(GetParam().Contenuto)}));
 }
 
 TEST_P(FrmStileTest, ACodeComesBackUnchanged) {
   frmStile dialogo(nullptr);
-  dialogo.Mostra(GetParam().contenuto);
+  dialogo.Mostra(GetParam().Contenuto);
   Apri(dialogo);
-  EXPECT_TRUE(Opzione(dialogo, GetParam().opzione)->hasFocus());
-  EXPECT_EQ(Scelta(dialogo), GetParam().opzione);
+  EXPECT_TRUE(Opzione(dialogo, GetParam().Opzione)->hasFocus());
+  EXPECT_EQ(Scelta(dialogo), GetParam().Opzione);
   Conferma(dialogo);
-  EXPECT_EQ(dialogo.Codici(), Codici({ConDelimitatori(GetParam().contenuto)}));
+  EXPECT_EQ(dialogo.Codici(), Codici({ConDelimitatori(GetParam().Contenuto)}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Stili, FrmStileTest, testing::ValuesIn(Casi),
-                         [](const auto& caso) { return std::string(caso.param.nome); });
+                         [](const auto& caso) { return std::string(caso.param.Nome); });
 
 TEST(FrmStile, ArrowKeysMoveTheChoice) {
   frmStile dialogo(nullptr);

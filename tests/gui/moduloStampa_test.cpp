@@ -8,6 +8,7 @@
 
 #include "Finestra.h"
 #include "output/frmStampa.h"
+#include "supporto/ConNome.h"
 
 namespace parvik {
 namespace {
@@ -52,10 +53,7 @@ struct Guasto {
   void (*Fai)(const fs::path& modulo);
   NumeroErrore Errore;
 };
-
-void PrintTo(const Guasto& guasto, std::ostream* uscita) {
-  *uscita << guasto.Nome;
-}
+using prova::PrintTo;
 
 /// The first bytes of the built module.
 void Mozza(const fs::path& modulo, std::uintmax_t byte) {

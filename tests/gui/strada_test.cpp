@@ -5,6 +5,7 @@
 
 #include "Finestra.h"
 #include "common/frmTesto.h"
+#include "supporto/ConNome.h"
 
 namespace parvik {
 namespace {
@@ -14,25 +15,26 @@ using prova::Crea;
 using prova::Finestra;
 
 struct Esempio {
-  const char* File;
+  const char* Nome;
   int Tipo;
 };
+using prova::PrintTo;
 
 class OgniEsempio : public testing::TestWithParam<Esempio> {};
 
 TEST_P(OgniEsempio, OpenedAndSavedUnchangedIsTheSameFile) {
   Finestra finestra;
-  const std::string prima = Contenuto(finestra.Modello(GetParam().File));
+  const std::string prima = Contenuto(finestra.Modello(GetParam().Nome));
   finestra.Scegli(GetParam().Tipo);
-  finestra.Apri(GetParam().File);
+  finestra.Apri(GetParam().Nome);
   finestra.Azione("mnuSalva").trigger();
-  EXPECT_EQ(Contenuto(finestra.Modello(GetParam().File)), prima);
+  EXPECT_EQ(Contenuto(finestra.Modello(GetParam().Nome)), prima);
 }
 
 TEST_P(OgniEsempio, ThePreviewEndsWithTheEndMarkerAndHoldsNoCode) {
   Finestra finestra;
   finestra.Scegli(GetParam().Tipo);
-  finestra.Apri(GetParam().File);
+  finestra.Apri(GetParam().Nome);
   EXPECT_FALSE(finestra.Azione("mnuAnte").isChecked()) << "opening turns the preview off";
   finestra.Azione("mnuAnte").trigger();
   const QString testo = finestra.TestoAnteprima();
@@ -49,7 +51,7 @@ INSTANTIATE_TEST_SUITE_P(Modelli, OgniEsempio,
                                          Esempio{"LIST01.IMG", 12}, Esempio{"COLLO01.IMG", 14},
                                          Esempio{"SOLL01.IMG", 15}),
                          [](const auto& caso) {
-                           const std::string nome = caso.param.File;
+                           const std::string nome = caso.param.Nome;
                            return nome.substr(0, nome.find('.'));
                          });
 

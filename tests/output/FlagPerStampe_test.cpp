@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "output/CatalogoDiProva.h"
+#include "supporto/ConNome.h"
 
 namespace parvik::prova {
 namespace {
@@ -28,6 +29,7 @@ struct Caso {
   std::string Riga;
   double NumeroLetto;
 };
+using prova::PrintTo;
 
 class RigaFlagTest : public testing::TestWithParam<Caso> {};
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "output/Leggibile.h"
+#include "supporto/ConNome.h"
 #include "supporto/RiferimentoStili.h"
 
 namespace parvik::prova {
@@ -14,9 +15,7 @@ struct Caso {
   std::string_view Atteso;
 };
 
-void PrintTo(const Caso& caso, std::ostream* uscita) {
-  *uscita << caso.Testo;
-}
+using prova::PrintTo;
 
 class MettiStiliTest : public testing::TestWithParam<Caso> {};
 

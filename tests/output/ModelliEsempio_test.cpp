@@ -4,6 +4,7 @@
 #include "output/GeneraStampa.h"
 #include "output/Leggibile.h"
 #include "supporto/Cartelle.h"
+#include "supporto/ConNome.h"
 #include "supporto/RiferimentoStampa.h"
 #include "supporto/RiferimentoStili.h"
 #include "template/ImmagineModello.h"
@@ -15,6 +16,7 @@ struct Modello {
   const char* Nome;
   std::size_t Tipo;
 };
+using prova::PrintTo;
 
 class ModelloEsempioTest : public testing::TestWithParam<std::tuple<Modello, bool>> {
  protected:

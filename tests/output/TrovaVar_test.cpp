@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "output/CatalogoDiProva.h"
+#include "supporto/ConNome.h"
 
 namespace parvik::prova {
 namespace {
@@ -14,9 +15,7 @@ struct Caso {
   std::string Atteso;
 };
 
-void PrintTo(const Caso& caso, std::ostream* uscita) {
-  *uscita << caso.Contenuto;
-}
+using prova::PrintTo;
 
 class CampioneTest : public testing::TestWithParam<Caso> {};
 

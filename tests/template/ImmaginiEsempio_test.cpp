@@ -5,6 +5,7 @@
 
 #include "catalogue/Catalogo.h"
 #include "supporto/Cartelle.h"
+#include "supporto/ConNome.h"
 #include "template/ImmagineModello.h"
 
 namespace parvik::prova {
@@ -15,6 +16,7 @@ struct Caso {
   std::size_t Tipo;  // as the catalogue numbers it
   Formato Come;
 };
+using prova::PrintTo;
 
 class ImmagineEsempioTest : public testing::TestWithParam<Caso> {};
 

@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <string>
 
+#include "supporto/ConNome.h"
 #include "template/ImmagineModello.h"
 #include "template/Modelli.h"
 
@@ -136,6 +137,7 @@ struct CasoMarcatore {
   std::string Riga;  // the whole line, as in the file
   ImpostazioniCorpo Atteso;
 };
+using prova::PrintTo;
 
 class MarcatoreTest : public testing::TestWithParam<CasoMarcatore> {};
 

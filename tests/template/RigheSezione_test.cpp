@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "supporto/ConNome.h"
+
 namespace parvik::prova {
 namespace {
 
@@ -14,6 +16,7 @@ struct Caso {
   int Righe;
   bool DaCompletare;
 };
+using prova::PrintTo;
 
 class RigheSezioneTest : public testing::TestWithParam<Caso> {};
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "common/Delimitatori.h"
+#include "supporto/ConNome.h"
 #include "supporto/Tasti.h"
 #include "supporto/TestoConSelezione.h"
 
@@ -44,10 +45,7 @@ struct Caso {
   TastoSezione Tasto;
   const char* Atteso;
 };
-
-void PrintTo(const Caso& caso, std::ostream* uscita) {
-  *uscita << caso.Nome;
-}
+using prova::PrintTo;
 
 class TastiSezioneTest : public testing::TestWithParam<Caso> {};
 

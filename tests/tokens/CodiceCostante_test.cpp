@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "supporto/ConNome.h"
+
 namespace parvik {
 namespace {
 
@@ -10,6 +12,7 @@ struct CasoTesto {
   std::string Testo;
   std::string Codice;
 };
+using prova::PrintTo;
 
 class TestoCostanteTest : public testing::TestWithParam<CasoTesto> {};
 

@@ -4,6 +4,8 @@
 
 #include <ostream>
 
+#include "supporto/ConNome.h"
+
 namespace parvik {
 
 static void PrintTo(const CodiceFlag& flag, std::ostream* uscita) {
@@ -43,6 +45,7 @@ struct CasoFlag {
   std::string_view Contenuto;
   CodiceFlag Atteso;
 };
+using prova::PrintTo;
 
 class LetturaFlagTest : public testing::TestWithParam<CasoFlag> {};
 

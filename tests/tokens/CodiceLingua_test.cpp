@@ -4,6 +4,8 @@
 
 #include <ostream>
 
+#include "supporto/ConNome.h"
+
 namespace parvik {
 
 static void PrintTo(const CodiceLingua& lingua, std::ostream* uscita) {
@@ -42,6 +44,7 @@ struct CasoLingua {
   std::string_view Contenuto;
   CodiceLingua Atteso;
 };
+using prova::PrintTo;
 
 class LetturaLinguaTest : public testing::TestWithParam<CasoLingua> {};
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "supporto/ConNome.h"
+
 namespace parvik {
 namespace {
 
@@ -11,6 +13,7 @@ struct CasoStile {
   std::string_view Parola;
   std::string_view Codice;
 };
+using prova::PrintTo;
 
 class StileTest : public testing::TestWithParam<CasoStile> {};
 

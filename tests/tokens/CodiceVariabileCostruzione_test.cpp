@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "supporto/ConNome.h"
 #include "tokens/CodiceVariabile.h"
 #include "tokens/StampaVariabile.h"
 
@@ -11,6 +12,7 @@ struct Caso {
   Variabile Formato;
   std::string_view Codice;
 };
+using prova::PrintTo;
 
 class CostruzioneVariabileTest : public testing::TestWithParam<Caso> {};
 

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "supporto/ConNome.h"
 #include "tokens/CodiceVariabile.h"
 #include "tokens/StampaVariabile.h"
 
@@ -43,6 +44,7 @@ struct Caso {
   Variabile Atteso;
   std::size_t Voce;
 };
+using prova::PrintTo;
 
 class LetturaVariabileTest : public testing::TestWithParam<Caso> {};
 

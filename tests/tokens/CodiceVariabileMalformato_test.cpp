@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "supporto/ConNome.h"
 #include "tokens/CodiceVariabile.h"
 
 namespace parvik {
@@ -22,6 +23,7 @@ struct Caso {
   std::string_view Contenuto;
   std::string_view Ricostruito;
 };
+using prova::PrintTo;
 
 class VariabileMalformataTest : public testing::TestWithParam<Caso> {};
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "supporto/ConNome.h"
+
 namespace parvik {
 
 // Printed by name when a test fails.
@@ -24,6 +26,7 @@ struct CasoGenere {
   std::string_view Contenuto;
   TipoCodice Atteso;
 };
+using prova::PrintTo;
 
 class GenereTest : public testing::TestWithParam<CasoGenere> {};
 

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "catalogue/Catalogo.h"
+#include "supporto/ConNome.h"
 
 namespace parvik {
 namespace {
@@ -38,6 +39,7 @@ struct Caso {
   std::string_view Contenuto;
   std::string_view Atteso;
 };
+using prova::PrintTo;
 
 class DescriviCodiceTest : public testing::TestWithParam<Caso> {};
 

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "supporto/ConNome.h"
 #include "tokens/Generatori.h"
 
 namespace parvik::prova {
@@ -48,17 +49,18 @@ TEST(TrovaVoce, TreatsSpacesAsText) {
 }
 
 struct Caso {
-  const char* nome;
-  std::string_view voce;
-  std::string_view cercato;
-  bool trovata;
+  const char* Nome;
+  std::string_view Voce;
+  std::string_view Cercato;
+  bool Trovata;
 };
+using prova::PrintTo;
 
 class SenzaBadareAlleMaiuscole : public testing::TestWithParam<Caso> {};
 
 TEST_P(SenzaBadareAlleMaiuscole, ComparesSmallLetters) {
-  const std::array<std::string_view, 1> voci = {GetParam().voce};
-  EXPECT_EQ(TrovaVoce(voci, 0, GetParam().cercato).has_value(), GetParam().trovata);
+  const std::array<std::string_view, 1> voci = {GetParam().Voce};
+  EXPECT_EQ(TrovaVoce(voci, 0, GetParam().Cercato).has_value(), GetParam().Trovata);
 }
 
 INSTANTIATE_TEST_SUITE_P(TrovaVoce, SenzaBadareAlleMaiuscole,
@@ -76,7 +78,7 @@ INSTANTIATE_TEST_SUITE_P(TrovaVoce, SenzaBadareAlleMaiuscole,
                                          Caso{"z_with_caron", "\x8E", "\x9E", true},
                                          Caso{"y_with_diaeresis", "\x9F", "\xFF", true},
                                          Caso{"an_accent_is_a_difference", "quantit\xE0", "quantita", false}),
-                         [](const auto& caso) { return std::string(caso.param.nome); });
+                         [](const auto& caso) { return std::string(caso.param.Nome); });
 
 TEST(TrovaVoce, LooksAtEveryEntryInTheOrderOfTheList) {
   EXPECT_TRUE(rc::check([] {

@@ -2,23 +2,26 @@
 
 #include <gtest/gtest.h>
 
+#include "supporto/ConNome.h"
+
 namespace parvik {
 namespace {
 
 struct Caso {
-  const char* nome;
-  FormatoCampo formato;
-  std::string_view atteso;
+  const char* Nome;
+  FormatoCampo Formato;
+  std::string_view Atteso;
 };
+using prova::PrintTo;
 
 class ValoreCampoTest : public testing::TestWithParam<Caso> {};
 
 TEST_P(ValoreCampoTest, ShowsTheFieldAsItWillBePrinted) {
-  EXPECT_EQ(ValoreCampo(GetParam().formato), GetParam().atteso);
+  EXPECT_EQ(ValoreCampo(GetParam().Formato), GetParam().Atteso);
 }
 
 std::string Nome(const testing::TestParamInfo<Caso>& caso) {
-  return caso.param.nome;
+  return caso.param.Nome;
 }
 
 INSTANTIATE_TEST_SUITE_P(
