@@ -1,5 +1,6 @@
 #include "common/frmTesto.h"
 
+#include <QRegularExpression>
 #include <array>
 #include <unordered_map>
 
@@ -95,6 +96,12 @@ std::string DaSchermo(const QString& testo) {
 
 QString SoloAnsi(const QString& testo) {
   return PerSchermo(DaSchermo(testo));
+}
+
+QString InUnaRiga(const QString& testo) {
+  static const QRegularExpression fini(
+      QStringLiteral("[\\r\\x{240D}][\\n\\x{240A}]|[\\n-\\r\\x{85}\\x{2028}\\x{2029}\\x{240A}-\\x{240D}]"));
+  return QString(testo).replace(fini, " ");
 }
 
 QString DaUtf8(std::string_view utf8) {

@@ -19,6 +19,10 @@ std::string DaSchermo(const QString& testo);
 /// What of `testo` can stand in a template: every other character is "?".
 QString SoloAnsi(const QString& testo);
 
+/// `testo` in one line: whatever ends a line is a space, CR LF is one, and so are the stand-ins of these
+/// characters.
+QString InUnaRiga(const QString& testo);
+
 /// UTF-8 texts of the core (messages, captions, paths), with CR LF as the toolkit's line end.
 QString DaUtf8(std::string_view utf8);
 

@@ -26,8 +26,9 @@ frmComando::~frmComando() = default;
 
 void frmComando::CaricaStringaCorpo() {
   ImpostaComeSta(*ui_->txtRighe, QString::number(attuali_.RigheCorpo));
+  SoloLettura(*ui_->txtLinee);
   RendiLeggibile(*ui_->txtLinee);
-  ui_->txtLinee->setText(QString::number(linee_));
+  ImpostaComeSta(*ui_->txtLinee, QString::number(linee_));
   ui_->chkSbarra->setChecked(!attuali_.FlagSbarra.empty());
   ui_->chkAccorpa->setChecked(!attuali_.FlagAccorpa.empty());
 }

@@ -9,6 +9,7 @@ namespace parvik {
 
 frmCostante::frmCostante(QWidget* padre) : frmCodice(padre), ui_(std::make_unique<Ui::frmCostante>()) {
   ui_->setupUi(this);
+  TestoDiCodice(*ui_->txtDescri);
   SelezionaTuttoAlFuoco(*ui_->txtDescri);
   connect(ui_->txtDescri, &QLineEdit::textChanged, this, &frmCostante::RicostruisciCodice);
   MostraCodici(*ui_->txtCost);
@@ -19,7 +20,7 @@ frmCostante::frmCostante(QWidget* padre) : frmCodice(padre), ui_(std::make_uniqu
 frmCostante::~frmCostante() = default;
 
 void frmCostante::Mostra(std::string_view contenuto) {
-  ui_->txtDescri->setText(PerSchermo(LeggiCostante(contenuto)));
+  ImpostaComeSta(*ui_->txtDescri, PerSchermo(LeggiCostante(contenuto)));
 }
 
 std::vector<std::string> frmCostante::Codici() const {
@@ -28,7 +29,7 @@ std::vector<std::string> frmCostante::Codici() const {
 }
 
 void frmCostante::RicostruisciCodice() {
-  ui_->txtCost->setText(PerSchermo(CostruisciCostante(DaSchermo(ui_->txtDescri->text()))));
+  ImpostaComeSta(*ui_->txtCost, PerSchermo(CostruisciCostante(DaSchermo(ui_->txtDescri->text()))));
 }
 
 }  // namespace parvik

@@ -75,7 +75,7 @@ void frmFlag::CambiaInterruttore() {
 }
 
 void frmFlag::MostraCodice(const Flag& flag) {
-  ui_->txtFlag->setText(PerSchermo(CodiceDi(flag)));
+  ImpostaComeSta(*ui_->txtFlag, PerSchermo(CodiceDi(flag)));
   ui_->txtFlag->setCursorPosition(0);
 }
 

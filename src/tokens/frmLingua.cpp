@@ -44,7 +44,7 @@ std::vector<std::string> frmLingua::Codici() const {
 void frmLingua::RicostruisciCodice() {
   const CodiceLingua lingua = {.IndiceTabella = DaSchermo(ui_->txtIndice->text()),
                                .Lunghezza = DaSchermo(ui_->txtLungh->text())};
-  ui_->txtLingua->setText(PerSchermo(CostruisciLingua(lingua)));
+  ImpostaComeSta(*ui_->txtLingua, PerSchermo(CostruisciLingua(lingua)));
 }
 
 }  // namespace parvik

@@ -36,7 +36,7 @@ std::vector<std::string> frmPagina::Codici() const {
 }
 
 void frmPagina::RicostruisciCodice() {
-  ui_->txtPag->setText(PerSchermo(CostruisciPagina(DaSchermo(ui_->txtNum->text()))));
+  ImpostaComeSta(*ui_->txtPag, PerSchermo(CostruisciPagina(DaSchermo(ui_->txtNum->text()))));
 }
 
 }  // namespace parvik

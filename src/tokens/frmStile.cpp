@@ -45,7 +45,7 @@ bool frmStile::eventFilter(QObject* oggetto, QEvent* evento) {
 }
 
 void frmStile::ScriviCodice(Stile stile) {
-  ui_->txtStile->setText(PerSchermo(CostruisciStile(stile)));
+  ImpostaComeSta(*ui_->txtStile, PerSchermo(CostruisciStile(stile)));
 }
 
 }  // namespace parvik

@@ -2,7 +2,6 @@
 
 #include <QMessageBox>
 #include <QScopedValueRollback>
-#include <QValidator>
 
 #include "common/NumeroLeniente.h"
 #include "common/frmCampi.h"
@@ -19,25 +18,6 @@ constexpr int CifreLunghezza = 3;
 constexpr std::int16_t ASinistra = 1;
 constexpr std::int16_t ADestra = 0;
 const QString Nessuno = "0";  // no lines, no decimals
-
-/// One character of those that can stand inside a code: no line end, and not what opens or closes a code. A
-/// longer text of the catalogue may get shorter.
-class UnCarattere final : public QValidator {
- public:
-  explicit UnCarattere(QLineEdit& casella) : QValidator(&casella) {
-    connect(&casella, &QLineEdit::textChanged, this, [this](const QString& testo) { prima_ = testo.size(); });
-  }
-
-  State validate(QString& testo, int& cursore) const override {
-    testo = SoloAnsi(testo);
-    testo.removeIf([](QChar c) { return QStringLiteral("\n\u00AB\u00BB").contains(c); });
-    cursore = qMin(cursore, static_cast<int>(testo.size()));
-    return testo.size() > 1 && testo.size() >= prima_ ? Invalid : Acceptable;
-  }
-
- private:
-  qsizetype prima_ = 0;
-};
 
 bool Numerica(const Variabile& variabile) {
   return variabile.Intero4 != 0;
@@ -60,7 +40,7 @@ void SeguiSpunta(QLineEdit& casella, bool spuntata) {
 }
 
 void MostraDallInizio(QLineEdit& casella, const std::string& codice) {
-  casella.setText(PerSchermo(codice));
+  ImpostaComeSta(casella, PerSchermo(codice));
   casella.setCursorPosition(0);
 }
 
@@ -84,12 +64,13 @@ void frmVar::PreparaCaselle() {
   SoloCifre(*ui_->txtLungh, CifreLunghezza);
   SoloCifre(*ui_->txtMulti, 1);
   SoloCifre(*ui_->txtDecimali, 1, "*");
-  ui_->txtCar->setValidator(new UnCarattere(*ui_->txtCar));
+  TestoDiCodice(*ui_->txtCar, 1);
+  UnaRiga(*ui_->txtTrova);
   for (QLineEdit* casella : {ui_->txtTrova, ui_->txtLungh, ui_->txtMulti, ui_->txtDecimali}) {
     SelezionaTuttoAlFuoco(*casella);
   }
-  for (QLineEdit* casella : {ui_->txtVar, ui_->txtFlag, ui_->txtValCampo, ui_->txtCar})
-    MostraCodici(*casella);
+  for (QLineEdit* casella : {ui_->txtVar, ui_->txtFlag, ui_->txtValCampo}) MostraCodici(*casella);
+  ConPassoFisso(*ui_->txtCar);
 }
 
 void frmVar::Collega() {
@@ -225,11 +206,12 @@ void frmVar::MostraCampione() {
   if (caricando_) return;
   const std::string riempimento = DaSchermo(ui_->txtCar->text());
   const std::string decimali = DaSchermo(ui_->txtDecimali->text());
-  ui_->txtValCampo->setText(PerSchermo(ValoreCampo({.Larghezza = Numero(ui_->txtLungh->text()),
-                                                    .Riempimento = riempimento,
-                                                    .ZeroVisibile = ui_->chkZero->isChecked(),
-                                                    .ConDecimali = ui_->chkDecimali->isChecked(),
-                                                    .Decimali = decimali})));
+  const std::string campione = ValoreCampo({.Larghezza = Numero(ui_->txtLungh->text()),
+                                            .Riempimento = riempimento,
+                                            .ZeroVisibile = ui_->chkZero->isChecked(),
+                                            .ConDecimali = ui_->chkDecimali->isChecked(),
+                                            .Decimali = decimali});
+  ImpostaComeSta(*ui_->txtValCampo, PerSchermo(campione));
 }
 
 void frmVar::Cerca() {

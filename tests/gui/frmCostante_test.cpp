@@ -76,11 +76,11 @@ TEST(FrmCostante, ACodeShowsTheTextBetweenTheQuotesSelected) {
   EXPECT_EQ(Conferma(dialogo), Codici({ConDelimitatori("V0;\"Sconto\"")}));
 }
 
-TEST(FrmCostante, WhatTheHostCannotPrintIsSeenInTheCode) {
+TEST(FrmCostante, WhatTheHostCannotPrintIsSeenInTheBoxAndInTheCode) {
   frmCostante dialogo(nullptr);
   Apri(dialogo);
   Casella(dialogo, "txtDescri").insert("10 € – Ω");
-  EXPECT_EQ(Caselle(dialogo), QStringList({"10 € – Ω", "«V0;\"10 € – ?\"»"}));
+  EXPECT_EQ(Caselle(dialogo), QStringList({"10 € – ?", "«V0;\"10 € – ?\"»"}));
   EXPECT_EQ(Conferma(dialogo), Codici({ConDelimitatori("V0;\"10 \x80 \x96 ?\"")}));
 }
 

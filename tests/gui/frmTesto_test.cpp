@@ -49,6 +49,14 @@ TEST(FrmTesto, WhatTheCodePageDoesNotHaveIsOneQuestionMarkEach) {
   EXPECT_EQ(SoloAnsi(QStringLiteral("\u4E2D\u20AC")), QStringLiteral("?\u20AC"));
 }
 
+TEST(FrmTesto, InOneLineEachLineEndIsASpaceAndNothingElseChanges) {
+  EXPECT_EQ(InUnaRiga(QStringLiteral("a\r\nb\rc\nd\u2028e\u2029f\u0085g\vh\fi")), "a b c d e f g h i");
+  EXPECT_EQ(InUnaRiga(QStringLiteral("a\u240D\u240Ab\u240Dc\u240Ad\u240Be\u240Cf")), "a b c d e f");
+  EXPECT_EQ(InUnaRiga("\n\r\r\n"), "   ");
+  const QString altri = QStringLiteral("\t\u2409\u2408\u240E \u00A0\u2027\u202A\u0084\u0086\u4E2D\u00AB");
+  EXPECT_EQ(InUnaRiga(altri), altri);
+}
+
 TEST(FrmTesto, TheDelimitersAreTheGuillemets) {
   EXPECT_EQ(PerSchermo("\xAB"
                        "V1;40L"

@@ -310,7 +310,7 @@ TEST_F(FrmVar, TheFillIsNothingThatWouldBreakTheCode) {
   Scrivi("txtCar", "«»");
   EXPECT_EQ(Codice(), "«V12;30L»");
   Casella("txtCar")->insert("\n");
-  EXPECT_EQ(Codice(), "«V12;30L»");
+  EXPECT_EQ(Codice(), "«V12;30L\" \"»");
 }
 
 TEST_F(FrmVar, BoxesOfNumbersAndTheSearchAreSelectedWholeWhenTheyGetTheFocus) {
