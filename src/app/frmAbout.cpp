@@ -5,7 +5,8 @@
 
 namespace parvik {
 
-frmAbout::frmAbout(QWidget* padre) : QDialog(padre), ui_(std::make_unique<Ui::frmAbout>()) {
+frmAbout::frmAbout(QWidget* padre)
+    : frmModale(padre, Chiusura::ComeAnnulla), ui_(std::make_unique<Ui::frmAbout>()) {
   ui_->setupUi(this);
   ui_->picIcon->setPixmap(windowIcon().pixmap(64, 64));
   ui_->lblVersion->setText(QStringLiteral("Version %1").arg(VersioneVisibile));

@@ -1,8 +1,9 @@
 // The About box.
 #pragma once
 
-#include <QDialog>
 #include <memory>
+
+#include "common/frmModale.h"
 
 namespace Ui {
 class frmAbout;
@@ -10,7 +11,7 @@ class frmAbout;
 
 namespace parvik {
 
-class frmAbout final : public QDialog {
+class frmAbout final : public frmModale {
   Q_OBJECT
 
  public:

@@ -1,8 +1,10 @@
-// The ways of every dialog that gives an answer: Escape is its Cancel button, Enter its OK button, and the
-// window's own close box does nothing.
+// The ways of every dialog that gives an answer: Escape is its Cancel button, and Enter clicks the button
+// that it means (docs/key-rules.md).
 #pragma once
 
 #include <QDialog>
+
+#include "common/frmPulsanti.h"
 
 namespace parvik {
 
@@ -10,10 +12,19 @@ class frmModale : public QDialog {
   Q_OBJECT
 
  public:
-  explicit frmModale(QWidget* padre);
+  /// What the window's own close box does.
+  enum class Chiusura { Rifiutata, ComeAnnulla };
+
+  explicit frmModale(QWidget* padre, Chiusura chiusura = Chiusura::Rifiutata);
 
  protected:
   void closeEvent(QCloseEvent* evento) override;
+
+  frmPulsanti& Tasti() { return tasti_; }
+
+ private:
+  Chiusura chiusura_;
+  frmPulsanti tasti_{*this};
 };
 
 }  // namespace parvik

@@ -26,7 +26,8 @@ int Passo(const QEvent& evento) {
 
 }  // namespace
 
-frmDestStampa::frmDestStampa(QWidget* padre) : QDialog(padre), ui_(std::make_unique<Ui::frmDestStampa>()) {
+frmDestStampa::frmDestStampa(QWidget* padre)
+    : frmModale(padre, Chiusura::ComeAnnulla), ui_(std::make_unique<Ui::frmDestStampa>()) {
   ui_->setupUi(this);
   voci_ = {Voce{ui_->optStampa, ui_->picDest_0, ui_->shaDest_0},
            Voce{ui_->optFile, ui_->picDest_1, ui_->shaDest_1},
@@ -62,7 +63,7 @@ bool frmDestStampa::eventFilter(QObject* oggetto, QEvent* evento) {
     if (oggetto == voce.Opzione && evento->type() == QEvent::FocusOut) Incornicia(voce, false);
     if (oggetto == voce.Immagine && evento->type() == QEvent::MouseButtonPress) voce.Opzione->setFocus();
   }
-  return QDialog::eventFilter(oggetto, evento);
+  return frmModale::eventFilter(oggetto, evento);
 }
 
 void frmDestStampa::Scegli(Destinazione destinazione) {

@@ -1,11 +1,11 @@
 // The dialog that asks where a print goes. It always opens on the printer.
 #pragma once
 
-#include <QDialog>
 #include <array>
 #include <memory>
 #include <optional>
 
+#include "common/frmModale.h"
 #include "output/Destinazione.h"
 
 class QFrame;
@@ -18,7 +18,7 @@ class frmDestStampa;
 
 namespace parvik {
 
-class frmDestStampa final : public QDialog {
+class frmDestStampa final : public frmModale {
   Q_OBJECT
 
  public:

@@ -66,6 +66,7 @@ void frmVar::PreparaCaselle() {
   SoloCifre(*ui_->txtDecimali, 1, "*");
   TestoDiCodice(*ui_->txtCar, 1);
   UnaRiga(*ui_->txtTrova);
+  Tasti().InvioIn(*ui_->txtTrova, *ui_->cmdTrova);
   for (QLineEdit* casella : {ui_->txtTrova, ui_->txtLungh, ui_->txtMulti, ui_->txtDecimali}) {
     SelezionaTuttoAlFuoco(*casella);
   }

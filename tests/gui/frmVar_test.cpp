@@ -396,7 +396,7 @@ TEST_F(FrmVar, AFlagThatWasNotChosenLeavesTheOneBefore) {
 }
 
 TEST_F(FrmVar, EnterIsOkInTheListAndInEveryBox) {
-  for (const char* nome : {"lstVar", "txtTrova", "cmdTrova", "cmdFlag", "txtLungh", "txtCar", "optAll_0"}) {
+  for (const char* nome : {"lstVar", "txtLungh", "txtCar", "optAll_0", "chkMulti"}) {
     frmVar altro(QuattroVariabili(), NessunFlag, nullptr);
     altro.show();
     auto* controllo = Trova<QWidget>(altro, nome);

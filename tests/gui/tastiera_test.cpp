@@ -57,7 +57,8 @@ void InserisciVariabileConFlag(Finestra& finestra) {
       QTest::keyClick(flag.focusWidget(), Qt::Key_Down);
       Conferma(flag);
     });
-    QTest::keyClick(dialogo.focusWidget(), Qt::Key_Space);
+    QTest::keyClick(dialogo.focusWidget(), Qt::Key_Return);
+    TabulaFinoA(dialogo, "cmdOk");
     Conferma(dialogo);
   });
   QTest::keyClick(&finestra.Sezione(0), Qt::Key_F4);
