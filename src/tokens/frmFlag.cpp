@@ -24,6 +24,7 @@ frmFlag::frmFlag(std::vector<Flag> flag, QWidget* padre)
   MostraCodici(*ui_->txtFlag);
   for (const Flag& voce : flag_) ui_->lstFlag->addItem(PerSchermo(voce.Descrizione));
   connect(ui_->lstFlag, &QListWidget::currentRowChanged, this, &frmFlag::CaricaVoce);
+  connect(ui_->lstFlag, &QListWidget::itemClicked, this, &frmFlag::TogliAvviso);
   connect(ui_->chkSost, &QCheckBox::toggled, this, &frmFlag::CambiaInterruttore);
   connect(ui_->cmdOk, &QPushButton::clicked, this, &QDialog::accept);
   connect(ui_->cmdCanc, &QPushButton::clicked, this, &QDialog::reject);
@@ -35,16 +36,22 @@ frmFlag::~frmFlag() = default;
 void frmFlag::Mostra(std::string_view contenuto) {
   if (flag_.empty()) return;
   const CodiceFlag codice = LeggiFlag(contenuto);
-  const std::size_t voce = VoceDi(codice.Numero);
+  const std::optional<std::size_t> trovata = VoceDi(codice.Numero);
+  const std::size_t voce = trovata.value_or(0);
   flag_[voce].Valore = codice.Interruttore;
   ui_->lstFlag->setCurrentRow(static_cast<int>(voce));
   CaricaVoce();  // the entry may have been the selected one
+  if (trovata) return;
+  const QString numero = EUnNumero(codice.Numero) ? PerSchermo(codice.Numero) : "0";
+  AvvisaManca(*ui_->lblAvviso, "Il flag " + numero,
+              flag_[voce].Descrizione.empty() ? QString() : ui_->txtFlag->text());
 }
 
 /// Numbers are compared as numbers: one of any size is no other entry's.
-std::size_t frmFlag::VoceDi(std::string_view numero) const {
+std::optional<std::size_t> frmFlag::VoceDi(std::string_view numero) const {
   const auto voce = std::ranges::find(flag_, NumeroLeniente(numero), &Flag::Codice);
-  return voce == flag_.end() ? 0 : static_cast<std::size_t>(voce - flag_.begin());
+  if (voce == flag_.end()) return std::nullopt;
+  return static_cast<std::size_t>(voce - flag_.begin());
 }
 
 std::vector<std::string> frmFlag::Codici() const {
@@ -60,6 +67,7 @@ std::optional<std::size_t> frmFlag::VoceSelezionata() const {
 }
 
 void frmFlag::CaricaVoce() {
+  TogliAvviso();
   const auto voce = VoceSelezionata();
   if (!voce) return;
   const QSignalBlocker muto(ui_->chkSost);  // showing a switch does not choose one
@@ -68,6 +76,7 @@ void frmFlag::CaricaVoce() {
 }
 
 void frmFlag::CambiaInterruttore() {
+  TogliAvviso();
   const auto voce = VoceSelezionata();
   if (!voce) return;
   flag_[*voce].Valore = ui_->chkSost->isChecked() ? "S" : "N";

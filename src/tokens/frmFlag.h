@@ -22,15 +22,15 @@ class frmFlag final : public frmCodice {
   frmFlag(std::vector<Flag> flag, QWidget* padre);
   ~frmFlag() override;
 
-  /// Selects the first entry that has the code's number, entry 0 when none has, and gives it the code's
-  /// switch.
+  /// Selects the first entry that has the code's number, entry 0 when none has (a line says so), and gives it
+  /// the code's switch.
   void Mostra(std::string_view contenuto) override;
   /// The flag code of the selected entry; none for an entry without a text.
   std::vector<std::string> Codici() const override;
 
  private:
   std::optional<std::size_t> VoceSelezionata() const;
-  std::size_t VoceDi(std::string_view numero) const;
+  std::optional<std::size_t> VoceDi(std::string_view numero) const;
   void CaricaVoce();
   void CambiaInterruttore();
   void MostraCodice(const Flag& flag);

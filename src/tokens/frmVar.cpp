@@ -76,6 +76,7 @@ void frmVar::PreparaCaselle() {
 
 void frmVar::Collega() {
   connect(ui_->lstVar, &QListWidget::currentRowChanged, this, &frmVar::CaricaVoce);
+  connect(ui_->lstVar, &QListWidget::itemClicked, this, &frmVar::TogliAvviso);
   connect(ui_->cmdTrova, &QPushButton::clicked, this, &frmVar::Cerca);
   connect(ui_->cmdFlag, &QPushButton::clicked, this, &frmVar::ScegliFlag);
   CollegaFormato();
@@ -91,11 +92,15 @@ void frmVar::CollegaFormato() {
   });
   CollegaNumero(*ui_->txtMulti, &Variabile::Intero5);
   connect(ui_->chkMulti, &QCheckBox::toggled, this, [this](bool spuntata) {
-    if (!caricando_) SeguiSpunta(*ui_->txtMulti, spuntata);
+    if (caricando_) return;
+    TogliAvviso();
+    SeguiSpunta(*ui_->txtMulti, spuntata);
   });
   CollegaTesto(*ui_->txtDecimali, &Variabile::Testo2);
   connect(ui_->chkDecimali, &QCheckBox::toggled, this, [this](bool spuntati) {
-    if (!caricando_) SeguiSpunta(*ui_->txtDecimali, spuntati);
+    if (caricando_) return;
+    TogliAvviso();
+    SeguiSpunta(*ui_->txtDecimali, spuntati);
     MostraCampione();
   });
   CollegaSpunta(*ui_->chkSegno, &Variabile::Intero6);
@@ -129,11 +134,18 @@ void frmVar::Mostra(std::string_view contenuto) {
   const VariabileLetta letta = LeggiVariabile(contenuto, variabili_);
   if (letta.Voce) variabili_[*letta.Voce] = letta.Formato;
   Seleziona(letta.Voce.value_or(0));
+  if (letta.Voce) return;
+  AvvisaManca(*ui_->lblAvviso, QStringLiteral("La variabile %1").arg(letta.Formato.Intero1),
+              SenzaVariabili() ? QString() : ui_->txtVar->text());
+}
+
+bool frmVar::SenzaVariabili() const {
+  return variabili_.empty() || variabili_.front().Descrizione.empty();
 }
 
 std::vector<std::string> frmVar::Codici() const {
   const auto voce = VoceSelezionata();
-  if (result() != Accepted || !voce || variabili_.front().Descrizione.empty()) return {};
+  if (result() != Accepted || !voce || SenzaVariabili()) return {};
   std::vector<std::string> codici;
   if (codiceFlag_.find_first_not_of(' ') != std::string::npos) codici.push_back(codiceFlag_);
   codici.push_back(CostruisciVariabile(variabili_[*voce]));
@@ -156,6 +168,7 @@ void frmVar::Seleziona(std::size_t voce) {
 }
 
 void frmVar::CaricaVoce() {
+  TogliAvviso();
   const auto voce = VoceSelezionata();
   if (!voce) return;
   Variabile& variabile = variabili_[*voce];
@@ -194,6 +207,7 @@ void frmVar::AbilitaFormato(const Variabile& variabile) {
 void frmVar::Scrivi(const std::function<void(Variabile&)>& modifica) {
   const auto voce = VoceSelezionata();
   if (caricando_ || !voce) return;
+  TogliAvviso();
   modifica(variabili_[*voce]);
   MostraCodice(variabili_[*voce]);
   MostraCampione();

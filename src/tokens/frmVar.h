@@ -30,7 +30,7 @@ class frmVar final : public frmCodice {
   ~frmVar() override;
 
   /// Selects the variable that the code names and gives it the code's format. When no entry has the number,
-  /// entry 0 is selected and keeps its own format.
+  /// entry 0 is selected and keeps its own format; a line says so.
   void Mostra(std::string_view contenuto) override;
   /// The flag code, when one was chosen, then the code of the selected variable. None when the first entry
   /// has no text: that is a section without variables.
@@ -44,6 +44,7 @@ class frmVar final : public frmCodice {
   void CollegaTesto(QLineEdit& casella, std::string Variabile::*campo);
   void CollegaSpunta(QCheckBox& spunta, std::int16_t Variabile::*campo);
 
+  bool SenzaVariabili() const;
   std::optional<std::size_t> VoceSelezionata() const;
   void Seleziona(std::size_t voce);
   void CaricaVoce();
