@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFontDatabase>
 #include <QMenuBar>
 #include <cmath>
 #include <utility>
@@ -20,11 +19,8 @@
 namespace parvik {
 namespace {
 
-constexpr std::array<const char*, MaxSezioni> Didascalie = {"T e s t a t a", "C o r p o", "P i e d e"};
 constexpr int SinistraEtichette = 4;  // pixels
-constexpr int MargineEtichette = 3;   // pixels, on each side of a label's letters
 const QSize DimensioneIniziale(1100, 700);
-const QColor RossoAttiva(255, 0, 0);
 
 int InTwip(int pixel) {
   return pixel * TwipPerPixel;
@@ -71,7 +67,7 @@ void frmParvik::CreaControlli() {
   area_->installEventFilter(this);
   setCentralWidget(area_);
   for (const Sezione sezione : TutteLeSezioni) {
-    CreaEtichetta(sezione);
+    etichette_[Indice(sezione)] = new lblTCP(sezione, area_);
     CreaSezione(sezione);
   }
   anteprima_ = new ricAnte(area_);
@@ -83,7 +79,7 @@ void frmParvik::CreaControlli() {
 void frmParvik::CreaDivisore() {
   auto* divisore = new frmDivisore(anteprima_, this);
   for (txtTCP* sezione : sezioni_) divisore->Osserva(sezione);
-  for (QLabel* etichetta : etichette_) divisore->Osserva(etichetta);
+  for (lblTCP* etichetta : etichette_) divisore->Osserva(etichetta);
   connect(divisore, &frmDivisore::Spostato, this, &frmParvik::SpostaDivisore);
 }
 
@@ -101,25 +97,10 @@ void frmParvik::CreaSezione(Sezione sezione) {
   sezioni_[Indice(sezione)] = editor;
 }
 
-void frmParvik::CreaEtichetta(Sezione sezione) {
-  auto* etichetta = new QLabel(Didascalie[Indice(sezione)], area_);
-  etichetta->setObjectName(QStringLiteral("lblTCP_%1").arg(Indice(sezione)));
-  etichetta->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  etichetta->setWordWrap(true);
-  etichetta->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-  etichetta->hide();
-  etichette_[Indice(sezione)] = etichetta;
-}
-
-/// Narrow strips: a fixed-pitch font makes the spaced captions wrap after every letter. Measuring loads the
-/// font, so it is not done before a label is to be seen.
 void frmParvik::MisuraEtichette() {
   if (etichetteMisurate_) return;
   etichetteMisurate_ = true;
-  for (QLabel* etichetta : etichette_) {
-    const int larghezza = etichetta->fontMetrics().horizontalAdvance('M') + 2 * MargineEtichette;
-    etichetta->resize(larghezza, etichetta->heightForWidth(larghezza));
-  }
+  for (lblTCP* etichetta : etichette_) etichetta->Misura();
 }
 
 void frmParvik::CreaMenu() {
@@ -263,11 +244,7 @@ void frmParvik::ResizeControls() {
 }
 
 void frmParvik::ColoraLabel(Sezione attiva) {
-  for (const Sezione sezione : TutteLeSezioni) {
-    QPalette colori;  // all else is the window's, whatever palette comes
-    if (sezione == attiva) colori.setColor(QPalette::WindowText, RossoAttiva);
-    etichette_[Indice(sezione)]->setPalette(colori);
-  }
+  for (const Sezione sezione : TutteLeSezioni) etichette_[Indice(sezione)]->Attiva(sezione == attiva);
 }
 
 std::string frmParvik::Testo(Sezione sezione) const {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QHash>
-#include <QLabel>
 #include <QMainWindow>
 #include <array>
 #include <filesystem>
@@ -14,6 +13,7 @@
 #include "app/Disposizione.h"
 #include "app/Editore.h"
 #include "app/frmMaschere.h"
+#include "app/lblTCP.h"
 #include "output/frmSettaFlag.h"
 #include "output/frmTotRighe.h"
 #include "output/lblRighe.h"
@@ -51,7 +51,6 @@ class frmParvik final : public QMainWindow, private Vista {
 
   void CreaControlli();
   void CreaDivisore();
-  void CreaEtichetta(Sezione sezione);
   void MisuraEtichette();
   void CreaSezione(Sezione sezione);
   void CreaMenu();
@@ -70,7 +69,7 @@ class frmParvik final : public QMainWindow, private Vista {
 
   QWidget* area_ = nullptr;
   std::array<txtTCP*, MaxSezioni> sezioni_ = {};
-  std::array<QLabel*, MaxSezioni> etichette_ = {};
+  std::array<lblTCP*, MaxSezioni> etichette_ = {};
   lblRighe* lblRighe_ = nullptr;
   ricAnte* anteprima_ = nullptr;
   std::optional<int> divisore_;  // in twips; where the user has dragged the boundary since the last resize

@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QIcon>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QTreeView>
@@ -56,6 +57,8 @@ Risposta frmDialoghi::Chiedi(const Messaggio& messaggio) {
   QMessageBox scatola(IconaDi(messaggio.Simbolo), DaUtf8(messaggio.Titolo), DaUtf8(messaggio.Testo),
                       PulsantiDi(messaggio.Tasti), padre_);
   scatola.setTextFormat(Qt::PlainText);
+  // The program gets its icon after its window; a message may come before.
+  if (scatola.windowIcon().isNull()) scatola.setWindowIcon(QIcon(":/ordavia.png"));
   scatola.setDefaultButton(messaggio.Tasti == Pulsanti::Ok ? QMessageBox::Ok : QMessageBox::Yes);
   return RispostaDi(scatola.exec());
 }

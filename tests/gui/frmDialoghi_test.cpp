@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTreeView>
+#include <QWindow>
 
 #include "Finestra.h"
 
@@ -63,6 +64,18 @@ TEST(FrmDialoghi, AnErrorHasTheCriticalIconAndIsReadAsPlainText) {
   });
   frmDialoghi dialoghi;
   EXPECT_EQ(dialoghi.Chiedi({.Testo = "uno <b>due</b>\r\ntre"}), Risposta::Ok);
+}
+
+TEST(FrmDialoghi, AMessageBeforeThereIsAWindowHasTheProgramsIconAndItsOwn) {
+  ASSERT_TRUE(QApplication::windowIcon().isNull()) << "as at the start of the program";
+  NelProssimoDialogo([](QDialog& dialogo) {
+    EXPECT_FALSE(dialogo.windowIcon().pixmap(16, 16).isNull());
+    EXPECT_FALSE(dialogo.windowHandle()->icon().isNull());
+    EXPECT_FALSE(Scatola(dialogo).iconPixmap().isNull());
+    QTest::keyClick(&dialogo, Qt::Key_Return);
+  });
+  frmDialoghi dialoghi;
+  EXPECT_EQ(dialoghi.Chiedi({.Testo = "fatale"}), Risposta::Ok);
 }
 
 class FrmDialoghiFile : public testing::Test {

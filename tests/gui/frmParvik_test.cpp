@@ -133,6 +133,50 @@ TEST(FrmParvik, TheLabelOfTheSectionWithTheFocusIsRed) {
   EXPECT_EQ(rosse(), QList<int>({1}));
 }
 
+/// Whether the leftmost pixels of a label, from its top to its bottom, are the bar of the active one.
+bool HaLaBarra(const QLabel& etichetta) {
+  const QImage figura = const_cast<QLabel&>(etichetta).grab().toImage();
+  const QRgb colore = etichetta.parentWidget()->palette().color(QPalette::WindowText).rgb();
+  for (int y = 0; y < figura.height(); ++y) {
+    for (int x = 0; x < 2; ++x) {
+      if (figura.pixel(x, y) != colore) return false;
+    }
+  }
+  return true;
+}
+
+bool HaDelRosso(const QLabel& etichetta) {
+  const QImage figura = const_cast<QLabel&>(etichetta).grab().toImage();
+  for (int y = 0; y < figura.height(); ++y) {
+    for (int x = 3; x < figura.width(); ++x) {
+      const QColor colore = figura.pixelColor(x, y);
+      if (colore.red() > colore.green() + 60) return true;
+    }
+  }
+  return false;
+}
+
+TEST(FrmParvik, TheActiveLabelHasABarBesideItsRedInEveryPalette) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  const auto etichetta = [&finestra](int i) -> const QLabel& {
+    return *Trova<QLabel>(*finestra, qPrintable(QStringLiteral("lblTCP_%1").arg(i)));
+  };
+  QList<QRect> posti;
+  for (int i = 0; i < 3; ++i) posti += etichetta(i).geometry();
+  for (const QColor& fondo : {QColor(239, 239, 239), QColor(45, 45, 45)}) {
+    finestra->setPalette(QPalette(fondo));
+    for (const int attiva : {1, 2, 0}) {
+      finestra.Sezione(attiva).setFocus();
+      for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(HaLaBarra(etichetta(i)), i == attiva) << i << " of " << attiva;
+        EXPECT_EQ(HaDelRosso(etichetta(i)), i == attiva) << i << " of " << attiva;
+        EXPECT_EQ(etichetta(i).geometry(), posti[i]);
+      }
+    }
+  }
+}
+
 TEST(FrmParvik, LabelsHaveNoAccessibleNameOfTheirOwn) {
   Finestra finestra;
   for (const char* nome : {"lblTCP_0", "lblTCP_1", "lblTCP_2", "lblRighe"}) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QFontInfo>
 #include <QGroupBox>
@@ -120,6 +121,14 @@ TEST_F(FrmVar, NamesItsBoxes) {
   EXPECT_EQ(Casella("txtFlag")->accessibleName(), "Codice del flag");
   EXPECT_EQ(Casella("txtMulti")->accessibleName(), "Numero di linee");
   EXPECT_EQ(Casella("txtDecimali")->accessibleName(), "Numero di decimali");
+}
+
+/// Inside another frame the toolkit reads out that one's title.
+TEST_F(FrmVar, EachFrameIsReadByItsOwnTitle) {
+  for (const char* nome : {"fraVarDisp", "fraFormatoVar", "fraAllinea", "fraTipoVar"}) {
+    auto* riquadro = Trova<QGroupBox>(dialogo_, nome);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(riquadro)->text(QAccessible::Name), riquadro->title());
+  }
 }
 
 TEST_F(FrmVar, OpeningOnANumericCodeShowsAllOfItsFormat) {
