@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/Editore.h"
+#include "common/Avverti.h"
 #include "common/Percorsi.h"
 #include "output/StampaSuFile.h"
 
@@ -141,11 +142,13 @@ void Editore::StampaTesto() {
   if (scelto.empty()) return;
   fileStampa_ = ConEstensione(scelto, EstensioneTesti);
   LavoroStampa lavoro = LavoroSenzaTesti();
+  std::optional<Scritto> scritto;
   // The command is silent on every failure: the old file, if there was one, is whole.
   static_cast<void>(vista_.Attendi([&](const std::stop_token& smetti) {
     PrendiTesti(lavoro, smetti);
-    if (!smetti.stop_requested()) StampaSuFile(fileStampa_, lavoro.Dati(), smetti);
+    if (!smetti.stop_requested()) scritto = StampaSuFile(fileStampa_, lavoro.Dati(), smetti);
   }));
+  if (scritto) Avverti(*scritto, interlocutore_);
 }
 
 }  // namespace parvik

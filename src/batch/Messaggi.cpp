@@ -35,6 +35,15 @@ void Segnala(const std::filesystem::path& file, NumeroErrore errore) {
   Segnala(file, TestoErrore(errore));
 }
 
+bool SegnalaScritto(const std::filesystem::path& file, const EsitoScrittura& scritto) {
+  if (!scritto) {
+    Segnala(file, TestoErrore(scritto.Errore()));
+    return false;
+  }
+  if (const std::string avviso = TestoAvviso(*scritto); !avviso.empty()) Segnala(file, "avviso: " + avviso);
+  return true;
+}
+
 std::string PerTabella(std::string_view ansi) {
   constexpr unsigned char Cancellazione = 0x7F;
   std::string pulito(ansi);

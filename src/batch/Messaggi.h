@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "common/ErroreRuntime.h"
+#include "common/EsitoScrittura.h"
 
 namespace parvik::batch {
 
@@ -14,6 +14,8 @@ void Segnala(std::string_view testo);
 /// The same about a file.
 void Segnala(const std::filesystem::path& file, std::string_view testo);
 void Segnala(const std::filesystem::path& file, NumeroErrore errore);
+/// What came of writing it, if there is anything to say. Whether it was written.
+bool SegnalaScritto(const std::filesystem::path& file, const EsitoScrittura& scritto);
 
 /// A text of the catalogue as it is printed in a table: UTF-8, control characters as spaces.
 std::string PerTabella(std::string_view ansi);

@@ -24,9 +24,7 @@ bool NormalizzaFile(const std::filesystem::path& file, const std::filesystem::pa
     Segnala(file, immagine.Errore());
     return false;
   }
-  const Esito<void> scritto = ScriviFile(uscita, *immagine);
-  if (!scritto) Segnala(uscita, scritto.Errore());
-  return static_cast<bool>(scritto);
+  return SegnalaScritto(uscita, ScriviFile(uscita, *immagine));
 }
 
 /// Too little memory for one file must not stop the others.

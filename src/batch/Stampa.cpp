@@ -65,20 +65,16 @@ std::optional<std::size_t> RendiTutti(const Opzioni& opzioni, const TipoDoc& tip
 }
 
 bool StampaSuFile(const Opzioni& opzioni, const TipoDoc& tipo, const FlagPerStampe& flag) {
-  Esito<ScritturaSicura> file = ScritturaSicura::Apri(*opzioni.Uscita);
+  auto file = ScritturaSicura::Apri(*opzioni.Uscita);
   if (!file) {
-    Segnala(*opzioni.Uscita, file.Errore());
+    Segnala(*opzioni.Uscita, TestoErrore(file.Errore()));
     return false;
   }
   RigheSuFile uscita(std::move(*file));
   const std::optional<std::size_t> resi = RendiTutti(opzioni, tipo, flag, uscita);
   // Where nothing at all could be rendered, the old file is not replaced by an empty one.
   if (resi == 0) return false;
-  if (const Esito<void> scritto = uscita.Conferma(); !scritto) {
-    Segnala(*opzioni.Uscita, scritto.Errore());
-    return false;
-  }
-  return resi == opzioni.File.size();
+  return SegnalaScritto(*opzioni.Uscita, uscita.Conferma()) && resi == opzioni.File.size();
 }
 
 bool StampaSuUscitaStandard(const Opzioni& opzioni, const TipoDoc& tipo, const FlagPerStampe& flag) {

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <utility>
 
+#include "common/FileProvvisorio.h"
 #include "common/OperazioniFile.h"
-#include "common/ScritturaAccanto.h"
 
 namespace parvik {
 
@@ -15,29 +15,29 @@ namespace parvik {
 /// folder. A copy that exists is whole: it takes its name when its bytes are on the disk.
 class CopiaDiRiserva {
  public:
-  /// Makes the copy of `contenuto`, with the rights of `originale`. On failure there is none.
-  static Esito<CopiaDiRiserva> Crea(const std::filesystem::path& originale, std::string_view contenuto);
+  /// Makes the copy of `contenuto`, with the rights of `originale`. On failure there is none. EBUSY when
+  /// somebody else is at work on the file.
+  static EsitoSistema<CopiaDiRiserva> Crea(const std::filesystem::path& originale,
+                                           std::string_view contenuto);
+
+  /// Where it lies.
+  std::filesystem::path Nome() const { return file_->NomeVecchio(); }
+  /// Where the copy of an earlier, interrupted save was kept, if that is not beside the file; else "".
+  const std::filesystem::path& CopiaTenuta() const { return file_->CopiaTenuta(); }
 
   /// Takes the copy away. One that cannot be taken away now is by the next save.
   void Togli();
 
  private:
-  struct Posto {
-    std::filesystem::path Nome;  // the file's own, or the one that stands for it in the folder below
-    std::filesystem::path Temporanea = {};  // empty for a copy beside the file
-  };
+  using Posto = FileProvvisorio::Posto;
   explicit CopiaDiRiserva(Posto posto) : posto_(std::move(posto)) {}
-  static EsitoSistema<Posto> PostoTemporaneo(const std::filesystem::path& originale);
-  EsitoSistema<void> Apri(const std::filesystem::path& originale);
-  void TogliCartella() const;
+  static EsitoSistema<CopiaDiRiserva> CreaIn(Posto posto, std::string_view contenuto);
+  static EsitoSistema<CopiaDiRiserva> CreaAltrove(const std::filesystem::path& originale,
+                                                  std::string_view contenuto);
+  EsitoSistema<void> Scrivi(std::string_view contenuto);
 
   Posto posto_;
-  std::unique_ptr<ScritturaAccanto> strada_;  // keeps the copy locked: nobody takes it for an abandoned one
+  std::unique_ptr<FileProvvisorio> file_;  // keeps the copy locked: nobody takes it for an abandoned one
 };
-
-/// What a killed program left of the kind beside `file` may be the only whole old content that there is: it
-/// gets the name of a previous content (CopiaPrecedente.h), unless its bytes are those of the file. A failure
-/// leaves it where it is; EBUSY when it is in use.
-EsitoSistema<void> ConservaCopiaInterrotta(const std::filesystem::path& file);
 
 }  // namespace parvik

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string_view>
 
-#include "common/Esito.h"
+#include "common/EsitoScrittura.h"
 
 namespace parvik {
 
@@ -13,6 +13,6 @@ std::filesystem::path NomePrecedente(const std::filesystem::path& file);
 
 /// Keeps `contenuto` there, whole and on the disk, with the rights of `file` (links are followed: the copy
 /// lies beside the file that they lead to). Only the newest is kept. On failure an older one stays.
-Esito<void> ConservaPrecedente(const std::filesystem::path& file, std::string_view contenuto);
+EsitoPasso ConservaPrecedente(const std::filesystem::path& file, std::string_view contenuto);
 
 }  // namespace parvik

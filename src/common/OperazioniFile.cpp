@@ -1,5 +1,6 @@
 #include "common/OperazioniFile.h"
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -7,10 +8,10 @@
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <cstdint>
 #include <cstdio>
 #include <utility>
 
+#include "common/Impronta.h"
 #include "common/Ripeti.h"
 
 namespace parvik {
@@ -21,18 +22,6 @@ namespace fs = std::filesystem;
 EsitoSistema<void> DaRisultato(int risultato) {
   if (risultato == 0) return {};
   return errno;
-}
-
-/// FNV-1a: short, and the same in every version of the program.
-std::string Impronta(std::string_view testo) {
-  constexpr std::uint64_t Base = 0xCBF29CE484222325U;
-  constexpr std::uint64_t Primo = 0x100000001B3U;
-  std::uint64_t impronta = Base;
-  for (const char c : testo) impronta = (impronta ^ static_cast<unsigned char>(c)) * Primo;
-  constexpr std::string_view Cifre = "0123456789abcdef";
-  std::string esadecimale;
-  for (unsigned int bit = 64; bit > 0; bit -= 4) esadecimale += Cifre[(impronta >> (bit - 4)) & 15U];
-  return esadecimale;
 }
 
 /// The target of one link, "" when there is no link.
@@ -47,9 +36,9 @@ EsitoSistema<fs::path> LeggiCollegamento(const fs::path& percorso) {
 
 }  // namespace
 
-Esito<void> PerUtente(const EsitoSistema<void>& passo) {
+EsitoPasso PerUtente(const EsitoSistema<void>& passo) {
   if (passo) return {};
-  return DaErrno(passo.Errore());
+  return ErroreDaErrno(passo.Errore());
 }
 
 EsitoSistema<fs::path> SeguiCollegamenti(fs::path percorso) {
@@ -68,13 +57,14 @@ fs::path CartellaDi(const fs::path& file) {
 }
 
 std::string NomeDerivato(std::string_view prima, std::string_view nome, std::string_view dopo) {
-  constexpr std::size_t Spazio = 16 + 1;  // the number and a hyphen
+  constexpr unsigned int Cifre = 16;
+  constexpr std::size_t Spazio = Cifre + 1;  // the number and a hyphen
   std::string derivato(prima);
   if (prima.size() + nome.size() + dopo.size() <= NAME_MAX) {
     derivato += nome;
   } else {
     derivato.append(nome.substr(0, NAME_MAX - prima.size() - dopo.size() - Spazio));
-    derivato.append("-").append(Impronta(nome));
+    derivato.append("-").append(Esadecimale(Impronta(nome), Cifre));
   }
   return derivato.append(dopo);
 }
@@ -115,13 +105,33 @@ EsitoSistema<void> Sincronizza(const Descrittore& file) {
   return DaRisultato(Ripeti([&] { return ::fsync(file.Numero()); }));
 }
 
-EsitoSistema<void> SincronizzaCartella(const fs::path& cartella) {
-  const Descrittore dir = ApriFile(cartella, O_RDONLY | O_DIRECTORY);
-  if (!dir && errno == EACCES) return {};
-  if (!dir) return errno;
-  const EsitoSistema<void> esito = Sincronizza(dir);
+EsitoSistema<Descrittore> ApriCartella(const fs::path& cartella) {
+  Descrittore dir = ApriFile(cartella, O_RDONLY | O_DIRECTORY);
+  if (!dir && errno != EACCES) return errno;
+  return dir;
+}
+
+EsitoSistema<void> SincronizzaCartella(const Descrittore& cartella) {
+  const EsitoSistema<void> esito = Sincronizza(cartella);
   if (!esito && (esito.Errore() == EINVAL || esito.Errore() == ENOTSUP)) return {};
   return esito;
+}
+
+EsitoSistema<void> LeggiCartella(const Descrittore& cartella,
+                                 const std::function<void(std::string_view nome)>& nome) {
+  constexpr std::size_t Spazio = 32768;
+  alignas(dirent64) std::array<char, Spazio> voci;
+  if (::lseek(cartella.Numero(), 0, SEEK_SET) != 0) return errno;
+  for (;;) {
+    const ssize_t letti = Ripeti([&] { return ::getdents64(cartella.Numero(), voci.data(), voci.size()); });
+    if (letti < 0) return errno;
+    if (letti == 0) return {};
+    for (std::size_t i = 0; i < static_cast<std::size_t>(letti);) {
+      const auto* voce = reinterpret_cast<const dirent64*>(voci.data() + i);
+      nome(voce->d_name);
+      i += voce->d_reclen;
+    }
+  }
 }
 
 EsitoSistema<void> Chiudi(Descrittore& file) {
@@ -136,8 +146,14 @@ EsitoSistema<void> Togli(const fs::path& file) {
   return DaRisultato(Ripeti([&] { return ::unlink(file.c_str()); }));
 }
 
-bool Blocca(const Descrittore& file) {
-  return Ripeti([&] { return ::flock(file.Numero(), LOCK_EX | LOCK_NB); }) == 0 || errno != EWOULDBLOCK;
+bool StessoFile(const struct stat& a, const struct stat& b) {
+  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+Lucchetto Blocca(const Descrittore& file, Blocco blocco) {
+  const int operazione = (blocco == Blocco::Esclusivo ? LOCK_EX : LOCK_SH) | LOCK_NB;
+  if (Ripeti([&] { return ::flock(file.Numero(), operazione); }) == 0) return Lucchetto::Preso;
+  return errno == EWOULDBLOCK ? Lucchetto::Altrui : Lucchetto::Mancante;
 }
 
 bool NonPrendeFile(int errore) {

@@ -5,11 +5,12 @@
 #include <sys/stat.h>
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 
 #include "common/Descrittore.h"
-#include "common/Esito.h"
+#include "common/EsitoScrittura.h"
 
 namespace parvik {
 
@@ -18,7 +19,7 @@ template <class T>
 using EsitoSistema = Esito<T, int>;
 
 /// What a step that failed means to the user.
-Esito<void> PerUtente(const EsitoSistema<void>& passo);
+EsitoPasso PerUtente(const EsitoSistema<void>& passo);
 
 /// Where a chain of links (40 at most) ends, whether or not something stands there.
 EsitoSistema<std::filesystem::path> SeguiCollegamenti(std::filesystem::path percorso);
@@ -40,16 +41,24 @@ Descrittore ApriFile(const std::filesystem::path& file, int opzioni, mode_t modo
 
 EsitoSistema<void> ScriviTutto(const Descrittore& file, std::string_view byte);
 EsitoSistema<void> Sincronizza(const Descrittore& file);
-/// Brings the names in a folder to the disk. No failure where the system has no such thing, or where the
-/// folder may be used but not read.
-EsitoSistema<void> SincronizzaCartella(const std::filesystem::path& cartella);
+/// Empty, without an error, for a folder that may be used but not read.
+EsitoSistema<Descrittore> ApriCartella(const std::filesystem::path& cartella);
+/// Brings the names in a folder to the disk. No failure where the system has no such thing.
+EsitoSistema<void> SincronizzaCartella(const Descrittore& cartella);
+/// Hands over every name in a folder that is open for reading.
+EsitoSistema<void> LeggiCartella(const Descrittore& cartella,
+                                 const std::function<void(std::string_view nome)>& nome);
 EsitoSistema<void> Chiudi(Descrittore& file);
 EsitoSistema<void> Rinomina(const std::filesystem::path& da, const std::filesystem::path& a);
 EsitoSistema<void> Togli(const std::filesystem::path& file);
 
-/// Locks a file until every descriptor of it is closed. False when another program has it; where there are
-/// no locks nobody has.
-bool Blocca(const Descrittore& file);
+/// Whether two looks at a name found one file.
+bool StessoFile(const struct stat& a, const struct stat& b);
+
+enum class Blocco { Esclusivo, Condiviso };
+enum class Lucchetto { Preso, Altrui, Mancante };
+/// Locks a file until every descriptor of it is closed, without waiting. Mancante where there are no locks.
+Lucchetto Blocca(const Descrittore& file, Blocco blocco);
 
 /// Whether the errno means that a folder takes no new file, or none of that name: whoever can do without one
 /// beside may go on. A full disk is none of these.

@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <utility>
 
-#include "common/CopiaDiRiserva.h"
 #include "common/Ripeti.h"
 #include "common/ScritturaAccanto.h"
 #include "common/ScritturaSulPosto.h"
@@ -20,8 +19,11 @@ namespace fs = std::filesystem;
 class Diretta final : public ScritturaSicura::Strada {
  public:
   explicit Diretta(Descrittore file) : file_(std::move(file)) {}
-  Esito<void> Scrivi(std::string_view byte) override { return PerUtente(ScriviTutto(file_, byte)); }
-  Esito<void> Conferma() override { return PerUtente(Chiudi(file_)); }
+  EsitoPasso Scrivi(std::string_view byte) override { return PerUtente(ScriviTutto(file_, byte)); }
+  EsitoScrittura Conferma() override {
+    if (const auto passo = Chiudi(file_); !passo) return ErroreDaErrno(passo.Errore());
+    return Scritto();
+  }
 
  private:
   Descrittore file_;
@@ -39,11 +41,10 @@ EsitoStrada ApriDiretta(const fs::path& destinazione) {
 
 /// `originale`: whose attributes the file gets, or "".
 EsitoStrada ApriAccanto(const fs::path& destinazione, const fs::path& originale) {
-  if (const auto passo = ConservaCopiaInterrotta(destinazione); !passo) return passo.Errore();
-  auto accanto = ScritturaAccanto::Apri(
-      {.Destinazione = destinazione, .Provvisorio = NomeProvvisorio(destinazione), .Originale = originale});
-  if (!accanto) return accanto.Errore();
-  return EsitoStrada(std::move(*accanto));
+  auto accanto = ScritturaAccanto::Apri({.Destinazione = destinazione, .Originale = originale});
+  if (accanto) return EsitoStrada(std::move(*accanto));
+  // Nothing is missing when a new file is made, unless it is the folder.
+  return accanto.Errore() == ENOENT ? ENOTDIR : accanto.Errore();
 }
 
 EsitoStrada ApriEsistente(const fs::path& destinazione, const struct stat& vecchio) {
@@ -59,16 +60,27 @@ EsitoStrada ApriEsistente(const fs::path& destinazione, const struct stat& vecch
   return EsitoStrada(std::make_unique<ScritturaSulPosto>(destinazione));
 }
 
+/// Links in the folder of the open descriptors say what they lead to, but it need not be a path: a pipe has
+/// none. The system follows them all the same.
+EsitoStrada ApriStradaCollegata(const fs::path& collegamento, const fs::path& fine) {
+  const EsitoSistema<struct stat> daNome = Stato(fine);
+  const EsitoSistema<struct stat> daSistema = Stato(collegamento);
+  if (daSistema && !S_ISREG(daSistema->st_mode) && !S_ISDIR(daSistema->st_mode))
+    return ApriDiretta(collegamento);
+  if (daNome) return ApriEsistente(fine, *daNome);
+  if (daNome.Errore() != ENOENT) return daNome.Errore();
+  if (daSistema) return EBUSY;  // it is just coming, or has no name any more
+  return ApriAccanto(fine, {});
+}
+
 EsitoStrada ApriStrada(const fs::path& destinazione) {
   const EsitoSistema<fs::path> fine = SeguiCollegamenti(destinazione);
   if (!fine) return fine.Errore();
-  const EsitoSistema<struct stat> vecchio = Stato(*fine);
-  if (vecchio) return ApriEsistente(*fine, *vecchio);
+  if (*fine != destinazione) return ApriStradaCollegata(destinazione, *fine);
+  const EsitoSistema<struct stat> vecchio = Stato(destinazione);
+  if (vecchio) return ApriEsistente(destinazione, *vecchio);
   if (vecchio.Errore() != ENOENT) return vecchio.Errore();
-  EsitoStrada accanto = ApriAccanto(*fine, {});
-  // Nothing is missing when a new file is made, unless it is the folder.
-  if (!accanto && accanto.Errore() == ENOENT) return ENOTDIR;
-  return accanto;
+  return ApriAccanto(destinazione, {});
 }
 
 }  // namespace
@@ -78,25 +90,25 @@ ScritturaSicura::ScritturaSicura(ScritturaSicura&& altra) noexcept = default;
 ScritturaSicura& ScritturaSicura::operator=(ScritturaSicura&& altra) noexcept = default;
 ScritturaSicura::~ScritturaSicura() = default;
 
-Esito<ScritturaSicura> ScritturaSicura::Apri(const fs::path& destinazione) {
-  if (!destinazione.has_filename()) return NumeroErrore::AccessoPercorsoFile;
+Esito<ScritturaSicura, ErroreScrittura> ScritturaSicura::Apri(const fs::path& destinazione) {
+  if (!destinazione.has_filename()) return ErroreScrittura{NumeroErrore::AccessoPercorsoFile};
   EsitoStrada strada = ApriStrada(destinazione);
-  if (!strada) return DaErrno(strada.Errore());
+  if (!strada) return ErroreDaErrno(strada.Errore());
   return ScritturaSicura(std::move(*strada));
 }
 
-Esito<void> ScritturaSicura::Scrivi(std::string_view byte) {
+EsitoPasso ScritturaSicura::Scrivi(std::string_view byte) {
   return strada_->Scrivi(byte);
 }
 
-Esito<void> ScritturaSicura::Conferma() {
+EsitoScrittura ScritturaSicura::Conferma() {
   return strada_->Conferma();
 }
 
-Esito<void> ScriviFile(const fs::path& destinazione, std::string_view byte) {
-  Esito<ScritturaSicura> file = ScritturaSicura::Apri(destinazione);
+EsitoScrittura ScriviFile(const fs::path& destinazione, std::string_view byte) {
+  Esito<ScritturaSicura, ErroreScrittura> file = ScritturaSicura::Apri(destinazione);
   if (!file) return file.Errore();
-  if (const Esito<void> scritto = file->Scrivi(byte); !scritto) return scritto.Errore();
+  if (const EsitoPasso scritto = file->Scrivi(byte); !scritto) return scritto.Errore();
   return file->Conferma();
 }
 

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string_view>
 
-#include "common/Esito.h"
+#include "common/EsitoScrittura.h"
 
 namespace parvik {
 
@@ -16,24 +16,26 @@ namespace parvik {
 /// Links are followed: the file they lead to is replaced, the link stays. A regular file keeps its owner,
 /// attributes and rights where the system allows. A file with several names, or in a folder that takes no new
 /// file, is written in place, after a copy of the old content was laid aside. A device or a pipe is written
-/// to directly. AutorizzazioneNegata while another program is writing the same file.
+/// to directly. AutorizzazioneNegata, with a note that says why, while somebody else is writing the same
+/// file.
 class ScritturaSicura {
  public:
   /// Fails when the destination could not be written at all: a folder, a missing folder, no permission.
-  static Esito<ScritturaSicura> Apri(const std::filesystem::path& destinazione);
+  static Esito<ScritturaSicura, ErroreScrittura> Apri(const std::filesystem::path& destinazione);
 
   ScritturaSicura(ScritturaSicura&& altra) noexcept;
   ScritturaSicura& operator=(ScritturaSicura&& altra) noexcept;
   ~ScritturaSicura();
 
   /// Adds bytes. After a failure the object can only go away.
-  Esito<void> Scrivi(std::string_view byte);
+  EsitoPasso Scrivi(std::string_view byte);
 
   /// Makes what was written the content of the destination, on the disk. On failure the old content is whole:
-  /// in the destination or, where it was written in place and could not be put back, in the copy that stays.
+  /// in the destination or, where it was written in place and could not be put back, in the copy that stays
+  /// and that the error's note names.
   /// Only where nothing but the folder could not be brought to the disk has the new content its place
   /// already.
-  Esito<void> Conferma();
+  EsitoScrittura Conferma();
 
   /// How the bytes reach the destination.
   class Strada;
@@ -44,6 +46,6 @@ class ScritturaSicura {
 };
 
 /// The whole of it in one call.
-Esito<void> ScriviFile(const std::filesystem::path& destinazione, std::string_view byte);
+EsitoScrittura ScriviFile(const std::filesystem::path& destinazione, std::string_view byte);
 
 }  // namespace parvik

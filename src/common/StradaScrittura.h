@@ -13,8 +13,8 @@ class ScritturaSicura::Strada {
   Strada(const Strada&) = delete;
   Strada& operator=(const Strada&) = delete;
   virtual ~Strada() = default;
-  virtual Esito<void> Scrivi(std::string_view byte) = 0;
-  virtual Esito<void> Conferma() = 0;
+  virtual EsitoPasso Scrivi(std::string_view byte) = 0;
+  virtual EsitoScrittura Conferma() = 0;
 };
 
 }  // namespace parvik

@@ -13,16 +13,20 @@ bool RigheSuFile::Righe(std::string_view righe) {
   return static_cast<bool>(scritto_);
 }
 
-Esito<void> RigheSuFile::Conferma() {
-  if (scritto_) scritto_ = file_.Conferma();
-  return scritto_;
+EsitoScrittura RigheSuFile::Conferma() {
+  if (!scritto_) return scritto_.Errore();
+  return file_.Conferma();
 }
 
-bool StampaSuFile(const std::filesystem::path& file, const DatiStampa& dati, const std::stop_token& smetti) {
-  Esito<ScritturaSicura> aperto = ScritturaSicura::Apri(file);
-  if (!aperto) return false;
+std::optional<Scritto> StampaSuFile(const std::filesystem::path& file, const DatiStampa& dati,
+                                    const std::stop_token& smetti) {
+  auto aperto = ScritturaSicura::Apri(file);
+  if (!aperto) return std::nullopt;
   RigheSuFile uscita(std::move(*aperto), smetti);
-  return GeneraStampa(dati, TipoStampa::File, uscita) && uscita.Conferma();
+  if (!GeneraStampa(dati, TipoStampa::File, uscita)) return std::nullopt;
+  EsitoScrittura scritto = uscita.Conferma();
+  if (!scritto) return std::nullopt;
+  return std::move(*scritto);
 }
 
 }  // namespace parvik

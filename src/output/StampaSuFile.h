@@ -3,10 +3,11 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <stop_token>
 #include <string_view>
 
-#include "common/Esito.h"
+#include "common/EsitoScrittura.h"
 #include "common/ScritturaSicura.h"
 #include "output/GeneraStampa.h"
 
@@ -22,20 +23,18 @@ class RigheSuFile final : public UscitaRighe {
   bool Righe(std::string_view righe) override;
   bool Continua() override { return !smetti_.stop_requested(); }
 
-  /// What went wrong with the file so far, the giving up not included.
-  const Esito<void>& Scritto() const { return scritto_; }
-
   /// Makes the lines the file's content, unless writing them has failed already.
-  Esito<void> Conferma();
+  EsitoScrittura Conferma();
 
  private:
   ScritturaSicura file_;
   std::stop_token smetti_;
-  Esito<void> scritto_;
+  EsitoPasso scritto_;
 };
 
-/// One run into one file. True when it stands there whole; on a failure, and when `smetti` was asked for, the
-/// old file is as it was.
-bool StampaSuFile(const std::filesystem::path& file, const DatiStampa& dati, const std::stop_token& smetti);
+/// One run into one file. What there is to say when it stands there whole; on a failure, and when `smetti`
+/// was asked for, nothing, and the old file is as it was.
+std::optional<Scritto> StampaSuFile(const std::filesystem::path& file, const DatiStampa& dati,
+                                    const std::stop_token& smetti);
 
 }  // namespace parvik

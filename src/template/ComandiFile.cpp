@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "common/Avverti.h"
 #include "common/CopiaPrecedente.h"
 #include "common/Delimitatori.h"
 #include "common/LetturaFile.h"
@@ -127,7 +128,10 @@ void ComandiFile::Salva(const TipoDoc& tipo) {
     if (VerificaStampa(tipo)) SalvaConNome(tipo);
     return;
   }
-  if (const Esito<void> scritto = Scrivi(documento_.NomeFile, tipo); !scritto) {
+  const EsitoScrittura scritto = Scrivi(documento_.NomeFile, tipo);
+  if (scritto) {
+    Avverti(*scritto, interlocutore_);
+  } else {
     interlocutore_.Chiedi({.Testo = TestoErrore(scritto.Errore())});
   }
 }
@@ -139,10 +143,12 @@ void ComandiFile::SalvaConNome(const TipoDoc& tipo) {
   const fs::path scelto = interlocutore_.ScegliFile(richiesta);
   if (scelto.empty()) return;
   const fs::path percorso = ConEstensione(scelto, EstensioneModelli);
-  if (!Scrivi(percorso, tipo)) return;  // silent; the template stays modified
+  const EsitoScrittura scritto = Scrivi(percorso, tipo);
+  if (!scritto) return;  // silent; the template stays modified
   documento_.NomeFile = percorso;
   // The sections show what the file holds. It was written just now: a failure to read it back loses nothing.
   static_cast<void>(Leggi(tipo));
+  Avverti(*scritto, interlocutore_);
 }
 
 bool ComandiFile::PuoChiudere(const TipoDoc& tipo) {
@@ -157,11 +163,11 @@ bool ComandiFile::VerificaStampa(const TipoDoc& tipo) const {
 
 /// A file that would be written with the bytes that it has loses nothing, and the copy that there may be is
 /// worth more.
-Esito<void> ComandiFile::ConservaAltrui(const fs::path& percorso, std::string_view nuovi) const {
+EsitoPasso ComandiFile::ConservaAltrui(const fs::path& percorso, std::string_view nuovi) const {
   std::error_code errore;
   if (!fs::is_regular_file(percorso, errore)) return {};  // nothing that could be kept
   const Esito<std::string> attuali = LeggiFile(percorso);
-  if (!attuali) return attuali.Errore();
+  if (!attuali) return ErroreScrittura{attuali.Errore()};
   const std::optional<Provenienza>& origine = documento_.Origine;
   const bool suoi = origine && origine->File == percorso && origine->Byte == *attuali;
   if (suoi || *attuali == nuovi) return {};
@@ -169,23 +175,23 @@ Esito<void> ComandiFile::ConservaAltrui(const fs::path& percorso, std::string_vi
 }
 
 /// The copy is made when the new bytes stand ready: on a full disk no older copy is given up for nothing.
-Esito<void> ComandiFile::Sostituisci(const fs::path& percorso, std::string_view nuovi) const {
-  Esito<ScritturaSicura> file = ScritturaSicura::Apri(percorso);
+EsitoScrittura ComandiFile::Sostituisci(const fs::path& percorso, std::string_view nuovi) const {
+  auto file = ScritturaSicura::Apri(percorso);
   if (!file) return file.Errore();
-  if (const Esito<void> scritto = file->Scrivi(nuovi); !scritto) return scritto.Errore();
-  if (const Esito<void> tenuto = ConservaAltrui(percorso, nuovi); !tenuto) return tenuto.Errore();
+  if (const EsitoPasso scritto = file->Scrivi(nuovi); !scritto) return scritto.Errore();
+  if (const EsitoPasso tenuto = ConservaAltrui(percorso, nuovi); !tenuto) return tenuto.Errore();
   return file->Conferma();
 }
 
-Esito<void> ComandiFile::Scrivi(const fs::path& percorso, const TipoDoc& tipo) {
+EsitoScrittura ComandiFile::Scrivi(const fs::path& percorso, const TipoDoc& tipo) {
   TestiSezioni testi;
   for (const Sezione sezione : TutteLeSezioni) testi[Indice(sezione)] = sezioni_.Testo(sezione);
   const std::size_t corpoPrima = testi[Indice(Sezione::Corpo)].size();
   documento_.Modificato = true;  // until the file is on the disk
   Esito<std::string> immagine = ScriviImmagine(testi, documento_.Corpo, FormatoDi(tipo.NumSezioni));
-  if (!immagine) return immagine.Errore();
+  if (!immagine) return ErroreScrittura{immagine.Errore()};
   if (testi[Indice(Sezione::Corpo)].size() != corpoPrima) sezioni_.CompletaUltimaRiga(Sezione::Corpo);
-  const Esito<void> scritto = Sostituisci(percorso, *immagine);
+  EsitoScrittura scritto = Sostituisci(percorso, *immagine);
   // A save may fail when the new bytes stand there already, but are not known to be safe.
   if (scritto || Contiene(percorso, *immagine))
     documento_.Origine = {.File = percorso, .Byte = std::move(*immagine)};

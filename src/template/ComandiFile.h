@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "catalogue/TipoDoc.h"
-#include "common/Esito.h"
+#include "common/EsitoScrittura.h"
 #include "common/Interlocutore.h"
 #include "template/Documento.h"
 #include "template/Sezioni.h"
@@ -46,13 +46,14 @@ class ComandiFile {
   void Apri(const TipoDoc& tipo);
 
   /// Save; without a file name it is Save As, and with nothing in the sections nothing at all. A named file
-  /// that could not be written draws a message, and the template stays modified. A file whose bytes are not
-  /// those that this document was last read from or written to is kept as "NAME~" before it is replaced;
-  /// where that fails it is not replaced.
+  /// that could not be written draws a message, and the template stays modified; one that was, and about
+  /// which there is something to say (TestoAvviso), draws a warning. A file whose bytes are not those that
+  /// this document was last read from or written to is kept as "NAME~" before it is replaced; where that
+  /// fails it is not replaced.
   void Salva(const TipoDoc& tipo);
 
   /// Save As: writes, takes the name and reads the file back. A file that it replaces is kept as Save keeps
-  /// it. Every failure is silent.
+  /// it. Every failure is silent, but a warning is not.
   void SalvaConNome(const TipoDoc& tipo);
 
   /// Whether the window may close: asks when the template is modified. False when the question was cancelled,
@@ -65,9 +66,9 @@ class ComandiFile {
  private:
   Risposta FileModificato(const TipoDoc& tipo);
   bool ProseguiDopoDomanda(const TipoDoc& tipo);
-  Esito<void> ConservaAltrui(const std::filesystem::path& percorso, std::string_view nuovi) const;
-  Esito<void> Sostituisci(const std::filesystem::path& percorso, std::string_view nuovi) const;
-  Esito<void> Scrivi(const std::filesystem::path& percorso, const TipoDoc& tipo);
+  EsitoPasso ConservaAltrui(const std::filesystem::path& percorso, std::string_view nuovi) const;
+  EsitoScrittura Sostituisci(const std::filesystem::path& percorso, std::string_view nuovi) const;
+  EsitoScrittura Scrivi(const std::filesystem::path& percorso, const TipoDoc& tipo);
   Esito<void> Leggi(const TipoDoc& tipo);
 
   Documento& documento_;

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "BancoEditore.h"
+#include "common/FileDiProva.h"
 
 namespace parvik::prova {
 namespace {
@@ -197,6 +198,22 @@ TEST_F(Stampa, ATextFileThatIsGivenUpLeavesTheOldOneWhole) {
   StampaSuFile(file);
   EXPECT_EQ(Contenuto(file), "vecchio");
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir_.Percorso()), {}), 1);
+}
+
+TEST_F(Stampa, ATextFileWithFewerRightsThanBeforeIsTold) {
+  const std::filesystem::path file = dir_ / "uscita.txt";
+  Crea(file, "vecchio");
+  if (::chown(file.c_str(), 1234, 2345) != 0) GTEST_SKIP() << "only root can give a file away";
+  std::filesystem::permissions(file, std::filesystem::perms{0646});
+  std::filesystem::permissions(dir_.Percorso(), std::filesystem::perms{0777});
+  interlocutore_.RisponderaSeChiesto(Risposta::Ok);
+  {
+    const UtenteComune utente;
+    StampaSuFile(file);
+  }
+  EXPECT_EQ(Contenuto(file), TestoReso);
+  ASSERT_EQ(interlocutore_.Messaggi.size(), 1U);
+  EXPECT_EQ(interlocutore_.Messaggi[0].Testo, TestoAvviso({.Accesso = Diritti::Ridotti}));
 }
 
 TEST_F(Stampa, PrintingDoesNotModifyTheTemplate) {

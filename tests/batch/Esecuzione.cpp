@@ -84,6 +84,9 @@ pid_t Lancia(const std::vector<std::string>& argomenti, const Avvio& avvio, cons
   if (avvio.Memoria > 0) {
     parole.insert(parole.end(), {"/usr/bin/prlimit", "--as=" + std::to_string(avvio.Memoria)});
   }
+  if (avvio.LunghezzaFile) {
+    parole.insert(parole.end(), {"/usr/bin/prlimit", "--fsize=" + std::to_string(*avvio.LunghezzaFile)});
+  }
   parole.push_back(avvio.Programma.string());
   parole.insert(parole.end(), argomenti.begin(), argomenti.end());
   std::vector<std::string> ambiente = Ambiente(avvio.Casa);
@@ -164,6 +167,7 @@ Esecuzione Esegui(const std::vector<std::string>& argomenti, const Avvio& avvio)
   Azioni azioni;
   IndirizzaUscita(avvio.Uscita, uscita, azioni);
   azioni.Indirizza(STDERR_FILENO, errori);
+  if (avvio.ErroriChiusi) azioni.Chiudi(STDERR_FILENO);
   azioni.Apri(STDIN_FILENO, "/dev/null");
   if (!avvio.Cartella.empty()) azioni.Cambia(avvio.Cartella);
   Esecuzione esecuzione;

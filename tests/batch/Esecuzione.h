@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -29,7 +30,9 @@ enum class UscitaStandard { Raccolta, Chiusa, DiscoPieno, NessunoLegge };
 struct Avvio {
   std::filesystem::path Programma = Batch();
   UscitaStandard Uscita = UscitaStandard::Raccolta;
-  std::size_t Memoria = 0;          // bytes of address space at most; 0 is no limit
+  bool ErroriChiusi = false;                      // standard error is none
+  std::size_t Memoria = 0;                        // bytes of address space at most; 0 is no limit
+  std::optional<std::size_t> LunghezzaFile = {};  // bytes that a file that is written can have at most
   std::filesystem::path Casa = {};  // what HOME and XDG_CONFIG_HOME name; "" is a place that does not exist
   std::filesystem::path Cartella = {};  // the working directory; "" is the test's own
 };

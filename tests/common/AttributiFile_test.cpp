@@ -88,32 +88,74 @@ TEST_F(AttributiFile, LeaveANewFileTheAccessListOfItsFolder) {
   EXPECT_EQ(ListaAccessi(6, 6), Attributo(Cartella / "nuovo.img", Acl));
 }
 
+struct Sostituito {
+  unsigned int Modo = 0;
+  Diritti Accesso = Diritti::Conservati;
+
+  bool operator==(const Sostituito&) const = default;
+};
+
+void PrintTo(const Sostituito& sostituito, std::ostream* uscita) {
+  *uscita << std::oct << sostituito.Modo << (sostituito.Accesso == Diritti::Ridotti ? " ridotti" : "");
+}
+
 /// Replaces a file of user 1234 and group 2345 as somebody who can give neither.
-struct stat SostituitoDaAltri(const CartellaTemporanea& cartella, mode_t modo) {
+Sostituito SostituitoDaAltri(const CartellaTemporanea& cartella, mode_t modo) {
   const fs::path file = cartella / "a.img";
   EXPECT_EQ(0, ::chown(file.c_str(), 1234, 2345));
   EXPECT_EQ(0, ::chmod(file.c_str(), modo));
   fs::permissions(cartella.Percorso(), fs::perms{0777});
   const UtenteComune utente;
-  EXPECT_TRUE(ScriviFile(file, "nuovo"));
+  const EsitoScrittura scritto = ScriviFile(file, "nuovo");
+  EXPECT_TRUE(scritto);
   struct stat stato = {};
   EXPECT_EQ(0, ::stat(file.c_str(), &stato));
   EXPECT_NE(1234U, stato.st_uid);
   EXPECT_NE(2345U, stato.st_gid);
-  return stato;
+  if (!scritto) return {};
+  return {.Modo = stato.st_mode & 07777U, .Accesso = scritto->Accesso};
 }
 
 TEST_F(AttributiFile, GiveAnotherGroupNothingThatOthersHadNot) {
   if (::geteuid() != 0) GTEST_SKIP() << "only root can give a file away";
-  EXPECT_EQ(0666U, SostituitoDaAltri(Cartella, 0666).st_mode & 07777U);
-  EXPECT_EQ(0622U, SostituitoDaAltri(Cartella, 0662).st_mode & 07777U);
-  EXPECT_EQ(0622U, SostituitoDaAltri(Cartella, 06766 & ~0144).st_mode & 07777U);
+  EXPECT_EQ((Sostituito{0666}), SostituitoDaAltri(Cartella, 0666));
+  EXPECT_EQ((Sostituito{0622, Diritti::Ridotti}), SostituitoDaAltri(Cartella, 0662));
+  EXPECT_EQ((Sostituito{0622, Diritti::Ridotti}), SostituitoDaAltri(Cartella, 06766 & ~0144));
+}
+
+TEST_F(AttributiFile, GiveAnotherGroupNothingThatTheGroupHadNot) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can give a file away";
+  EXPECT_EQ((Sostituito{0644, Diritti::Ridotti}), SostituitoDaAltri(Cartella, 0646));
+  EXPECT_EQ((Sostituito{0622, Diritti::Ridotti}), SostituitoDaAltri(Cartella, 0626));
+  EXPECT_EQ((Sostituito{0600, Diritti::Ridotti}), SostituitoDaAltri(Cartella, 0606));
+}
+
+TEST_F(AttributiFile, SayNothingWhereTheyAllStay) {
+  for (const unsigned int modo : {0600U, 0644U, 0664U, 0755U, 0666U}) {
+    ASSERT_EQ(0, ::chmod(File.c_str(), modo));
+    const EsitoScrittura scritto = ScriviFile(File, "nuovo");
+    ASSERT_TRUE(scritto);
+    EXPECT_EQ(Diritti::Conservati, scritto->Accesso) << modo;
+  }
+}
+
+/// The owner counts as one of the group: colleagues who save each other's files are not told so each time.
+TEST_F(AttributiFile, SayNothingOfAnOwnerWhoHasAsMuchByTheGroup) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root can give a file away";
+  ASSERT_EQ(0, ::chown(File.c_str(), 1234, 65534));
+  ASSERT_EQ(0, ::chmod(File.c_str(), 0664));
+  fs::permissions(Cartella.Percorso(), fs::perms{0777});
+  const UtenteComune utente;
+  const EsitoScrittura scritto = ScriviFile(File, "nuovo");
+  ASSERT_TRUE(scritto);
+  EXPECT_EQ(0664U, Modo(File));
+  EXPECT_EQ(Diritti::Conservati, scritto->Accesso);
 }
 
 TEST_F(AttributiFile, KeepRightsForTheOwnerAloneWhereTheAccessListCannotBeGiven) {
   if (::geteuid() != 0) GTEST_SKIP() << "only root can give a file away";
   if (!Imposta(File, Acl, ListaAccessi(4, 0))) GTEST_SKIP() << "no access lists here";
-  EXPECT_EQ(0600U, SostituitoDaAltri(Cartella, 0666).st_mode & 07777U);
+  EXPECT_EQ((Sostituito{0600, Diritti::Ridotti}), SostituitoDaAltri(Cartella, 0666));
   EXPECT_EQ("-", Attributo(File, Acl));
 }
 

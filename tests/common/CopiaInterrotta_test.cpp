@@ -18,21 +18,25 @@ namespace {
 namespace fs = std::filesystem;
 using Elenco = std::vector<std::string>;
 
+const ErroreScrittura InUso = {.Numero = NumeroErrore::AutorizzazioneNegata,
+                               .Nota = "Il file è in uso: un altro programma lo sta salvando"};
+
 class CopiaInterrotta : public testing::Test {
  protected:
   void SetUp() override { Crea(File, "mezzo"); }
-  /// The name is the writer's own business.
+  /// As an earlier version named it: who wrote it is not known.
   void Abbandona(std::string_view byte) const { Crea(Cartella / ".a.img.vecchio~", byte); }
 
   CartellaTemporanea Cartella;
   const fs::path File = Cartella / "a.img";
 };
 
-TEST_F(CopiaInterrotta, LiesBesideTheFileUnderTheNameThatTheseTestsUse) {
-  Esito<CopiaDiRiserva> copia = CopiaDiRiserva::Crea(File, "vecchio");
+TEST_F(CopiaInterrotta, LiesBesideTheFileWhileThatIsWrittenOver) {
+  EsitoSistema<CopiaDiRiserva> copia = CopiaDiRiserva::Crea(File, "vecchio");
   ASSERT_TRUE(copia);
-  EXPECT_EQ((Elenco{".a.img.vecchio~", "a.img"}), Nomi(Cartella.Percorso()));
-  EXPECT_EQ("vecchio", Contenuto(Cartella / ".a.img.vecchio~"));
+  EXPECT_EQ((Elenco{copia->Nome().filename(), "a.img"}), Nomi(Cartella.Percorso()));
+  EXPECT_TRUE(copia->Nome().string().ends_with(".vecchio~"));
+  EXPECT_EQ("vecchio", Contenuto(copia->Nome()));
   copia->Togli();
   EXPECT_EQ(Elenco{"a.img"}, Nomi(Cartella.Percorso()));
 }
@@ -77,25 +81,25 @@ TEST_F(CopiaInterrotta, StaysAndStopsTheSaveWhereItCannotBeKept) {
 
 TEST_F(CopiaInterrotta, IsDeniedToASecondSaverWhileTheFirstIsAtWork) {
   fs::create_hard_link(File, Cartella / "b.img");
-  Esito<CopiaDiRiserva> copia = CopiaDiRiserva::Crea(File, "vecchio");
+  EsitoSistema<CopiaDiRiserva> copia = CopiaDiRiserva::Crea(File, "vecchio");
   ASSERT_TRUE(copia);
-  const Esito<void> secondo = ScriviFile(File, "nuovo");
+  const EsitoScrittura secondo = ScriviFile(File, "nuovo");
   ASSERT_FALSE(secondo);
-  EXPECT_EQ(NumeroErrore::AutorizzazioneNegata, secondo.Errore());
+  EXPECT_EQ(InUso, secondo.Errore());
   EXPECT_EQ("mezzo", Contenuto(File));
-  EXPECT_EQ("vecchio", Contenuto(Cartella / ".a.img.vecchio~"));
+  EXPECT_EQ("vecchio", Contenuto(copia->Nome()));
   copia->Togli();
   EXPECT_TRUE(ScriviFile(File, "nuovo"));
   EXPECT_EQ((Elenco{"a.img", "b.img"}), Nomi(Cartella.Percorso()));
 }
 
 TEST_F(CopiaInterrotta, IsNotWhatASecondWriterOfTheSameFileFinds) {
-  Esito<ScritturaSicura> primo = ScritturaSicura::Apri(File);
+  auto primo = ScritturaSicura::Apri(File);
   ASSERT_TRUE(primo);
   EXPECT_TRUE(primo->Scrivi("primo"));
-  const Esito<void> secondo = ScriviFile(File, "secondo");
+  const EsitoScrittura secondo = ScriviFile(File, "secondo");
   ASSERT_FALSE(secondo);
-  EXPECT_EQ(NumeroErrore::AutorizzazioneNegata, secondo.Errore());
+  EXPECT_EQ(InUso, secondo.Errore());
   EXPECT_EQ("mezzo", Contenuto(File));
   EXPECT_TRUE(primo->Conferma());
   EXPECT_EQ("primo", Contenuto(File));
@@ -131,7 +135,7 @@ class CopiaTemporanea : public CopiaInterrotta {
 };
 
 TEST_F(CopiaTemporanea, LiesWhereNobodyElseSeesIt) {
-  Esito<CopiaDiRiserva> copia = CopiaDiRiserva::Crea(File, "vecchio");
+  EsitoSistema<CopiaDiRiserva> copia = CopiaDiRiserva::Crea(File, "vecchio");
   ASSERT_TRUE(copia);
   EXPECT_EQ(0700U, Modo(Propria()));
   ASSERT_EQ(1U, Nomi(Propria()).size());
@@ -141,34 +145,38 @@ TEST_F(CopiaTemporanea, LiesWhereNobodyElseSeesIt) {
 }
 
 TEST_F(CopiaTemporanea, OfAKilledProgramIsKeptByTheNextSave) {
-  Esito<CopiaDiRiserva> copia = CopiaDiRiserva::Crea(File, "vecchio");
+  EsitoSistema<CopiaDiRiserva> copia = CopiaDiRiserva::Crea(File, "vecchio");
   ASSERT_TRUE(copia);
   const std::string nome = Nomi(Propria())[0];
   copia->Togli();
   fs::create_directory(Propria());
   fs::permissions(Propria(), fs::perms{0700});
   Crea(Propria() / nome, "vecchio");
-  EXPECT_TRUE(ScriviFile(File, "nuovo"));
+  const EsitoScrittura scritto = ScriviFile(File, "nuovo");
+  ASSERT_TRUE(scritto);
   EXPECT_EQ("nuovo", Contenuto(File));
   const Elenco rimasti = Nomi(Propria());
   ASSERT_EQ(1U, rimasti.size());
   EXPECT_TRUE(rimasti[0].ends_with("a.img~")) << rimasti[0];
   EXPECT_EQ("vecchio", Contenuto(Propria() / rimasti[0]));
+  EXPECT_EQ(Propria() / rimasti[0], scritto->CopiaTenuta);  // nobody would look for it there
 }
 
 TEST_F(CopiaTemporanea, IsNotMadeInAFolderThatOthersMayUse) {
   fs::create_directory(Propria());
   fs::permissions(Propria(), fs::perms{0777});
-  const Esito<void> scritto = ScriviFile(File, "nuovo");
+  const EsitoScrittura scritto = ScriviFile(File, "nuovo");
   ASSERT_FALSE(scritto);
-  EXPECT_EQ(NumeroErrore::AutorizzazioneNegata, scritto.Errore());
+  EXPECT_EQ(NumeroErrore::AutorizzazioneNegata, scritto.Errore().Numero);
   EXPECT_EQ("mezzo", Contenuto(File));
   EXPECT_EQ(Elenco{}, Nomi(Propria()));
 }
 
 TEST_F(CopiaTemporanea, IsAnErrorAndNoCrashWhereThereIsNoTemporaryFolder) {
   const VariabileAmbiente nessuna("TMPDIR", (Copie / "manca").c_str());
-  EXPECT_NO_THROW(EXPECT_FALSE(ScriviFile(File, "nuovo")));
+  const EsitoScrittura scritto = ScriviFile(File, "nuovo");
+  ASSERT_FALSE(scritto);
+  EXPECT_EQ(NumeroErrore::PercorsoNonTrovato, scritto.Errore().Numero);
   EXPECT_EQ("mezzo", Contenuto(File));
 }
 

@@ -16,9 +16,9 @@ namespace fs = std::filesystem;
 using Elenco = std::vector<std::string>;
 
 NumeroErrore Errore(const fs::path& meta, std::string_view byte = "nuovo") {
-  const Esito<void> esito = ScriviFile(meta, byte);
+  const EsitoScrittura esito = ScriviFile(meta, byte);
   EXPECT_FALSE(esito) << meta;
-  return esito ? NumeroErrore{} : esito.Errore();
+  return esito ? NumeroErrore{} : esito.Errore().Numero;
 }
 
 TEST(ScriviFileFallito, DoesNotFindAMissingFolder) {

@@ -84,17 +84,18 @@ fs::path Destinazione(const CartellaTemporanea& cartella, const std::string& qua
   return file;
 }
 
-template <class T>
-std::string Scritto(const Esito<T>& esito) {
-  return esito ? "done" : std::to_string(static_cast<int>(esito.Errore()));
+std::string Numero(NumeroErrore errore) {
+  return std::to_string(static_cast<int>(errore));
 }
 
 TEST(SavingPage, TellsWhatBecomesOfEachDestination) {
   for (const RigaEsempio& riga : TabellaEsempi(Pagina, "destinations", 3)) {
     const CartellaTemporanea cartella;
     const fs::path destinazione = Destinazione(cartella, riga.Testo(0));
-    EXPECT_EQ(Scritto(LeggiFile(destinazione)), riga.Testo(2)) << riga.Posto();
-    EXPECT_EQ(Scritto(ScriviFile(destinazione, "nuovo")), riga.Testo(1)) << riga.Posto();
+    const Esito<std::string> letto = LeggiFile(destinazione);
+    EXPECT_EQ(letto ? "done" : Numero(letto.Errore()), riga.Testo(2)) << riga.Posto();
+    const EsitoScrittura scritto = ScriviFile(destinazione, "nuovo");
+    EXPECT_EQ(scritto ? "done" : Numero(scritto.Errore().Numero), riga.Testo(1)) << riga.Posto();
     if (riga.Testo(1) != "done") continue;
     EXPECT_EQ(Contenuto(destinazione), "nuovo") << riga.Posto();
     EXPECT_EQ(Contenuto(cartella / "file"), "nuovo") << riga.Posto();

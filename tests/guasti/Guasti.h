@@ -14,11 +14,13 @@ struct Guasto {
   enum class Genere {
     Errore,         // the call does nothing and fails; close closes all the same, as the system does
     Uccisione,      // the process gets SIGKILL before the call
+    Segnale,        // the process gets the signal `Errore` before the call
+    Fermata,        // the process stops before the call (SIGSTOP), until somebody lets it go on (SIGCONT)
     ScritturaCorta  // a write writes half of its bytes; other calls are made as they are
   };
   int Chiamata = 0;
   Genere Quale = Genere::Errore;
-  int Errore = 0;          // an errno
+  int Errore = 0;          // an errno, or a signal
   bool PerSempre = false;  // and at every call after it
 };
 
@@ -29,6 +31,8 @@ struct PianoGuasti {
   std::vector<Guasto> Guasti;
   /// A folder that takes no new file and loses none: EACCES, uncounted among the faults. Empty: none.
   std::string Chiusa = {};
+  /// The errno of every flock, uncounted among the faults; 0: there are locks.
+  int SenzaLucchetti = 0;
 };
 
 /// The environment of a program that loads the library: PARVIK_GUASTI is the plan, PARVIK_GUASTI_DIARIO a

@@ -52,6 +52,12 @@ bool Motore::Chiuso(std::string_view percorso) const {
   return !piano_.Chiusa.empty() && Dentro(percorso, piano_.Chiusa);
 }
 
+bool Motore::SenzaLucchetti() const {
+  if (piano_.SenzaLucchetti == 0) return false;
+  errno = piano_.SenzaLucchetti;
+  return true;
+}
+
 void Motore::Aperto(int numero, std::string_view percorso) {
   if (numero >= 0 && Sorvegliato(percorso)) aperti_[numero] = percorso;
 }
@@ -78,10 +84,23 @@ Motore::Esito Motore::Conta(const char* chiamata, std::string_view percorso) {
   }
   Annota(std::string(chiamata) + " " + std::string(UltimoNome(percorso)) + (colto == nullptr ? "" : " !"));
   if (colto == nullptr) return Esito::Prosegui;
-  if (colto->Quale == Guasto::Genere::Uccisione) ::kill(::getpid(), SIGKILL);
-  if (colto->Quale == Guasto::Genere::ScritturaCorta) return Esito::Accorcia;
-  errno = colto->Errore;
-  return Esito::Fallisci;
+  switch (colto->Quale) {
+    case Guasto::Genere::Errore:
+      errno = colto->Errore;
+      return Esito::Fallisci;
+    case Guasto::Genere::ScritturaCorta:
+      return Esito::Accorcia;
+    case Guasto::Genere::Uccisione:
+      ::kill(::getpid(), SIGKILL);
+      break;
+    case Guasto::Genere::Fermata:
+      ::kill(::getpid(), SIGSTOP);
+      break;
+    case Guasto::Genere::Segnale:
+      ::kill(::getpid(), colto->Errore);
+      break;
+  }
+  return Esito::Prosegui;
 }
 
 void Motore::Annota(const std::string& riga) {

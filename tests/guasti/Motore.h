@@ -25,6 +25,8 @@ class Motore {
   Esito PerDescrittore(const char* chiamata, int numero);
   /// Whether the name of this path may not be made or taken away.
   bool Chiuso(std::string_view percorso) const;
+  /// Whether there are no locks; errno says so then.
+  bool SenzaLucchetti() const;
 
   /// A descriptor was opened on the path, or is the twin of another, or is gone.
   void Aperto(int numero, std::string_view percorso);

@@ -27,7 +27,8 @@ std::size_t Quanti(std::string_view testo) {
 }  // namespace
 
 std::string Scritto(const PianoGuasti& piano) {
-  std::string testo = piano.Chiusa + FineCampo + std::to_string(piano.Cartelle.size()) + FineCampo;
+  std::string testo = piano.Chiusa + FineCampo + std::to_string(piano.SenzaLucchetti) + FineCampo +
+                      std::to_string(piano.Cartelle.size()) + FineCampo;
   for (const std::string& cartella : piano.Cartelle) testo += cartella + FineCampo;
   for (const Guasto& guasto : piano.Guasti) {
     for (const int numero : {guasto.Chiamata, static_cast<int>(guasto.Quale), guasto.Errore,
@@ -41,6 +42,7 @@ std::string Scritto(const PianoGuasti& piano) {
 PianoGuasti DaScritto(std::string_view testo) {
   PianoGuasti piano;
   piano.Chiusa = Stacca(testo);
+  piano.SenzaLucchetti = Numero(Stacca(testo));
   piano.Cartelle.resize(Quanti(Stacca(testo)));
   for (std::string& cartella : piano.Cartelle) cartella = Stacca(testo);
   while (!testo.empty()) {

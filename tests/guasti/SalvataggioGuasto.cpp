@@ -13,7 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 using Elenco = std::vector<std::string>;
 
-constexpr std::string_view FineCopia = ".vecchio~";
 constexpr std::string_view FineTenuto = "a.img~";
 
 /// Longer than what becomes of it: a save in place that stops half way shows.
@@ -32,7 +31,7 @@ std::string ContenutoSeCe(const fs::path& file) {
   return fs::exists(file) ? Contenuto(file) : "";
 }
 
-/// "open .a.img.nuovo~ !" as "open new file !".
+/// "open .a.img.WRITER.nuovo~ !" as "open new file !".
 std::string ConRuolo(const std::string& riga) {
   const std::size_t spazio = riga.find(' ');
   const bool colpita = riga.ends_with(" !");
@@ -43,6 +42,10 @@ std::string ConRuolo(const std::string& riga) {
   if (nome == "modelli") ruolo = "folder";
   if (nome.starts_with("parvik32-")) ruolo = "temporary folder";
   return riga.substr(0, spazio + 1) + ruolo + (colpita ? " !" : "");
+}
+
+std::string DettoTenuto(const fs::path& tenuto) {
+  return "Un salvataggio interrotto aveva lasciato il contenuto di prima: ora è in " + tenuto.string();
 }
 
 Elenco Righe(const fs::path& file) {
@@ -61,8 +64,10 @@ EsitoSalvataggio SalvataggioGuasto::Salva(const std::vector<Guasto>& guasti) con
   EsitoSalvataggio esito;
   esito.Programma = Normalizza(argomenti, guasti);
   esito.Stato = Guarda();
+  esito.Copia = Copia();
+  esito.Avanzi = Avanzi();
   esito.Chiamate = Righe(Diario());
-  if (NellaCartella() != Attesi() || !NellaTemporanea().empty()) VerificaSalvataggioSeguente();
+  if (!esito.Avanzi.empty()) VerificaSalvataggioSeguente();
   return esito;
 }
 
@@ -86,8 +91,21 @@ Elenco SalvataggioGuasto::NellaCartella() const {
 }
 
 Elenco SalvataggioGuasto::NellaTemporanea() const {
-  const Elenco cartelle = Nomi(Temporanea());
-  return cartelle.empty() ? cartelle : Nomi(Temporanea() / cartelle.front());
+  Elenco nomi;
+  for (const std::string& cartella : Nomi(Temporanea())) {
+    nomi.push_back(cartella + "/");
+    std::ranges::copy(Nomi(Temporanea() / cartella), std::back_inserter(nomi));
+  }
+  return nomi;
+}
+
+Elenco SalvataggioGuasto::Avanzi() const {
+  const Elenco attesi = Attesi();
+  Elenco avanzi = NellaTemporanea();
+  std::ranges::copy_if(NellaCartella(), std::back_inserter(avanzi), [&](const std::string& nome) {
+    return std::ranges::find(attesi, nome) == attesi.end();
+  });
+  return avanzi;
 }
 
 Esecuzione SalvataggioGuasto::Normalizza(Elenco argomenti, const std::vector<Guasto>& guasti) const {
@@ -110,14 +128,14 @@ std::vector<fs::path> SalvataggioGuasto::CartelleCopie() const {
   return cartelle;
 }
 
-/// Whether a file whose name ends so holds the old bytes.
-bool SalvataggioGuasto::VecchioIn(std::string_view fineNome) const {
+/// A file whose name ends so and that holds the old bytes; "" when there is none.
+fs::path SalvataggioGuasto::VecchioIn(std::string_view fineNome) const {
   for (const fs::path& cartella : CartelleCopie()) {
     for (const std::string& nome : Nomi(cartella)) {
-      if (nome.ends_with(fineNome) && Contenuto(cartella / nome) == Vecchio()) return true;
+      if (nome.ends_with(fineNome) && Contenuto(cartella / nome) == Vecchio()) return cartella / nome;
     }
   }
-  return false;
+  return {};
 }
 
 Disco SalvataggioGuasto::Guarda() const {
@@ -125,21 +143,26 @@ Disco SalvataggioGuasto::Guarda() const {
   const std::string byte = ContenutoSeCe(File());
   if (byte == Nuovo()) return Disco::Nuovo;
   if (byte == Vecchio() && via_ != Via::NuovoFile) return Disco::Vecchio;
-  return VecchioIn(FineCopia) ? Disco::Copia : Disco::Perso;
+  return Copia().empty() ? Disco::Perso : Disco::Copia;
 }
 
 void SalvataggioGuasto::VerificaSalvataggioSeguente() const {
-  const bool daTenere = VecchioIn(FineCopia) && ContenutoSeCe(File()) != Vecchio();
+  const bool daTenere = !Copia().empty() && ContenutoSeCe(File()) != Vecchio();
   const fs::path seguente = host_.Percorso() / "seguente.img";
   Crea(seguente, Seguente());
-  EXPECT_EQ(Normalizza({"-o", File(), seguente}, {}), (Esecuzione{0, "", ""}));
+  const Esecuzione programma = Normalizza({"-o", File(), seguente}, {});
   for (const std::string& nome : Attesi()) EXPECT_EQ(Contenuto(Cartella() / nome), Seguente());
-  EXPECT_EQ(VecchioIn(FineTenuto), daTenere);
-  Elenco rimasti = NellaCartella();
-  const Elenco altrove = NellaTemporanea();
-  rimasti.insert(rimasti.end(), altrove.begin(), altrove.end());
-  if (daTenere) std::erase_if(rimasti, [](const std::string& nome) { return nome.ends_with(FineTenuto); });
-  EXPECT_EQ(rimasti, Attesi());
+  const fs::path tenuto = VecchioIn(FineTenuto);
+  EXPECT_EQ(!tenuto.empty(), daTenere);
+  // Beside the file it lies where previous contents always are: only elsewhere it must be told.
+  const bool altrove = daTenere && tenuto.parent_path() != Cartella();
+  EXPECT_EQ(programma, (Esecuzione{0, "", altrove ? Detto(File(), "avviso: " + DettoTenuto(tenuto)) : ""}));
+  Elenco attesi = Attesi();
+  if (daTenere && !altrove) attesi.insert(attesi.begin() + 1, std::string(FineTenuto));
+  EXPECT_EQ(NellaCartella(), attesi);
+  Elenco attesiAltrove;
+  if (altrove) attesiAltrove = {tenuto.parent_path().filename().string() + "/", tenuto.filename()};
+  EXPECT_EQ(NellaTemporanea(), attesiAltrove);
 }
 
 }  // namespace parvik::prova

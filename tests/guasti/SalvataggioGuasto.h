@@ -23,6 +23,9 @@ enum class Disco { Nuovo, Vecchio, Copia, Perso };
 struct EsitoSalvataggio {
   Esecuzione Programma;
   Disco Stato = Disco::Perso;
+  std::filesystem::path Copia = {};  // of the old bytes, when there is one
+  /// What was left in the folders besides the file.
+  std::vector<std::string> Avanzi = {};
   /// The calls on the folders, with " !" after those that a fault befell. The names of copies and
   /// provisional files are "copy" and "new file", the others "file", "folder", "temporary folder".
   std::vector<std::string> Chiamate;
@@ -48,10 +51,12 @@ class SalvataggioGuasto {
   /// The names that belong into the folder.
   std::vector<std::string> Attesi() const;
   std::vector<std::string> NellaCartella() const;
-  std::vector<std::string> NellaTemporanea() const;
+  std::vector<std::string> NellaTemporanea() const;  // folders in it with a "/" at their end
   Esecuzione Normalizza(std::vector<std::string> argomenti, const std::vector<Guasto>& guasti) const;
   std::vector<std::filesystem::path> CartelleCopie() const;
-  bool VecchioIn(std::string_view fineNome) const;
+  std::filesystem::path VecchioIn(std::string_view fineNome) const;
+  std::filesystem::path Copia() const { return VecchioIn(".vecchio~"); }
+  std::vector<std::string> Avanzi() const;
   Disco Guarda() const;
   void VerificaSalvataggioSeguente() const;
 

@@ -1,6 +1,8 @@
 // The safe writer when system calls do less than they were asked for, and when more than one of them fails.
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -27,9 +29,9 @@ class ScritturaGuasta : public testing::Test {
     Crea(File, Vecchio);
     if (DueNomi) fs::create_hard_link(File, Cartella / "b.img");
   }
-  Esito<void> Scrivi(const std::vector<Guasto>& guasti) {
+  EsitoScrittura Scrivi(const std::vector<Guasto>& guasti) {
     const GuastiInCorso inCorso({.Cartelle = {Cartella.Percorso()}, .Guasti = guasti});
-    Esito<void> esito = ScriviFile(File, Nuovo);
+    EsitoScrittura esito = ScriviFile(File, Nuovo);
     Chiamate = GuastiInCorso::Chiamate();
     return esito;
   }
@@ -47,10 +49,10 @@ class ScritturaGuasta : public testing::Test {
   void RiempiIlDiscoAMeta(std::string_view scrittura) {
     const std::vector<int> scritture = Quali(scrittura);
     ASSERT_EQ(1U, scritture.size());
-    const Esito<void> esito = Scrivi({{.Chiamata = scritture[0], .Quale = Genere::ScritturaCorta},
-                                      {.Chiamata = scritture[0] + 1, .Errore = ENOSPC}});
+    const EsitoScrittura esito = Scrivi({{.Chiamata = scritture[0], .Quale = Genere::ScritturaCorta},
+                                         {.Chiamata = scritture[0] + 1, .Errore = ENOSPC}});
     ASSERT_FALSE(esito);
-    EXPECT_EQ(NumeroErrore::DiscoPieno, esito.Errore());
+    EXPECT_EQ(NumeroErrore::DiscoPieno, esito.Errore().Numero);
     EXPECT_EQ(Vecchio, Contenuto(File));
   }
 
@@ -99,13 +101,15 @@ TEST_F(ScritturaGuasta, KeepsTheOldBytesWholeWhenPuttingThemBackFailsToo) {
   int copie = 0;
   for (int i = pieno.Chiamata + 1; i <= chiamate; ++i) {
     Ricomincia();
-    const Esito<void> esito = Scrivi({corta, pieno, {.Chiamata = i, .Errore = EIO, .PerSempre = true}});
+    const EsitoScrittura esito = Scrivi({corta, pieno, {.Chiamata = i, .Errore = EIO, .PerSempre = true}});
     ASSERT_FALSE(esito);
-    EXPECT_EQ(NumeroErrore::DiscoPieno, esito.Errore());  // the first failure is the one to tell
-    const fs::path copia = Cartella / ".a.img.vecchio~";
-    if (fs::exists(copia)) {
+    EXPECT_EQ(NumeroErrore::DiscoPieno, esito.Errore().Numero);  // the first failure is the one to tell
+    const Elenco nomi = Nomi(Cartella.Percorso());
+    const auto copia =
+        std::ranges::find_if(nomi, [](const std::string& nome) { return nome.ends_with(".vecchio~"); });
+    if (copia != nomi.end()) {
       ++copie;
-      EXPECT_EQ(Vecchio, Contenuto(copia));
+      EXPECT_EQ(Vecchio, Contenuto(Cartella / *copia));
     } else {
       EXPECT_EQ(Vecchio, Contenuto(File));
     }
@@ -122,24 +126,61 @@ TEST_F(ScritturaGuasta, CountsAWriteOfNothingAsAnErrorAndNotAsProgress) {
   EXPECT_EQ(Vecchio, Contenuto(File));
 }
 
-TEST_F(ScritturaGuasta, GivesRightsToTheOwnerAloneWhenTheAccessListCannotBeKnown) {
-  ASSERT_EQ(0, ::chmod(File.c_str(), 0664));
-  for (const char* chiamata : {"listxattr", "fremovexattr"}) {
+/// Saves a file of this mode while the one call of this name fails; its mode then, and whether that was said.
+struct Esito {
+  unsigned int Modo = 0;
+  bool Detto = false;
+
+  bool operator==(const Esito&) const = default;
+};
+
+class DirittiGuasti : public ScritturaGuasta {
+ protected:
+  Esito Salva(std::string_view chiamata, int errore, mode_t modo) {
     const std::vector<int> quali = Quali(chiamata);
-    ASSERT_EQ(1U, quali.size());
-    ASSERT_EQ(0, ::chmod(File.c_str(), 0664));
-    EXPECT_TRUE(Scrivi({{.Chiamata = quali[0], .Errore = EIO}}));
-    EXPECT_EQ(0600U, Modo(File)) << chiamata;
+    EXPECT_EQ(1U, quali.size());
+    if (quali.size() != 1) return {};
+    EXPECT_EQ(0, ::chmod(File.c_str(), modo));
+    const EsitoScrittura scritto = Scrivi({{.Chiamata = quali[0], .Errore = errore}});
+    EXPECT_TRUE(scritto) << chiamata;
+    return {.Modo = Modo(File), .Detto = scritto && scritto->Accesso == Diritti::Ridotti};
+  }
+};
+
+TEST_F(DirittiGuasti, GoToTheOwnerAloneWhenTheAccessListCannotBeKnown) {
+  for (const char* chiamata : {"listxattr", "fremovexattr"}) {
+    EXPECT_EQ((Esito{0600, true}), Salva(chiamata, EIO, 0664)) << chiamata;
+    EXPECT_EQ((Esito{0600, false}), Salva(chiamata, EIO, 0600)) << chiamata;
   }
 }
 
-TEST_F(ScritturaGuasta, GivesNoLaxerModeWhenTheModeCannotBeGiven) {
-  ASSERT_EQ(0, ::chmod(File.c_str(), 0664));
-  const std::vector<int> quali = Quali("fchmod");
-  ASSERT_EQ(1U, quali.size());
-  ASSERT_EQ(0, ::chmod(File.c_str(), 0664));
-  EXPECT_TRUE(Scrivi({{.Chiamata = quali[0], .Errore = EPERM}}));
-  EXPECT_EQ(0600U, Modo(File));
+TEST_F(DirittiGuasti, AreNotWidenedWhenTheModeCannotBeGiven) {
+  EXPECT_EQ((Esito{0600, true}), Salva("fchmod", EPERM, 0664));
+  EXPECT_EQ((Esito{0600, false}), Salva("fchmod", EPERM, 0600));
+  if (::geteuid() != 0) GTEST_SKIP() << "only root writes to a file that its owner may not write to";
+  EXPECT_EQ((Esito{0400, true}), Salva("fchmod", EPERM, 0444));
+}
+
+/// The folder hands an access list on, and the system says that there are none.
+TEST_F(DirittiGuasti, AreNotWidenedByTheFoldersAccessListWhenThatOfTheFileCannotBeRead) {
+  const std::string nessuno(4, '\xFF');
+  const auto voce = [](char genere, char diritti, const std::string& chi) {
+    return std::string{genere, '\0', diritti, '\0'} + chi;
+  };
+  const std::string lista = std::string("\x02\0\0\0", 4) + voce(0x01, 6, nessuno) +
+                            voce(0x02, 6, std::string("\xD2\x04\0\0", 4)) + voce(0x04, 6, nessuno) +
+                            voce(0x10, 6, nessuno) + voce(0x20, 0, nessuno);
+  const char* cartella = Cartella.Percorso().c_str();
+  if (::setxattr(cartella, "system.posix_acl_default", lista.data(), lista.size(), 0) != 0)
+    GTEST_SKIP() << "no access lists here";
+  EXPECT_EQ((Esito{0600, true}), Salva("listxattr", ENOTSUP, 0664));
+  EXPECT_LT(::getxattr(File.c_str(), "system.posix_acl_access", nullptr, 0), 0);
+}
+
+TEST(TestoAvviso, SaysThatRightsAreFewerAndNothingWhereAllIsAsBefore) {
+  EXPECT_EQ("Il file è salvato, ma con diritti di accesso più ristretti di prima",
+            TestoAvviso({.Accesso = Diritti::Ridotti}));
+  EXPECT_EQ("", TestoAvviso({}));
 }
 
 }  // namespace

@@ -39,16 +39,28 @@ void AttendiColpita(const EsitoSalvataggio& esito, int chiamata, const std::stri
   EXPECT_EQ(esito.Chiamate[static_cast<std::size_t>(chiamata) - 1], nome + " !");
 }
 
-/// A save that says nothing succeeded; any other says the fault's own error.
+constexpr std::string_view AvvisoDiritti =
+    "avviso: Il file è salvato, ma con diritti di accesso più ristretti di prima";
+
+/// A save that reports no error succeeded; any other reports the fault's own, and where the old bytes are if
+/// they are not in the file.
 std::string CellaErrore(const SalvataggioGuasto& salvataggio, const EsitoSalvataggio& esito, int errore) {
   const std::string parola = Parola(esito.Stato);
   if (esito.Programma.Stato == 0) {
-    EXPECT_EQ(esito.Programma, (Esecuzione{0, "", ""}));
     EXPECT_EQ(parola, "new");
-    return parola;
+    if (esito.Programma.Errori.empty()) return parola;
+    EXPECT_EQ(esito.Programma, (Esecuzione{0, "", Detto(salvataggio.File(), AvvisoDiritti)}));
+    return parola + " (rights)";
   }
   const NumeroErrore numero = DaErrno(errore);
-  EXPECT_EQ(esito.Programma, (Esecuzione{2, "", Detto(salvataggio.File(), TestoErrore(numero))}));
+  std::string detto = TestoErrore(numero);
+  // Where nothing works any more the program cannot know that the first write changed nothing.
+  const bool forse = !esito.Copia.empty() && esito.Programma.Errori.find("a metà") != std::string::npos;
+  if (esito.Stato == Disco::Copia || forse) {
+    detto +=
+        " - Il file può essere rimasto a metà: il contenuto di prima è intero in " + esito.Copia.string();
+  }
+  EXPECT_EQ(esito.Programma, (Esecuzione{2, "", Detto(salvataggio.File(), detto)}));
   return parola + " " + std::to_string(static_cast<int>(numero));
 }
 

@@ -1,6 +1,7 @@
 // The C library's functions on files, defined anew: each asks the Motore, then calls the real one. The names
 // and types are the library's; those that begin with two underscores are what its headers call instead in an
 // optimised build.
+#include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -112,7 +113,12 @@ int fchmod(int numero, mode_t modo) noexcept {
 }
 
 int flock(int numero, int operazione) noexcept {
-  return Passa("flock", numero) ? VERA(flock)(numero, operazione) : -1;
+  if (!Passa("flock", numero) || Motore::Unico().SenzaLucchetti()) return -1;
+  return VERA(flock)(numero, operazione);
+}
+
+ssize_t getdents64(int numero, void* dove, size_t spazio) noexcept {
+  return Passa("getdents64", numero) ? VERA(getdents64)(numero, dove, spazio) : -1;
 }
 
 int fcntl(int numero, int comando, ...) {

@@ -1,0 +1,31 @@
+#include "common/EsitoScrittura.h"
+
+#include <cerrno>
+
+#include "common/TestoMostrabile.h"
+
+namespace parvik {
+
+std::string TestoErrore(const ErroreScrittura& errore) {
+  std::string testo = TestoErrore(errore.Numero);
+  if (!errore.Nota.empty()) testo.append("\r\n").append(errore.Nota);
+  return testo;
+}
+
+ErroreScrittura ErroreDaErrno(int numero) {
+  ErroreScrittura errore{.Numero = DaErrno(numero)};
+  if (numero == EBUSY) errore.Nota = "Il file è in uso: un altro programma lo sta salvando";
+  return errore;
+}
+
+std::string TestoAvviso(const Scritto& scritto) {
+  std::string testo;
+  if (scritto.Accesso == Diritti::Ridotti)
+    testo = "Il file è salvato, ma con diritti di accesso più ristretti di prima";
+  if (scritto.CopiaTenuta.empty()) return testo;
+  if (!testo.empty()) testo += "\r\n";
+  return testo + "Un salvataggio interrotto aveva lasciato il contenuto di prima: ora è in " +
+         Mostrabile(scritto.CopiaTenuta.string());
+}
+
+}  // namespace parvik

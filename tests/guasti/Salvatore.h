@@ -1,0 +1,38 @@
+// A process of its own that saves a file, and can be stopped on the way.
+#pragma once
+
+#include <sys/types.h>
+
+#include <filesystem>
+#include <string>
+
+#include "guasti/Guasti.h"
+
+namespace parvik::prova {
+
+class Salvatore {
+ public:
+  enum class Stato { Fermo, Scritto, InUso, AltroErrore, Ucciso };
+
+  /// Begins to save `byte` as `file`, and comes back when the process has stopped or ended.
+  Salvatore(const std::filesystem::path& file, const std::string& byte, const PianoGuasti& piano);
+  Salvatore(const Salvatore&) = delete;
+  Salvatore& operator=(const Salvatore&) = delete;
+  ~Salvatore();
+
+  Stato Ora() const { return stato_; }
+  bool Fermo() const { return stato_ == Stato::Fermo; }
+  /// Lets it go on to its next stop or its end, where it has stopped.
+  void Avanza();
+  /// The same, and there is no stop any more.
+  void Prosegui();
+  void Uccidi();
+
+ private:
+  void Attendi();
+
+  pid_t figlio_ = -1;
+  Stato stato_ = Stato::Fermo;
+};
+
+}  // namespace parvik::prova
