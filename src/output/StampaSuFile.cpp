@@ -7,10 +7,10 @@ namespace parvik {
 RigheSuFile::RigheSuFile(ScritturaSicura file, std::stop_token smetti)
     : file_(std::move(file)), smetti_(std::move(smetti)) {}
 
+/// The question comes last, so that it is asked after the last lines too: nobody asks again before Conferma.
 bool RigheSuFile::Righe(std::string_view righe) {
-  if (!Continua()) return false;
   scritto_ = file_.Scrivi(righe);
-  return static_cast<bool>(scritto_);
+  return scritto_ && Continua();
 }
 
 EsitoScrittura RigheSuFile::Conferma() {
