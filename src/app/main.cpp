@@ -10,6 +10,7 @@
 #include "app/Versione.h"
 #include "app/frmParvik.h"
 #include "app/frmSegnali.h"
+#include "common/Processo.h"
 #include "common/SegnaliFine.h"
 #include "common/frmDialoghi.h"
 #include "common/frmItaliano.h"
@@ -44,6 +45,7 @@ bool RispostoSenzaFinestra(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  parvik::PreparaProcesso();
   if (RispostoSenzaFinestra(argc, argv)) return EXIT_SUCCESS;
   parvik::PreparaLocale();
   const parvik::SegnaliFine segnali;  // before the toolkit's threads

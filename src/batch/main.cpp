@@ -1,14 +1,13 @@
-#include <csignal>
 #include <exception>
 #include <new>
 
 #include "batch/Messaggi.h"
 #include "batch/RigaDiComando.h"
+#include "common/Processo.h"
 
 int main(int argc, char** argv) {
   using parvik::batch::Uscita;
-  // A reader that goes away shows itself as a failed write, which is reported like any other.
-  static_cast<void>(std::signal(SIGPIPE, SIG_IGN));
+  parvik::PreparaProcessoSenzaFinestra();
   try {
     return static_cast<int>(parvik::batch::Esegui(argc, argv));
   } catch (const std::bad_alloc&) {
