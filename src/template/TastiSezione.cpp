@@ -47,6 +47,15 @@ Selezione ConCodiciInteri(std::string_view testo, Selezione selezione) {
   return {.Inizio = inizio, .Lunghezza = fine - inizio};
 }
 
+/// A selection that cuts a code is not taken away: it grows.
+EsitoTasto Togli(std::string_view testo, Selezione selezione) {
+  if (CodiciInteri(testo.substr(selezione.Inizio, selezione.Lunghezza))) return {};
+  const Selezione intera = ConCodiciInteri(testo, selezione);
+  if (selezione.Lunghezza > 0 && intera != selezione)
+    return {.Azione = AzioneTasto::Allarga, .Nuova = intera};
+  return {};
+}
+
 EsitoTasto Cancella(std::string_view testo, Selezione selezione, TastoSezione tasto) {
   if (CodiciInteri(testo.substr(selezione.Inizio, selezione.Lunghezza))) return {};
   if (tasto == TastoSezione::Backspace && selezione.Inizio == 0)
@@ -54,10 +63,30 @@ EsitoTasto Cancella(std::string_view testo, Selezione selezione, TastoSezione ta
   if (const auto codice = CercaCodice(testo, selezione.Inizio, tasto)) {
     return {.Azione = AzioneTasto::ApriCodice, .Nuova = SelezioneDi(*codice)};
   }
-  const Selezione intera = ConCodiciInteri(testo, selezione);
-  if (selezione.Lunghezza > 0 && intera != selezione)
-    return {.Azione = AzioneTasto::Allarga, .Nuova = intera};
-  return {};
+  return Togli(testo, selezione);
+}
+
+EsitoTasto ApriOTogli(std::string_view testo, Selezione selezione, TastoSezione tasto) {
+  if (const auto codice = CodiceIntorno(testo, selezione.Inizio))
+    return {.Azione = AzioneTasto::ApriCodice, .Nuova = SelezioneDi(*codice)};
+  if (tasto == TastoSezione::F4) return {.Azione = AzioneTasto::ApriVariabile, .Nuova = {}};
+  return Togli(testo, selezione);
+}
+
+EsitoTasto PremiDaVicino(std::string_view testo, Selezione selezione, TastoSezione tasto) {
+  switch (tasto) {
+    case TastoSezione::Backspace:
+    case TastoSezione::Canc:
+      return Cancella(testo, selezione, tasto);
+    case TastoSezione::Togli:
+      return Togli(testo, selezione);
+    default:
+      return ApriOTogli(testo, selezione, tasto);
+  }
+}
+
+bool ApreDialogo(const EsitoTasto& esito) {
+  return esito.Azione == AzioneTasto::ApriCodice || esito.Azione == AzioneTasto::ApriVariabile;
 }
 
 }  // namespace
@@ -76,14 +105,24 @@ std::optional<PosizioneCodice> CodiceSotto(std::string_view testo, std::size_t p
   return CodiceIntorno(testo, testo[posizione] == DelimApertura ? posizione + 1 : posizione);
 }
 
-EsitoTasto PremiTasto(std::string_view testo, Selezione selezione, TastoSezione tasto) {
-  if (tasto == TastoSezione::Backspace || tasto == TastoSezione::Canc)
-    return Cancella(testo, selezione, tasto);
-  if (const auto codice = CodiceIntorno(testo, selezione.Inizio)) {
-    return {.Azione = AzioneTasto::ApriCodice, .Nuova = SelezioneDi(*codice)};
-  }
-  if (tasto == TastoSezione::F4) return {.Azione = AzioneTasto::ApriVariabile, .Nuova = {}};
-  return {};
+std::vector<PosizioneCodice> CodiciAlCursore(std::string_view testo, std::size_t cursore) {
+  if (const auto codice = CodiceIntorno(testo, cursore)) return {*codice};
+  std::vector<PosizioneCodice> codici;
+  if (const auto prima = CodicePrima(testo, cursore)) codici.push_back(*prima);
+  if (const auto dopo = CodiceDopo(testo, cursore)) codici.push_back(*dopo);
+  return codici;
+}
+
+std::size_t FuoriDaiCodici(std::string_view testo, std::size_t cursore) {
+  const auto codice = CodiceIntorno(testo, cursore);
+  return codice ? codice->Inizio + codice->Lunghezza : cursore;
+}
+
+EsitoTasto PremiTasto(std::string_view testo, Selezione selezione, TastoSezione tasto, Pressione pressione) {
+  constexpr EsitoTasto Niente = {.Azione = AzioneTasto::Nessuna, .Nuova = {}};
+  if (pressione == Pressione::Ripetuta && selezione.Lunghezza > 0) return Niente;
+  const EsitoTasto esito = PremiDaVicino(testo, selezione, tasto);
+  return pressione != Pressione::Prima && ApreDialogo(esito) ? Niente : esito;
 }
 
 }  // namespace parvik

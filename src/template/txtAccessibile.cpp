@@ -38,7 +38,8 @@ void* txtAccessibile::interface_cast(QAccessible::InterfaceType tipo) {
 
 QAccessible::State txtAccessibile::state() const {
   QAccessible::State stato = QAccessibleWidget::state();
-  stato.editable = true;
+  stato.editable = Editor().InUso();
+  stato.readOnly = !Editor().InUso();
   stato.multiLine = true;
   stato.selectableText = true;
   return stato;
@@ -122,32 +123,29 @@ QString txtAccessibile::attributes(int posizione, int* inizio, int* fine) const 
 }
 
 void txtAccessibile::deleteText(int inizio, int fine) {
+  if (!Editor().InUso()) return;
   Seleziona(inizio, fine);
-  Editor().CancellaSelezione();
+  Editor().Elimina();
 }
 
+/// A text with line ends or codes in it was not typed.
 void txtAccessibile::insertText(int posizione, const QString& testo) {
+  if (!Editor().InUso()) return;
   setCursorPosition(posizione);
-  Inserisci(testo);
-}
-
-void txtAccessibile::replaceText(int inizio, int fine, const QString& testo) {
-  Seleziona(inizio, fine);
-  const int prima = characterCount();
-  Editor().CancellaSelezione();
-  const bool cancellata = inizio == fine || characterCount() < prima;
-  if (cancellata) Inserisci(testo);
-}
-
-/// A text with line ends or whole codes in it was not typed.
-void txtAccessibile::Inserisci(const QString& testo) {
   const bool incollato = std::ranges::any_of(
       testo, [](QChar c) { return c == u'\u00AB' || c == u'\u00BB' || c == u'\n' || c == u'\r'; });
   if (incollato) {
     Editor().Incolla(testo);
   } else {
-    Editor().Scrivi(testo);
+    Editor().Scrivi(testo, Pressione::Assistita);
   }
+}
+
+/// What takes the place of a text was not typed either.
+void txtAccessibile::replaceText(int inizio, int fine, const QString& testo) {
+  if (!Editor().InUso()) return;
+  Seleziona(inizio, fine);
+  Editor().Incolla(testo);
 }
 
 }  // namespace parvik

@@ -44,7 +44,6 @@ class txtAccessibile final : public QAccessibleWidget,
   txtTCP& Editor() const;
   QString Testo() const;
   void Seleziona(int inizio, int fine);
-  void Inserisci(const QString& testo);
 };
 
 }  // namespace parvik

@@ -5,6 +5,7 @@
 #include "common/Windows1252.h"
 #include "docs/Pagine.h"
 #include "supporto/TestoConSelezione.h"
+#include "template/ParoleSezione.h"
 #include "template/TastiSezione.h"
 
 namespace parvik::prova {
@@ -25,7 +26,15 @@ std::string Disegno(std::string testo) {
   return ConFineRiga(std::move(testo));
 }
 
-TastoSezione Tasto(const std::string& nome) {
+constexpr std::string_view Tenuto = "held ";
+
+Pressione PressioneDi(const std::string& nome) {
+  return nome.starts_with(Tenuto) ? Pressione::Ripetuta : Pressione::Prima;
+}
+
+TastoSezione Tasto(std::string_view nome) {
+  if (nome.starts_with(Tenuto)) nome.remove_prefix(Tenuto.size());
+  if (nome == "removal") return TastoSezione::Togli;
   if (nome == "Backspace") return TastoSezione::Backspace;
   if (nome == "Delete") return TastoSezione::Canc;
   if (nome == "F4") return TastoSezione::F4;
@@ -52,8 +61,24 @@ std::string Detto(const std::string& testo, const EsitoTasto& esito) {
 TEST(KeyRulesPage, TellsWhatTheKeysDo) {
   for (const RigaEsempio& riga : TabellaEsempi("key-rules.md", "keys", 3)) {
     const ConSelezione caso(Disegno(riga.Testo(0)));
-    const EsitoTasto esito = PremiTasto(caso.Testo, caso.Selezionato, Tasto(riga.Testo(1)));
+    const EsitoTasto esito =
+        PremiTasto(caso.Testo, caso.Selezionato, Tasto(riga.Testo(1)), PressioneDi(riga.Testo(1)));
     EXPECT_EQ(Detto(caso.Testo, esito), Disegno(riga.Testo(2))) << riga.Posto();
+  }
+}
+
+Selezione DiParola(const std::string& testo, std::size_t cursore, const std::string& tasto) {
+  if (tasto == "Ctrl+Right") return {.Inizio = ParolaSeguente(testo, cursore), .Lunghezza = 0};
+  if (tasto == "Ctrl+Left") return {.Inizio = ParolaPrecedente(testo, cursore), .Lunghezza = 0};
+  EXPECT_EQ(tasto, "double click");
+  return ParolaSotto(testo, cursore);
+}
+
+TEST(KeyRulesPage, TellsWhatAWordIs) {
+  for (const RigaEsempio& riga : TabellaEsempi("key-rules.md", "words", 3)) {
+    const ConSelezione caso(Disegno(riga.Testo(0)));
+    const Selezione dopo = DiParola(caso.Testo, caso.Selezionato.Inizio, riga.Testo(1));
+    EXPECT_EQ(Scritto(caso.Testo, dopo), Disegno(riga.Testo(2))) << riga.Posto();
   }
 }
 

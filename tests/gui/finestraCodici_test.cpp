@@ -1,7 +1,6 @@
-// The main window around the code dialogs: print flags, caret status, tooltips, assistive technologies.
+// The main window around the code dialogs: print flags, caret status, tooltips.
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QHelpEvent>
 #include <QLabel>
 #include <QListWidget>
@@ -10,7 +9,6 @@
 #include <QToolTip>
 
 #include "Finestra.h"
-#include "common/frmTesto.h"
 #include "output/frmSettaFlag.h"
 
 namespace parvik {
@@ -196,60 +194,6 @@ TEST(FinestraCodici, TheMouseOverACodeTellsWhatItIs) {
       << descrizione(3).toStdString();
   EXPECT_TRUE(descrizione(20).startsWith(QString::fromUtf8("Variabile 9 · sconosciuta")))
       << descrizione(20).toStdString();
-}
-
-class FinestraAssistiva : public testing::Test {
- protected:
-  FinestraAssistiva() {
-    finestra_.Scegli(12);
-    interfaccia_ = QAccessible::queryAccessibleInterface(&finestra_.Sezione(0));
-  }
-  std::string Testo() { return DaSchermo(finestra_.Sezione(0).toPlainText()); }
-
-  Finestra finestra_;
-  QAccessibleInterface* interfaccia_ = nullptr;
-};
-
-TEST_F(FinestraAssistiva, ReadsTheSectionAsAnEditableText) {
-  ImpostaTesto(finestra_.Sezione(0), "ab\n«V1»");
-  ASSERT_NE(interfaccia_, nullptr);
-  EXPECT_EQ(interfaccia_->role(), QAccessible::EditableText);
-  EXPECT_EQ(interfaccia_->text(QAccessible::Name), "Testata");
-  EXPECT_EQ(interfaccia_->text(QAccessible::Value), QString::fromUtf8("ab\n«V1»"));
-  EXPECT_EQ(interfaccia_->textInterface()->text(0, 3), "ab\n");
-  EXPECT_EQ(interfaccia_->textInterface()->characterCount(), 7);
-  EXPECT_TRUE(interfaccia_->state().editable);
-}
-
-TEST_F(FinestraAssistiva, InsertedTextIsTypedFullStopsAreNot) {
-  ImpostaTesto(finestra_.Sezione(0), "ab");
-  interfaccia_->editableTextInterface()->insertText(1, "x.y");
-  EXPECT_EQ(Testo(), "axyb");
-}
-
-TEST_F(FinestraAssistiva, DeletingCannotCutACodeInHalf) {
-  ImpostaTesto(finestra_.Sezione(0), "ab«V1;2L»c");
-  interfaccia_->editableTextInterface()->deleteText(0, 4);
-  EXPECT_EQ(Testo(),
-            "ab\xAB"
-            "V1;2L\xBB"
-            "c");
-  interfaccia_->editableTextInterface()->deleteText(0, 9);
-  EXPECT_EQ(Testo(), "c");
-}
-
-TEST_F(FinestraAssistiva, AWholeTextWithCodesIsReplacedAtOnce) {
-  ImpostaTesto(finestra_.Sezione(0), "ab");
-  interfaccia_->editableTextInterface()->replaceText(0, 2, QString::fromUtf8("«V8;9R;.0;0»\nfine."));
-  EXPECT_EQ(Testo(),
-            "\xAB"
-            "V8;9R;.0;0\xBB\r\nfine.");
-}
-
-TEST_F(FinestraAssistiva, AnEditMakesTheTemplateModified) {
-  interfaccia_->editableTextInterface()->insertText(0, "x");
-  finestra_.Persona().Rispondera(Risposta::Annulla);
-  EXPECT_FALSE(finestra_->close());
 }
 
 }  // namespace

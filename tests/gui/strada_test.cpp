@@ -91,6 +91,24 @@ TEST(Strada, AnArrowKeyMakesTheTemplateModified) {
   EXPECT_TRUE(finestra->isVisible());
 }
 
+TEST(Strada, AShortcutAndAnAccessKeyLeaveAnUntouchedTemplateUnmodified) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  finestra.Apri("FATT01.IMG");
+  QWidget* testata = &finestra.Sezione(0);
+  QTest::keyPress(testata, Qt::Key_Control);
+  finestra.Persona().Scegliera(finestra.Modello("FATT01.IMG"));
+  QTest::keyClick(testata, Qt::Key_O, Qt::ControlModifier);
+  QTest::keyRelease(testata, Qt::Key_Control);
+  QTest::keyPress(testata, Qt::Key_Alt);
+  QTest::keyClick(testata, Qt::Key_F, Qt::AltModifier);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+  QTest::keyClick(testata, Qt::Key_Q, Qt::ControlModifier);
+  EXPECT_FALSE(finestra->isVisible()) << "closed without a question";
+  EXPECT_TRUE(finestra.Persona().Messaggi.empty());
+}
+
 TEST(Strada, ClosingAnUnmodifiedTemplateAsksNothing) {
   Finestra finestra;
   finestra.Scegli(1);

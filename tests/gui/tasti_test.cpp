@@ -7,60 +7,13 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "Finestra.h"
-#include "common/frmTesto.h"
-#include "supporto/TestoConSelezione.h"
-#include "template/txtTCP.h"
+#include "EditorDiProva.h"
 
 namespace parvik {
 namespace {
 
 using prova::ConSelezione;
-
-/// An editor on a drawn text, and what it drew back.
-class Editor {
- public:
-  explicit Editor(const char* disegno) : editor_(Sezione::Testata, nullptr) {
-    const ConSelezione caso(disegno);
-    editor_.setPlainText(PerSchermo(caso.Testo));
-    Seleziona(caso.Selezionato);
-    QObject::connect(&editor_, &txtTCP::CodiceDaAprire, &editor_,
-                     [this](const std::string& contenuto) { Aperti.push_back(contenuto); });
-    QObject::connect(&editor_, &txtTCP::VariabileDaInserire, &editor_, [this] { ++Variabili; });
-  }
-
-  void Seleziona(Selezione selezione) {
-    QTextCursor cursore(editor_.document());
-    cursore.setPosition(static_cast<int>(selezione.Inizio));
-    cursore.setPosition(static_cast<int>(selezione.Fine()), QTextCursor::KeepAnchor);
-    editor_.setTextCursor(cursore);
-  }
-  Editor& Premi(Qt::Key tasto, Qt::KeyboardModifiers con = {}) {
-    QTest::keyClick(&editor_, tasto, con);
-    return *this;
-  }
-  Editor& Scrivi(const QString& testo) {
-    QTest::keyClicks(&editor_, testo);
-    return *this;
-  }
-  std::string Testo() const {
-    return DaSchermo(editor_.document()->toRawText().replace(QChar(0x2029), u' '));
-  }
-  std::string Disegno() const {
-    const QTextCursor cursore = editor_.textCursor();
-    const Selezione selezione{
-        .Inizio = static_cast<std::size_t>(cursore.selectionStart()),
-        .Lunghezza = static_cast<std::size_t>(cursore.selectionEnd() - cursore.selectionStart())};
-    return prova::Scritto(Testo(), selezione);
-  }
-  txtTCP& Widget() { return editor_; }
-
-  std::vector<std::string> Aperti;
-  int Variabili = 0;
-
- private:
-  txtTCP editor_;
-};
+using Editor = prova::EditorDiProva;
 
 TEST(Tasti, BackspaceAtTheVeryStartOfASectionDoesNothing) {
   EXPECT_EQ(Editor("|abc").Premi(Qt::Key_Backspace).Disegno(), "|abc");
@@ -218,13 +171,31 @@ TEST(Tasti, ADoubleClickOnACodeOpensItAndElsewhereSelectsAWord) {
   EXPECT_EQ(editor.Widget().textCursor().selectedText(), "parola");
 }
 
+std::vector<std::string> Segnati(Editor& editor) {
+  std::vector<std::string> segnati;
+  for (const QTextEdit::ExtraSelection& segno : editor.Widget().extraSelections())
+    segnati.push_back(DaSchermo(segno.cursor.selectedText()));
+  return segnati;
+}
+
 TEST(Tasti, TheCodeUnderTheCaretIsMarkedAsAUnit) {
   Editor editor("ab «V1|;2L» cd");
-  ASSERT_EQ(editor.Widget().extraSelections().size(), 1);
-  EXPECT_EQ(DaSchermo(editor.Widget().extraSelections().constFirst().cursor.selectedText()),
-            ConSelezione("«V1;2L»").Testo);
+  EXPECT_EQ(Segnati(editor), std::vector{ConSelezione("«V1;2L»").Testo});
   editor.Premi(Qt::Key_Home);
-  EXPECT_TRUE(editor.Widget().extraSelections().isEmpty());
+  EXPECT_TRUE(Segnati(editor).empty());
+}
+
+TEST(Tasti, ACodeIsMarkedWithTheCaretDirectlyInFrontOfItOrBehindItToo) {
+  for (const char* disegno : {"ab|«V1;2L»cd", "ab«V1;2L»|cd", "ab«|V1;2L»cd", "ab«V1;2L|»cd"}) {
+    Editor editor(disegno);
+    EXPECT_EQ(Segnati(editor), std::vector{ConSelezione("«V1;2L»").Testo}) << disegno;
+  }
+  for (const char* disegno : {"a|b«V1;2L»cd", "ab«V1;2L»c|d"}) {
+    Editor editor(disegno);
+    EXPECT_TRUE(Segnati(editor).empty()) << disegno;
+  }
+  Editor fra("«V1»|«V2»");
+  EXPECT_EQ(Segnati(fra), (std::vector{ConSelezione("«V1»").Testo, ConSelezione("«V2»").Testo}));
 }
 
 /// The rules' own idea of an editor: a text, a selection, and dialogs that are always cancelled.
@@ -233,6 +204,11 @@ struct Copia {
   Selezione Scelta;
 
   void Scrivi(char c) {
+    const EsitoTasto esito = PremiTasto(Testo, Scelta, TastoSezione::Togli);
+    if (esito.Azione == AzioneTasto::Allarga) {
+      Scelta = esito.Nuova;
+      return;
+    }
     Testo.replace(Scelta.Inizio, Scelta.Lunghezza, 1, c);
     Scelta = {.Inizio = Scelta.Inizio + 1, .Lunghezza = 0};
   }
@@ -250,6 +226,7 @@ struct Copia {
   }
   void Consueta(TastoSezione tasto) {
     if (tasto == TastoSezione::Spazio) return Scrivi(' ');
+    if (tasto == TastoSezione::Togli && Scelta.Lunghezza == 0) return;
     if (Scelta.Lunghezza == 0 && tasto == TastoSezione::Backspace)
       Scelta = {.Inizio = Scelta.Inizio - 1, .Lunghezza = 1};
     if (Scelta.Lunghezza == 0 && Scelta.Inizio < Testo.size()) Scelta.Lunghezza = 1;
@@ -261,6 +238,7 @@ struct Copia {
 struct Passo {
   Qt::Key Tasto;
   TastoSezione Regola;
+  Qt::KeyboardModifiers Con = {};
 };
 
 TEST(TastiProprieta, WidgetAndRulesAgreeAtEveryStep) {
@@ -285,17 +263,18 @@ TEST(TastiProprieta, WidgetAndRulesAgreeAtEveryStep) {
         copia.Scelta.Lunghezza = static_cast<std::size_t>(*rc::gen::inRange(0, resto + 1));
         editor.Seleziona(copia.Scelta);
       }
-      const int scelta = *rc::gen::inRange(0, 6);
-      if (scelta < 4) {
+      const int scelta = *rc::gen::inRange(0, 7);
+      if (scelta < 5) {
         const Passo passi[] = {{Qt::Key_Backspace, TastoSezione::Backspace},
                                {Qt::Key_Delete, TastoSezione::Canc},
                                {Qt::Key_F4, TastoSezione::F4},
-                               {Qt::Key_Space, TastoSezione::Spazio}};
-        editor.Premi(passi[scelta].Tasto);
+                               {Qt::Key_Space, TastoSezione::Spazio},
+                               {Qt::Key_X, TastoSezione::Togli, Qt::ControlModifier}};
+        editor.Premi(passi[scelta].Tasto, passi[scelta].Con);
         copia.Premi(passi[scelta].Regola);
       } else {
-        editor.Scrivi(scelta == 4 ? "q" : ".");
-        if (scelta == 4) copia.Scrivi('q');
+        editor.Scrivi(scelta == 5 ? "q" : ".");
+        if (scelta == 5) copia.Scrivi('q');
       }
       RC_ASSERT(editor.Disegno() == disegno());
     }

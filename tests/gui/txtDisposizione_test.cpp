@@ -88,7 +88,7 @@ TEST_F(TxtDisposizione, EveryKindOfChangeIsSeenOnTheScreenAtOnce) {
         editor_.Incolla("a\nb\nc");  // as many lines as before
       },
       [&] { editor_.selectAll(); },
-      [&] { editor_.CancellaSelezione(); },
+      [&] { editor_.Elimina(); },
       [&] { editor_.undo(); },
       [&] { editor_.CompletaUltimaRiga(); },
       [&] { editor_.ImpostaAnsi("altro \xABV1\xBB\r\n"); },

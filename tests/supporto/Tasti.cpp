@@ -18,10 +18,11 @@ void Obbedisci(std::string& testo, Selezione& selezione, TastoSezione tasto) {
   if (esito.Azione == AzioneTasto::Allarga || esito.Azione == AzioneTasto::ApriCodice)
     selezione = esito.Nuova;
   if (esito.Azione != AzioneTasto::Consueta) return;
-  if (tasto != TastoSezione::Backspace && tasto != TastoSezione::Canc) return;
+  if (tasto == TastoSezione::F4 || tasto == TastoSezione::Spazio) return;
   if (selezione.Lunghezza == 0 && tasto == TastoSezione::Backspace)
     selezione = {.Inizio = selezione.Inizio - 1, .Lunghezza = 1};
-  if (selezione.Lunghezza == 0 && selezione.Inizio < testo.size()) selezione.Lunghezza = 1;
+  if (selezione.Lunghezza == 0 && tasto == TastoSezione::Canc && selezione.Inizio < testo.size())
+    selezione.Lunghezza = 1;
   testo.erase(selezione.Inizio, selezione.Lunghezza);
   selezione.Lunghezza = 0;
 }

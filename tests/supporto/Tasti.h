@@ -11,7 +11,7 @@ namespace parvik::prova {
 /// The codes of a text, in its order.
 std::vector<std::string> Codici(const std::string& testo);
 
-/// A key as an editor obeys it; a dialog that opens is cancelled. Only Backspace and Canc change the text.
+/// A key as an editor obeys it; a dialog that opens is cancelled. Only keys that remove change the text.
 void Obbedisci(std::string& testo, Selezione& selezione, TastoSezione tasto);
 
 }  // namespace parvik::prova

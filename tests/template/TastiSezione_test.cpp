@@ -21,9 +21,9 @@ using prova::Obbedisci;
 using prova::Scritto;
 
 /// What became of the text and the selection, and in words what else happened.
-std::string Premuto(const char* prima, TastoSezione tasto) {
+std::string Premuto(const char* prima, TastoSezione tasto, Pressione pressione = Pressione::Prima) {
   const ConSelezione caso(prima);
-  const EsitoTasto esito = PremiTasto(caso.Testo, caso.Selezionato, tasto);
+  const EsitoTasto esito = PremiTasto(caso.Testo, caso.Selezionato, tasto, pressione);
   switch (esito.Azione) {
     case AzioneTasto::Consueta:
       return "consueta";
@@ -100,9 +100,65 @@ INSTANTIATE_TEST_SUITE_P(Regole, TastiSezioneTest, testing::Values(
     Caso{"space_inside_a_code", "«V1|;2L»", Spazio, "apre [«V1;2L»]"},
     Caso{"space_outside_codes", "«V1»| a", Spazio, "consueta"},
     Caso{"space_at_the_start", "|a", Spazio, "consueta"},
-    Caso{"space_in_an_unclosed_code", "«V1| a", Spazio, "consueta"}),
+    Caso{"space_in_an_unclosed_code", "«V1| a", Spazio, "consueta"},
+    Caso{"space_on_text_and_half_a_code", "x[a«V]1»b", Spazio, "allarga x[a«V1»]b"},
+    Caso{"removing_nothing", "x|y", Togli, "consueta"},
+    Caso{"removing_nothing_inside_a_code", "«V|1»", Togli, "consueta"},
+    Caso{"removing_text", "[abc]y", Togli, "consueta"},
+    Caso{"removing_a_code", "[«V1»]", Togli, "consueta"},
+    Caso{"removing_text_and_whole_codes", "x[a«V1»b«V2»]y", Togli, "consueta"},
+    Caso{"removing_half_a_code_behind_text", "x[a«V]1»b", Togli, "allarga x[a«V1»]b"},
+    Caso{"removing_half_a_code_in_front_of_text", "«V[1»ab]c", Togli, "allarga [«V1»ab]c"},
+    Caso{"removing_halves_of_two_codes", "«V[1»a«V]2»", Togli, "allarga [«V1»a«V2»]"},
+    Caso{"removing_a_part_of_a_code", "a«V[1;]2L»b", Togli, "allarga a[«V1;2L»]b"},
+    Caso{"removing_a_codes_content", "a«[V1]»b", Togli, "allarga a[«V1»]b"},
+    Caso{"removing_an_opening_delimiter_alone", "a[«]V1»b", Togli, "allarga a[«V1»]b"},
+    Caso{"removing_a_part_of_an_unclosed_code", "a«V[1]b", Togli, "consueta"}),
     [](const auto& caso) { return std::string(caso.param.Nome); });
 // clang-format on
+
+TEST(TastoTenuto, OpensNoDialogAndTakesNoSelectionAway) {
+  for (const TastoSezione tasto : {Backspace, Canc, F4, Spazio}) {
+    EXPECT_EQ(Premuto("«V1|»", tasto, Pressione::Ripetuta), "nessuna");
+    EXPECT_EQ(Premuto("x[«V1»]y", tasto, Pressione::Ripetuta), "nessuna");
+  }
+  EXPECT_EQ(Premuto("x[ab]y", Togli, Pressione::Ripetuta), "nessuna");
+  EXPECT_EQ(Premuto("ab|", F4, Pressione::Ripetuta), "nessuna");
+  EXPECT_EQ(Premuto("ab|", Backspace, Pressione::Ripetuta), "consueta");
+  EXPECT_EQ(Premuto("ab|", Spazio, Pressione::Ripetuta), "consueta");
+}
+
+TEST(TastoAssistito, OpensNoDialogAndTakesASelectionAway) {
+  EXPECT_EQ(Premuto("«V1|»", Spazio, Pressione::Assistita), "nessuna");
+  EXPECT_EQ(Premuto("x[ab]y", Spazio, Pressione::Assistita), "consueta");
+}
+
+std::vector<std::string> AlCursore(const char* disegno) {
+  const ConSelezione caso(disegno);
+  std::vector<std::string> codici;
+  for (const PosizioneCodice& codice : CodiciAlCursore(caso.Testo, caso.Selezionato.Inizio))
+    codici.push_back(caso.Testo.substr(codice.Inizio, codice.Lunghezza));
+  return codici;
+}
+
+TEST(CodiciAlCursore, AreTheOneAroundItOrTheOnesBesideIt) {
+  const std::string uno = ConSelezione("«V1»").Testo;
+  const std::string due = ConSelezione("«V2»").Testo;
+  using Lista = std::vector<std::string>;
+  EXPECT_EQ(AlCursore("a|b«V1»"), Lista{});
+  EXPECT_EQ(AlCursore("ab|«V1»c"), Lista{uno});
+  EXPECT_EQ(AlCursore("ab«V|1»c"), Lista{uno});
+  EXPECT_EQ(AlCursore("ab«V1»|c"), Lista{uno});
+  EXPECT_EQ(AlCursore("«V1»|«V2»"), (Lista{uno, due}));
+  EXPECT_EQ(AlCursore("a|«b"), Lista{});
+  EXPECT_EQ(AlCursore("a»|b"), Lista{});
+}
+
+TEST(FuoriDaiCodici, IsBehindTheCodeThatThePlaceLiesIn) {
+  const ConSelezione caso("a«V1»b");
+  const std::vector<std::size_t> atteso = {0, 1, 5, 5, 5, 5, 6};
+  for (std::size_t i = 0; i < atteso.size(); ++i) EXPECT_EQ(FuoriDaiCodici(caso.Testo, i), atteso[i]) << i;
+}
 
 TEST(CodiceSotto, CoversTheDelimitersAndNothingBesideThem) {
   const ConSelezione caso("a«V1»b");
@@ -120,7 +176,7 @@ TEST(CarattereScartato, IsTheFullStopOnly) {
   EXPECT_FALSE(CarattereScartato(U' '));
 }
 
-TEST(TastiSezioneProprieta, NoSequenceOfBackspaceAndDeleteLeavesHalfACode) {
+TEST(TastiSezioneProprieta, NoSequenceOfKeysThatRemoveLeavesHalfACode) {
   EXPECT_TRUE(rc::check([] {
     std::string testo;
     for (const int pezzo : *rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 6))) {
@@ -134,7 +190,7 @@ TEST(TastiSezioneProprieta, NoSequenceOfBackspaceAndDeleteLeavesHalfACode) {
       const int resto = lunghezza - static_cast<int>(selezione.Inizio);
       selezione.Lunghezza = static_cast<std::size_t>(
           *rc::gen::weightedOneOf<int>({{2, rc::gen::just(0)}, {1, rc::gen::inRange(0, resto + 1)}}));
-      const TastoSezione tasto = *rc::gen::element(Backspace, Canc);
+      const TastoSezione tasto = *rc::gen::element(Backspace, Canc, Togli);
       Obbedisci(testo, selezione, tasto);
       Obbedisci(testo, selezione, tasto);
       // Every delimiter still belongs to a whole code, and every code is one of those that were there.

@@ -1,0 +1,27 @@
+// Words in a section, as the keys that move by words and the double click take them. A code is one word, and
+// so is each of a row of letters and digits, of blanks, and of other characters.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "template/TastiSezione.h"
+
+namespace parvik {
+
+// Positions are 0-based bytes, lines end with a line feed. The caller may give any part of a section that
+// holds the whole lines of the caret, and reaches over a delimiter in front of them and a closing delimiter
+// behind them.
+
+/// Where the caret goes by a word: behind the word that it stands in or in front of, and the blanks behind
+/// that; from the end of a line to the start of the next.
+std::size_t ParolaSeguente(std::string_view testo, std::size_t cursore);
+
+/// The way back: in front of the nearest word; from the start of a line to the end of the one before.
+std::size_t ParolaPrecedente(std::string_view testo, std::size_t cursore);
+
+/// The word of the character at `posizione`. At the end of a line the one in front of it, but a code: then
+/// nothing, at `posizione`.
+Selezione ParolaSotto(std::string_view testo, std::size_t posizione);
+
+}  // namespace parvik
