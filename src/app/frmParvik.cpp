@@ -10,6 +10,8 @@
 #include "app/frmDivisore.h"
 #include "catalogue/frmScelta.h"
 #include "common/frmAttesa.h"
+#include "common/frmTastiInCoda.h"
+#include "common/frmTastiRipetuti.h"
 #include "common/frmTesto.h"
 #include "output/frmDestStampa.h"
 #include "output/frmStampa.h"
@@ -53,6 +55,8 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
       editore_(std::move(dati.Dove), std::move(dati.Campi), *this, interlocutore),
       maschere_(editore_, *this) {
   setObjectName("frmParvik");
+  new frmTastiInCoda(this);
+  new frmTastiRipetuti(this);
   CreaControlli();
   CreaMenu();
   CollegaMenu();
@@ -117,6 +121,7 @@ void frmParvik::CreaMenu() {
       azione = menu->addAction(voce.Didascalia);
       azione->setShortcut(QKeySequence(voce.Scorciatoia, QKeySequence::PortableText));
       azione->setCheckable(voce.ConSpunta);
+      azione->setAutoRepeat(false);          // a held key opens no dialog
       azione->setMenuRole(QAction::NoRole);  // the tree stays as it is on every system
     }
     azione->setObjectName(voce.Nome);
