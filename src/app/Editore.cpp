@@ -4,6 +4,7 @@
 
 #include "app/Avvio.h"
 #include "common/Delimitatori.h"
+#include "common/Precondizione.h"
 #include "common/Windows1252.h"
 #include "template/RigheSezione.h"
 #include "tokens/DescriviCodice.h"
@@ -13,6 +14,10 @@ namespace {
 
 constexpr const char* TitoloSenzaTipo = "Ordavia";
 constexpr int UscitaPerErrore = 1;
+
+// What the commands expect.
+constexpr const char* ConTipo = "a document type is chosen";
+constexpr const char* ConSezione = "the section is one of the template's";
 
 }  // namespace
 
@@ -25,6 +30,7 @@ Editore::Editore(Installazione installazione, Catalogo catalogo, Vista& vista, I
       titolo_(TitoloSenzaTipo) {}
 
 void Editore::ScegliTipo(std::size_t slot) {
+  PARVIK_ESIGE(slot < catalogo_.TipiDoc().size(), "the slot is one of the catalogue's");
   tipoDocCorrente_ = slot;
   anteSpuntata_ = true;
   tabelle_ = {};
@@ -60,6 +66,7 @@ void Editore::SegnalaErroreCatalogo(NumeroErrore errore) {
 }
 
 std::vector<Variabile> Editore::VariabiliDaOffrire() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
   Tabella<Variabile> tabella = catalogo_.CaricaVariabili(Tipo(), sezioneAttiva_);
   if (tabella.Errore) SegnalaErroreCatalogo(*tabella.Errore);
   tabella.Voci.pop_back();  // the empty slot
@@ -67,6 +74,7 @@ std::vector<Variabile> Editore::VariabiliDaOffrire() {
 }
 
 std::vector<parvik::Flag> Editore::FlagDaOffrire() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
   Tabella<parvik::Flag> tabella = catalogo_.CaricaFlag(Tipo(), sezioneAttiva_);
   if (tabella.Errore) SegnalaErroreCatalogo(*tabella.Errore);
   if (!tabella.Errore) tabella.Voci.pop_back();  // the empty slot
@@ -74,6 +82,7 @@ std::vector<parvik::Flag> Editore::FlagDaOffrire() {
 }
 
 std::string Editore::Descrivi(Sezione sezione, std::string_view contenuto) {
+  PARVIK_ESIGE(InUso(sezione), ConSezione);
   std::optional<TabelleSezione>& tabelle = tabelle_[Indice(sezione)];
   if (!tabelle) {
     // What the catalogue has wrong is told by the dialogs, not by a tooltip.
@@ -83,12 +92,29 @@ std::string Editore::Descrivi(Sezione sezione, std::string_view contenuto) {
   return DescriviCodice(contenuto, tabelle->Variabili, tabelle->Flag);
 }
 
+void Editore::AttivaSezione(Sezione sezione) {
+  PARVIK_ESIGE(InUso(sezione), ConSezione);
+  sezioneAttiva_ = sezione;
+}
+
+void Editore::PreparaInserimento() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  vista_.AllargaSelezione(sezioneAttiva_);
+}
+
+void Editore::SegnaModificato() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  documento_.Modificato = true;
+}
+
 void Editore::InserisciCodice(std::string_view codice) {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
   documento_.Modificato = true;
   vista_.InserisciCodice(sezioneAttiva_, codice);
 }
 
 std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
+  PARVIK_ESIGE(InUso(sezione), ConSezione);
   const Esito<ConteggioRighe> conteggio = ContaRigheSezione(vista_.Testo(sezione));
   if (!conteggio) {
     interlocutore_.Chiedi({.Testo = TestoErrore(conteggio.Errore())});
@@ -99,6 +125,7 @@ std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
 }
 
 void Editore::ImpostaCorpo(const ImpostazioniCorpo& corpo) {
+  PARVIK_ESIGE(TreSezioni(), "the document type has three sections");
   if (corpo != documento_.Corpo) documento_.Modificato = true;  // the file would be another one
   documento_.Corpo = corpo;
 }
@@ -119,30 +146,36 @@ std::optional<Editore::RigheMostrate> Editore::CalcolaTotali() {
 }
 
 void Editore::CommutaRighe() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
   totali_ = totali_ ? std::nullopt : CalcolaTotali();
   vista_.Aggiorna();
 }
 
 void Editore::CommutaSettaFlag() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
   settaFlagSpuntata_ = !settaFlagSpuntata_;
   vista_.Aggiorna();
 }
 
 void Editore::Nuovo() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
   comandi_.Nuovo(Tipo());
 }
 
 void Editore::Apri() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
   comandi_.Apri(Tipo());
   vista_.Aggiorna();
 }
 
 void Editore::Salva() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
   comandi_.Salva(Tipo());
   vista_.Aggiorna();
 }
 
 void Editore::SalvaConNome() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
   comandi_.SalvaConNome(Tipo());
   vista_.Aggiorna();
 }

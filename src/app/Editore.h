@@ -58,6 +58,8 @@ class Vista : public Sezioni {
   virtual Esito<Tipografo, std::string> ScegliStampante() = 0;
   /// Puts a finished code (bytes, with its delimiters) in place of the section's selection.
   virtual void InserisciCodice(Sezione sezione, std::string_view codice) = 0;
+  /// Makes the section's selection hold the whole of the codes that it cuts.
+  virtual void AllargaSelezione(Sezione sezione) = 0;
   /// The print flags were loaded anew, set to false or discarded.
   virtual void RicaricaFlagStampe() = 0;
 };
@@ -73,6 +75,8 @@ class Editore final : private Contorno {
   const std::string& Titolo() const { return titolo_; }  // UTF-8
   bool TipoScelto() const { return tipoDocCorrente_ != NessunTipo; }
   bool TreSezioni() const { return TipoScelto() && HaTreSezioni(Tipo().NumSezioni); }
+  /// Whether the section is one of the template's.
+  bool InUso(Sezione sezione) const { return sezione == Sezione::Testata ? TipoScelto() : TreSezioni(); }
   /// The check mark of the preview; it stays as it was when the document type is given up.
   bool AnteSpuntata() const { return anteSpuntata_; }
   bool AnteVisibile() const { return TipoScelto() && anteSpuntata_; }
@@ -95,6 +99,10 @@ class Editore final : private Contorno {
 
   /// A document type was chosen from the list, by its slot.
   void ScegliTipo(std::size_t slot);
+
+  // All that follow need a document type but where they say otherwise: see menus.md for what can be used
+  // when.
+
   void Nuovo();
   void Apri();
   void Salva();
@@ -107,7 +115,11 @@ class Editore final : private Contorno {
   void CommutaSettaFlag();
   /// The menu entry of the line totals: shows the numbers of this moment, or hides them.
   void CommutaRighe();
-  void AttivaSezione(Sezione sezione) { sezioneAttiva_ = sezione; }
+  /// One that is in use.
+  void AttivaSezione(Sezione sezione);
+
+  /// Before a dialog that builds a code is shown: what its answer will take the place of cuts no code.
+  void PreparaInserimento();
 
   /// The one routine through which every dialog inserts a finished code: at the caret of the active section,
   /// in place of its selection. The template is modified by it, even if the code is empty.
@@ -118,18 +130,19 @@ class Editore final : private Contorno {
   std::vector<Variabile> VariabiliDaOffrire();
   std::vector<parvik::Flag> FlagDaOffrire();
 
-  /// What a code of that section is, for a tooltip. UTF-8.
+  /// What a code of that section is, for a tooltip. UTF-8. The section must be in use.
   std::string Descrivi(Sezione sezione, std::string_view contenuto);
 
   /// The lines of a section, its last line completed; nullopt after a message when there are too many to
   /// count.
   std::optional<std::int16_t> ContaRighe(Sezione sezione);
+  /// Needs a type of three sections.
   void ImpostaCorpo(const ImpostazioniCorpo& corpo);
 
-  /// Whether the window may close. Asks when the template is modified.
+  /// Whether the window may close. Asks when the template is modified. In every state.
   bool PuoChiudere();
   /// A section was edited, or a key was pressed in it.
-  void SegnaModificato() { documento_.Modificato = true; }
+  void SegnaModificato();
 
  private:
   static constexpr std::uint16_t NessunTipo = 999;

@@ -6,6 +6,7 @@
 #include "app/Editore.h"
 #include "common/Avverti.h"
 #include "common/Percorsi.h"
+#include "common/Precondizione.h"
 #include "output/StampaSuFile.h"
 
 namespace parvik {
@@ -92,6 +93,7 @@ void Editore::SpegniAnteprima() {
 }
 
 void Editore::CommutaAnteprima() {
+  PARVIK_ESIGE(TipoScelto(), "a document type is chosen");
   if (anteSpuntata_) {
     SpegniAnteprima();
   } else {
@@ -100,6 +102,7 @@ void Editore::CommutaAnteprima() {
 }
 
 void Editore::Stampa() {
+  PARVIK_ESIGE(TipoScelto(), "a document type is chosen");
   if (!comandi_.VerificaStampa(Tipo())) return;
   const std::optional<Destinazione> destinazione = vista_.ScegliDestinazione();
   if (!destinazione) return;

@@ -11,6 +11,7 @@
 namespace parvik {
 
 void frmMaschere::ApriForm(TipoCodice genere) {
+  editore_.PreparaInserimento();
   if (const auto maschera = Crea(genere)) Esegui(*maschera);
 }
 

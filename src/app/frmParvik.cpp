@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QMenuBar>
 #include <cmath>
 #include <utility>
 
@@ -91,66 +90,30 @@ void frmParvik::CreaSezione(Sezione sezione) {
   auto* editor = new txtTCP(sezione, area_);
   editor->ImpostaDescrizione(
       [this, sezione](std::string_view contenuto) { return DaUtf8(editore_.Descrivi(sezione, contenuto)); });
-  connect(editor, &txtTCP::Modificata, this, [this] { editore_.SegnaModificato(); });
-  connect(editor, &txtTCP::Attivata, this, &frmParvik::AttivaSezione);
-  connect(editor, &txtTCP::CodiceDaAprire, this, [this, sezione](const std::string& contenuto) {
+  sezioni_[Indice(sezione)] = editor;
+  CollegaSezione(sezione);
+}
+
+/// What a section tells counts only while it is in use.
+void frmParvik::CollegaSezione(Sezione sezione) {
+  const auto collega = [this, sezione](auto segnale, auto comando) {
+    connect(sezioni_[Indice(sezione)], segnale, this, [this, sezione, comando](const auto&... dati) {
+      if (editore_.InUso(sezione)) comando(dati...);
+    });
+  };
+  collega(&txtTCP::Modificata, [this] { editore_.SegnaModificato(); });
+  collega(&txtTCP::Attivata, [this](Sezione attiva) { AttivaSezione(attiva); });
+  collega(&txtTCP::CodiceDaAprire, [this, sezione](const std::string& contenuto) {
     AttivaSezione(sezione);
     maschere_.ApriMaschera(contenuto);
   });
-  connect(editor, &txtTCP::VariabileDaInserire, this, [this] { maschere_.ApriForm(TipoCodice::Variabile); });
-  sezioni_[Indice(sezione)] = editor;
+  collega(&txtTCP::VariabileDaInserire, [this] { maschere_.ApriForm(TipoCodice::Variabile); });
 }
 
 void frmParvik::MisuraEtichette() {
   if (etichetteMisurate_) return;
   etichetteMisurate_ = true;
   for (lblTCP* etichetta : etichette_) etichetta->Misura();
-}
-
-void frmParvik::CreaMenu() {
-  QMenu* menu = nullptr;
-  for (const VoceMenu& voce : VociMenu()) {
-    QAction* azione = nullptr;
-    if (voce.Genere == GenereVoce::Menu) {
-      menu = menuBar()->addMenu(voce.Didascalia);
-      menu->setObjectName(voce.Nome);
-      azione = menu->menuAction();
-    } else if (voce.Genere == GenereVoce::Separatore) {
-      azione = menu->addSeparator();
-    } else {
-      azione = menu->addAction(voce.Didascalia);
-      azione->setShortcut(QKeySequence(voce.Scorciatoia, QKeySequence::PortableText));
-      azione->setCheckable(voce.ConSpunta);
-      azione->setAutoRepeat(false);          // a held key opens no dialog
-      azione->setMenuRole(QAction::NoRole);  // the tree stays as it is on every system
-    }
-    azione->setObjectName(voce.Nome);
-    azioni_.insert(voce.Nome, azione);
-  }
-}
-
-void frmParvik::CollegaMenu() {
-  const auto collega = [this](const char* nome, auto comando) {
-    connect(azioni_.value(nome), &QAction::triggered, this, comando);
-  };
-  collega("mnuScelta", [this] { ScegliTipo(); });
-  collega("mnuNuovo", [this] { editore_.Nuovo(); });
-  collega("mnuApri", [this] { editore_.Apri(); });
-  collega("mnuSalva", [this] { editore_.Salva(); });
-  collega("mnuSalvaNome", [this] { editore_.SalvaConNome(); });
-  collega("mnuStampa", [this] { editore_.Stampa(); });
-  collega("mnuInfo", [this] { MostraInformazioni(); });
-  collega("mnuEsci", [this] { close(); });
-  collega("mnuAnte", [this] { editore_.CommutaAnteprima(); });
-  collega("mnuVar", [this] { maschere_.ApriForm(TipoCodice::Variabile); });
-  collega("mnuFlag", [this] { maschere_.ApriForm(TipoCodice::Flag); });
-  collega("mnuStile", [this] { maschere_.ApriForm(TipoCodice::Stile); });
-  collega("mnuLingua", [this] { maschere_.ApriForm(TipoCodice::Lingua); });
-  collega("mnuPagina", [this] { maschere_.ApriForm(TipoCodice::Pagina); });
-  collega("mnuCostante", [this] { maschere_.ApriForm(TipoCodice::Costante); });
-  collega("mnuComando", [this] { maschere_.ApriComando(); });
-  collega("mnuRighe", [this] { editore_.CommutaRighe(); });
-  collega("mnuSettaFlag", [this] { editore_.CommutaSettaFlag(); });
 }
 
 void frmParvik::ScegliTipo() {
@@ -172,6 +135,7 @@ void frmParvik::MostraInformazioni() {
 void frmParvik::Aggiorna() {
   // "[*]" is the toolkit's own mark for modified windows; doubled, it stands for itself.
   setWindowTitle(DaUtf8(editore_.Titolo()).replace("[*]", "[*][*]"));
+  if (!editore_.TipoScelto()) setFocus();  // keys have nowhere else to go
   AggiornaMenu();
   ResizeControls();
   MostraFlagStampe();
@@ -206,14 +170,6 @@ void frmParvik::AttivaSezione(Sezione sezione) {
   ColoraLabel(sezione);
 }
 
-void frmParvik::AggiornaMenu() {
-  for (const VoceMenu& voce : VociMenu())
-    azioni_.value(voce.Nome)->setEnabled(Abilitata(voce, editore_.PerMenu()));
-  azioni_.value("mnuAnte")->setChecked(editore_.AnteSpuntata());
-  azioni_.value("mnuRighe")->setChecked(editore_.Totali().has_value());
-  azioni_.value("mnuSettaFlag")->setChecked(editore_.SettaFlagSpuntata());
-}
-
 Finestra frmParvik::Misure() const {
   return {.Larghezza = InTwip(area_->width()),
           .Altezza = InTwip(area_->height()),
@@ -240,6 +196,7 @@ void frmParvik::ResizeControls() {
   }
   for (std::size_t i = 0; i < MaxSezioni; ++i) {
     Colloca(*sezioni_[i], disposizione.Sezioni[i]);
+    sezioni_[i]->ImpostaUso(editore_.InUso(TutteLeSezioni[i]));
     const auto& etichetta = disposizione.Etichette[i];
     etichette_[i]->setVisible(etichetta.has_value());
     if (etichetta) etichette_[i]->move(InPixel(*etichetta).topLeft());
@@ -307,6 +264,10 @@ Esito<Vista::Tipografo, std::string> frmParvik::ScegliStampante() {
 
 void frmParvik::InserisciCodice(Sezione sezione, std::string_view codice) {
   sezioni_[Indice(sezione)]->InserisciCodice(codice);
+}
+
+void frmParvik::AllargaSelezione(Sezione sezione) {
+  sezioni_[Indice(sezione)]->AllargaSelezione();
 }
 
 void frmParvik::closeEvent(QCloseEvent* evento) {

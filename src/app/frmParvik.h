@@ -47,12 +47,14 @@ class frmParvik final : public QMainWindow, private Vista {
   std::optional<Destinazione> ScegliDestinazione() override;
   Esito<Tipografo, std::string> ScegliStampante() override;
   void InserisciCodice(Sezione sezione, std::string_view codice) override;
+  void AllargaSelezione(Sezione sezione) override;
   void RicaricaFlagStampe() override;
 
   void CreaControlli();
   void CreaDivisore();
   void MisuraEtichette();
   void CreaSezione(Sezione sezione);
+  void CollegaSezione(Sezione sezione);
   void CreaMenu();
   void CollegaMenu();
   void AggiornaMenu();

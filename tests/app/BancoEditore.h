@@ -63,11 +63,13 @@ class VistaFinta final : public Vista {
   void InserisciCodice(Sezione sezione, std::string_view codice) override {
     Testi[Indice(sezione)] += codice;
   }
+  void AllargaSelezione(Sezione sezione) override { Allargate.push_back(sezione); }
   void RicaricaFlagStampe() override { ++RicaricheFlag; }
 
   TestiSezioni Testi = {"mai scelto", "mai scelto", "mai scelto"};
   int Aggiornamenti = 0;
   int RicaricheFlag = 0;
+  std::vector<Sezione> Allargate;
   std::vector<std::string> Anteprime;
   std::vector<std::string> Completate;
 

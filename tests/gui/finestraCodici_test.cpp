@@ -176,24 +176,83 @@ TEST(FinestraCodici, TheDialogOffersTheVariablesOfTheActiveSection) {
   EXPECT_EQ(prima, "Totale merce");
 }
 
+/// What the mouse over a place of that part of a character is told.
+QString Descrizione(QPlainTextEdit& sezione, int posizione, double parte = 0.4) {
+  QTextCursor cursore(sezione.document());
+  cursore.setPosition(posizione);
+  const QRect davanti = sezione.cursorRect(cursore);
+  const int larghezza = sezione.fontMetrics().horizontalAdvance(u'M');
+  const QPoint punto(davanti.left() + static_cast<int>(larghezza * parte), davanti.center().y());
+  for (QWidget* finestra : QApplication::topLevelWidgets())
+    if (finestra->inherits("QTipLabel")) finestra->hide();  // by itself it goes a little later
+  QHelpEvent evento(QEvent::ToolTip, punto, sezione.viewport()->mapToGlobal(punto));
+  QApplication::sendEvent(sezione.viewport(), &evento);
+  return QToolTip::isVisible() ? QToolTip::text() : QString();
+}
+
 TEST(FinestraCodici, TheMouseOverACodeTellsWhatItIs) {
   Finestra finestra;
   finestra.Scegli(1);
   QPlainTextEdit& piede = finestra.Sezione(2);
   ImpostaTesto(piede, "«V201;15R;.0,2;1» «V9;1L»");
-  const auto descrizione = [&piede](int posizione) {
-    QTextCursor cursore(piede.document());
-    cursore.setPosition(posizione);
-    const QPoint punto = piede.cursorRect(cursore).center() + QPoint(3, 0);
-    QHelpEvent evento(QEvent::ToolTip, punto, piede.viewport()->mapToGlobal(punto));
-    QApplication::sendEvent(piede.viewport(), &evento);
-    return QToolTip::text();
+  EXPECT_TRUE(Descrizione(piede, 3).startsWith("Variabile 201 · Totale merce · 15 caratteri a destra"))
+      << Descrizione(piede, 3).toStdString();
+  EXPECT_TRUE(Descrizione(piede, 20).startsWith("Variabile 9 · sconosciuta"))
+      << Descrizione(piede, 20).toStdString();
+}
+
+TEST(FinestraCodici, BothHalvesOfACharacterAreTheCharacter) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  QPlainTextEdit& testata = finestra.Sezione(0);
+  ImpostaTesto(testata, "ab«V9;1L»cd");
+  for (const double parte : {0.2, 0.8}) {
+    const testing::ScopedTrace dove(__FILE__, __LINE__, parte);
+    EXPECT_EQ(Descrizione(testata, 1, parte), "") << "in front of the code";
+    EXPECT_TRUE(Descrizione(testata, 2, parte).startsWith("Variabile 9")) << "its opening delimiter";
+    EXPECT_TRUE(Descrizione(testata, 8, parte).startsWith("Variabile 9")) << "its closing delimiter";
+    EXPECT_EQ(Descrizione(testata, 9, parte), "") << "behind the code";
+  }
+}
+
+TEST(FinestraCodici, AnotherTypesTooltipsAreItsOwn) {
+  Finestra finestra;
+  const auto descritta = [&finestra](int tipo) {
+    finestra.Scegli(tipo);
+    ImpostaTesto(finestra.Sezione(0), "«V1;5L»");
+    return Descrizione(finestra.Sezione(0), 2);
   };
-  EXPECT_TRUE(
-      descrizione(3).startsWith(QString::fromUtf8("Variabile 201 · Totale merce · 15 caratteri a destra")))
-      << descrizione(3).toStdString();
-  EXPECT_TRUE(descrizione(20).startsWith(QString::fromUtf8("Variabile 9 · sconosciuta")))
-      << descrizione(20).toStdString();
+  const QString fattura = descritta(1);
+  EXPECT_TRUE(fattura.startsWith("Variabile 1 · ")) << fattura.toStdString();
+  finestra.Persona().Rispondera(Risposta::No);
+  finestra.Azione("mnuNuovo").trigger();
+  const QString listino = descritta(12);
+  EXPECT_TRUE(listino.startsWith("Variabile 1 · ")) << listino.toStdString();
+  EXPECT_NE(listino, fattura);
+}
+
+TEST(FinestraCodici, ASelectionThatCutsACodeGrowsBeforeADialogThatInsertsOne) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  QPlainTextEdit& testata = finestra.Sezione(0);
+  for (const bool daMenu : {false, true}) {
+    ImpostaTesto(testata, "xab«V1;2L»y");
+    QTextCursor cursore(testata.document());
+    cursore.setPosition(1);
+    cursore.setPosition(6, QTextCursor::KeepAnchor);
+    testata.setTextCursor(cursore);
+    prova::NelProssimoDialogo([](QDialog& dialogo) { QTest::keyClick(&dialogo, Qt::Key_Return); });
+    if (daMenu) {
+      finestra.Azione("mnuPagina").trigger();
+      EXPECT_EQ(testata.toPlainText(), "x«P1»y");
+    } else {
+      QTest::keyClick(&testata, Qt::Key_F4);
+      EXPECT_TRUE(testata.toPlainText().startsWith("x«V")) << testata.toPlainText().toStdString();
+      EXPECT_TRUE(testata.toPlainText().endsWith("»y"));
+      EXPECT_EQ(testata.toPlainText().count(u'»'), 1);
+    }
+    finestra.Attiva();
+  }
 }
 
 }  // namespace

@@ -143,6 +143,18 @@ TEST(Strada, NewGoesBackToTheStateWithoutATypeAndKeepsTheTexts) {
   EXPECT_EQ(finestra.Sezione(0).toPlainText(), "\n");
 }
 
+TEST(Strada, F4AfterNewDoesNothing) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  finestra.Apri("FATT01.IMG");
+  finestra.Sezione(0).setFocus();
+  const QString testata = finestra.Sezione(0).toPlainText();
+  QTest::keyClick(&finestra.Sezione(0), Qt::Key_N, Qt::ControlModifier);
+  for (const Qt::Key tasto : {Qt::Key_F4, Qt::Key_Backspace, Qt::Key_Space, Qt::Key_X})
+    QTest::keyClick(QApplication::focusWidget() == nullptr ? &*finestra : QApplication::focusWidget(), tasto);
+  EXPECT_EQ(finestra.Sezione(0).toPlainText(), testata);
+}
+
 TEST(Strada, SaveAsTakesTheNameAndShowsWhatTheFileHolds) {
   Finestra finestra;
   finestra.Scegli(1);

@@ -1,0 +1,69 @@
+// The main window's menus: built from the table, wired to the commands, and asked again after each change.
+#include <QMenuBar>
+#include <algorithm>
+#include <string_view>
+
+#include "app/Menu.h"
+#include "app/frmParvik.h"
+
+namespace parvik {
+
+void frmParvik::CreaMenu() {
+  QMenu* menu = nullptr;
+  for (const VoceMenu& voce : VociMenu()) {
+    QAction* azione = nullptr;
+    if (voce.Genere == GenereVoce::Menu) {
+      menu = menuBar()->addMenu(voce.Didascalia);
+      menu->setObjectName(voce.Nome);
+      azione = menu->menuAction();
+    } else if (voce.Genere == GenereVoce::Separatore) {
+      azione = menu->addSeparator();
+    } else {
+      azione = menu->addAction(voce.Didascalia);
+      azione->setShortcut(QKeySequence(voce.Scorciatoia, QKeySequence::PortableText));
+      azione->setCheckable(voce.ConSpunta);
+      azione->setAutoRepeat(false);          // a held key opens no dialog
+      azione->setMenuRole(QAction::NoRole);  // the tree stays as it is on every system
+    }
+    azione->setObjectName(voce.Nome);
+    azioni_.insert(voce.Nome, azione);
+  }
+}
+
+/// What cannot be used does nothing, however it was called.
+void frmParvik::CollegaMenu() {
+  const auto collega = [this](const char* nome, auto comando) {
+    const auto voce = std::ranges::find(VociMenu(), std::string_view(nome), &VoceMenu::Nome);
+    connect(azioni_.value(nome), &QAction::triggered, this, [this, voce, comando] {
+      if (Abilitata(*voce, editore_.PerMenu())) comando();
+    });
+  };
+  collega("mnuScelta", [this] { ScegliTipo(); });
+  collega("mnuNuovo", [this] { editore_.Nuovo(); });
+  collega("mnuApri", [this] { editore_.Apri(); });
+  collega("mnuSalva", [this] { editore_.Salva(); });
+  collega("mnuSalvaNome", [this] { editore_.SalvaConNome(); });
+  collega("mnuStampa", [this] { editore_.Stampa(); });
+  collega("mnuInfo", [this] { MostraInformazioni(); });
+  collega("mnuEsci", [this] { close(); });
+  collega("mnuAnte", [this] { editore_.CommutaAnteprima(); });
+  collega("mnuVar", [this] { maschere_.ApriForm(TipoCodice::Variabile); });
+  collega("mnuFlag", [this] { maschere_.ApriForm(TipoCodice::Flag); });
+  collega("mnuStile", [this] { maschere_.ApriForm(TipoCodice::Stile); });
+  collega("mnuLingua", [this] { maschere_.ApriForm(TipoCodice::Lingua); });
+  collega("mnuPagina", [this] { maschere_.ApriForm(TipoCodice::Pagina); });
+  collega("mnuCostante", [this] { maschere_.ApriForm(TipoCodice::Costante); });
+  collega("mnuComando", [this] { maschere_.ApriComando(); });
+  collega("mnuRighe", [this] { editore_.CommutaRighe(); });
+  collega("mnuSettaFlag", [this] { editore_.CommutaSettaFlag(); });
+}
+
+void frmParvik::AggiornaMenu() {
+  for (const VoceMenu& voce : VociMenu())
+    azioni_.value(voce.Nome)->setEnabled(Abilitata(voce, editore_.PerMenu()));
+  azioni_.value("mnuAnte")->setChecked(editore_.AnteSpuntata());
+  azioni_.value("mnuRighe")->setChecked(editore_.Totali().has_value());
+  azioni_.value("mnuSettaFlag")->setChecked(editore_.SettaFlagSpuntata());
+}
+
+}  // namespace parvik
