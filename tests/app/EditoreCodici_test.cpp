@@ -79,5 +79,38 @@ TEST_F(EditoreCodici, ATotalBeyond16BitsIsSaidAndNotShown) {
   EXPECT_EQ(interlocutore_.Messaggi.front().Testo, "Si è verificato l'errore: 6 Overflow");
 }
 
+/// One section, whose second variable and second flag cannot be read.
+class EditoreConCatalogoGuasto : public BancoEditore {
+ protected:
+  EditoreConCatalogoGuasto()
+      : BancoEditore(
+            "1,\"Prova;P*.IMG;1;1;3;90;90;90;90;11;13;90;90;90;90\"\r\n"
+            "//fine documenti\r\n"
+            "0001,\"Cliente;12;30;;1;0;0;0;0;0;0\r\n"
+            "0002,\"Totale;99999;30;;1;0;0;0;0;0;0\r\n"
+            "0003,\"Note;40;35;;1;0;0;0;0;0;0\r\n"
+            "0011,\"Estero;3;N\r\n"
+            "0012,\"Omaggio;99999;N\r\n"
+            "0013,\"Sconto;27;S\r\n") {
+    interlocutore_.Rispondera(Risposta::Ok);  // the print flags have the same error
+    editore_.ScegliTipo(0);
+  }
+};
+
+TEST_F(EditoreConCatalogoGuasto, OffersTheFlagsBeforeTheErrorAllOfThemAndNoOthers) {
+  interlocutore_.Rispondera(Risposta::Ok);
+  const std::vector<parvik::Flag> flag = editore_.FlagDaOffrire();
+  ASSERT_EQ(flag.size(), 1U);
+  EXPECT_EQ(flag.front(), (parvik::Flag{"Estero", 3, "N"}));
+  EXPECT_EQ(interlocutore_.Messaggi.back().Testo, "Si è verificato l'errore: 6 Overflow");
+}
+
+TEST_F(EditoreConCatalogoGuasto, OffersTheVariablesBeforeTheErrorAllOfThemAndNoOthers) {
+  interlocutore_.Rispondera(Risposta::Ok);
+  const std::vector<Variabile> variabili = editore_.VariabiliDaOffrire();
+  ASSERT_EQ(variabili.size(), 1U);
+  EXPECT_EQ(variabili.front().Descrizione, "Cliente");
+}
+
 }  // namespace
 }  // namespace parvik::prova

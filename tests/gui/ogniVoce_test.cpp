@@ -1,0 +1,169 @@
+// Every entry of the menu table, chosen once through the window and told by what opens or what changes.
+#include <gtest/gtest.h>
+
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QTest>
+#include <set>
+
+#include "Finestra.h"
+#include "app/Menu.h"
+
+namespace parvik {
+namespace {
+
+using prova::Contenuto;
+using prova::Finestra;
+using prova::NelProssimoDialogo;
+using prova::Trova;
+
+/// Chooses an entry with the mouse, as a user does: in its menu, which is open.
+void Scegli(Finestra& finestra, const char* nome) {
+  QAction& azione = finestra.Azione(nome);
+  ASSERT_TRUE(azione.isEnabled()) << nome;
+  auto* menu = qobject_cast<QMenu*>(azione.parent());
+  ASSERT_NE(menu, nullptr) << nome;
+  menu->popup(finestra->pos());
+  QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(&azione).center());
+}
+
+/// The class of the one dialog that an entry opens and its caption; Escape closes it.
+std::string Aperto(Finestra& finestra, const char* nome) {
+  std::string aperto;
+  NelProssimoDialogo([&aperto](QDialog& dialogo) {
+    aperto = dialogo.objectName().toStdString() + ": " + dialogo.windowTitle().toStdString();
+    QTest::keyClick(&dialogo, Qt::Key_Escape);
+  });
+  Scegli(finestra, nome);
+  finestra.Attiva();
+  return aperto;
+}
+
+using Effetto = std::function<void(Finestra&, const char* nome)>;
+
+Effetto Apre(const char* dialogo) {
+  return [dialogo](Finestra& finestra, const char* nome) { EXPECT_EQ(Aperto(finestra, nome), dialogo); };
+}
+
+void Torna(Finestra& finestra, const char* nome) {
+  Scegli(finestra, nome);
+  EXPECT_EQ(finestra->windowTitle(), "Ordavia");
+  EXPECT_FALSE(finestra.Sezione(0).isVisible());
+}
+
+/// Asks for a file under the title of that command, and gives up.
+Effetto ChiedeFile(const char* titolo) {
+  return [titolo](Finestra& finestra, const char* nome) {
+    finestra.Persona().Scegliera({});
+    Scegli(finestra, nome);
+    ASSERT_EQ(finestra.Persona().Richieste.size(), 1U);
+    EXPECT_EQ(finestra.Persona().Richieste[0].Titolo, titolo);
+  };
+}
+
+void Salva(Finestra& finestra, const char* nome) {
+  finestra.Apri("FATT01.IMG");
+  QTest::keyClicks(&finestra.Sezione(0), "zz");
+  Scegli(finestra, nome);
+  EXPECT_EQ(Contenuto(finestra.Modello("FATT01.IMG")).substr(0, 2), "zz");
+}
+
+void Chiude(Finestra& finestra, const char* nome) {
+  Scegli(finestra, nome);
+  EXPECT_FALSE(finestra->isVisible());
+}
+
+void CommutaAnteprima(Finestra& finestra, const char* nome) {
+  EXPECT_TRUE(finestra.Anteprima().isVisible());
+  Scegli(finestra, nome);
+  EXPECT_FALSE(finestra.Anteprima().isVisible());
+}
+
+/// There must be something to print.
+void Stampa(Finestra& finestra, const char* nome) {
+  finestra.Apri("FATT01.IMG");
+  EXPECT_EQ(Aperto(finestra, nome), "frmDestStampa: Destinazione stampa");
+}
+
+/// A window beside the main one, by its objectName.
+Effetto MostraENasconde(const char* finestrella) {
+  return [finestrella](Finestra& finestra, const char* nome) {
+    Scegli(finestra, nome);
+    EXPECT_TRUE(Trova<QDialog>(*finestra, finestrella)->isVisible());
+    EXPECT_TRUE(finestra.Azione(nome).isChecked());
+    Scegli(finestra, nome);
+    const auto* sparita = finestra->findChild<QDialog*>(finestrella);
+    EXPECT_TRUE(sparita == nullptr || !sparita->isVisible());
+    EXPECT_FALSE(finestra.Azione(nome).isChecked());
+  };
+}
+
+struct Voce {
+  const char* Nome;
+  Effetto Fa;
+
+  friend void PrintTo(const Voce& voce, std::ostream* uscita) { *uscita << voce.Nome; }
+};
+
+const std::vector<Voce>& Voci() {
+  static const std::vector<Voce> voci = {
+      {"mnuScelta", Apre("frmScelta: Tipo Stampa")},
+      {"mnuNuovo", Torna},
+      {"mnuApri", ChiedeFile("Apri File Immagine")},
+      {"mnuSalva", Salva},
+      {"mnuSalvaNome", ChiedeFile("Salva con nome")},
+      {"mnuStampa", Stampa},
+      {"mnuInfo", Apre("frmAbout: Informazioni su Ordavia")},
+      {"mnuEsci", Chiude},
+      {"mnuAnte", CommutaAnteprima},
+      {"mnuVar", Apre("frmVar: Assegnazione variabile")},
+      {"mnuFlag", Apre("frmFlag: Assegnazione Flag")},
+      {"mnuStile", Apre("frmStile: Stile carattere")},
+      {"mnuLingua", Apre("frmLingua: Assegnazione Lingua")},
+      {"mnuPagina", Apre("frmPagina: Numerazione Pagina")},
+      {"mnuCostante", Apre("frmCostante: Assegnazione costante")},
+      {"mnuComando", Apre("frmComando: Comando corpo")},
+      {"mnuRighe", MostraENasconde("frmTotRighe")},
+      {"mnuSettaFlag", MostraENasconde("frmSettaFlag")},
+  };
+  return voci;
+}
+
+class OgniVoce : public testing::TestWithParam<Voce> {};
+
+TEST_P(OgniVoce, DoesWhatItsCaptionSays) {
+  Finestra finestra;
+  const char* nome = GetParam().Nome;
+  if (!finestra.Azione(nome).isEnabled()) finestra.Scegli(1);
+  GetParam().Fa(finestra, nome);
+}
+
+INSTANTIATE_TEST_SUITE_P(Menu, OgniVoce, testing::ValuesIn(Voci()),
+                         [](const auto& caso) { return std::string(caso.param.Nome); });
+
+TEST(OgniVoceDellaTabella, IsTriedHere) {
+  std::set<std::string> nellaTabella;
+  for (const VoceMenu& voce : VociMenu()) {
+    if (voce.Genere == GenereVoce::Voce) nellaTabella.insert(voce.Nome);
+  }
+  std::set<std::string> provate;
+  for (const Voce& voce : Voci()) provate.insert(voce.Nome);
+  EXPECT_EQ(provate, nellaTabella);
+}
+
+TEST(DidascaliaFinestra, AFileNameWithTheToolkitsMarkOfModificationIsShownAsItIs) {
+  for (const char* nome : {"A[*].IMG", "A[*][*].IMG"}) {
+    Finestra finestra;
+    prova::Crea(finestra.Modello(nome), "uno\r\n");
+    finestra.Scegli(12);
+    finestra.Apri(nome);
+    EXPECT_TRUE(finestra->windowHandle()->title().endsWith(nome))
+        << finestra->windowHandle()->title().toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace parvik
