@@ -4,13 +4,15 @@
 
 #include <QDir>
 #include <QFile>
+#include <QProcess>
+#include <QTemporaryFile>
 #include <QTest>
 
 namespace parvik::prova {
 namespace {
 
 constexpr int TempoMassimo = 30'000;  // milliseconds until a job is kept
-constexpr int UnMomento = 1'500;
+constexpr const char* Sentinella = "sentinella";
 
 QDir Lavori() {
   return {qEnvironmentVariable("PARVIK_LAVORI")};
@@ -40,8 +42,11 @@ CartaStampata CartaStampata::Prossima() {
 }
 
 bool CartaStampata::Nessuna() {
-  QTest::qWait(UnMomento);
-  return Pronti().isEmpty();
+  QTemporaryFile foglio;
+  EXPECT_TRUE(foglio.open() && foglio.write(Sentinella) > 0 && foglio.flush());
+  // The printer does one job after the other: had there been one, it would come first.
+  EXPECT_EQ(QProcess::execute("lp", {"-d", "prova", "-o", "raw", "-t", Sentinella, foglio.fileName()}), 0);
+  return Prossima().Titolo() == Sentinella;
 }
 
 }  // namespace parvik::prova

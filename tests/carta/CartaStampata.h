@@ -9,7 +9,7 @@ class CartaStampata : public PdfStampato {
  public:
   /// Waits for the next job; fails the test when none comes.
   static CartaStampata Prossima();
-  /// Whether no job is there, and none comes within a moment.
+  /// Whether nothing was printed since the last one.
   static bool Nessuna();
 
   const QString& Titolo() const { return titolo_; }

@@ -7,6 +7,7 @@
 #include <QTest>
 #include <QTimer>
 #include <new>
+#include <semaphore>
 #include <thread>
 
 #include "Finestra.h"
@@ -17,8 +18,23 @@ namespace {
 using namespace std::chrono_literals;
 
 void FinoAlloStop(const std::stop_token& smetti) {
-  while (!smetti.stop_requested()) std::this_thread::sleep_for(1ms);
+  std::binary_semaphore fermo(0);
+  const std::stop_callback via(smetti, [&fermo] { fermo.release(); });
+  fermo.acquire();
 }
+
+/// Sees whether the box is shown, however shortly.
+class Spia : public QObject {
+ public:
+  Spia() { qApp->installEventFilter(this); }
+  bool Mostrata = false;
+
+ protected:
+  bool eventFilter(QObject* oggetto, QEvent* evento) override {
+    if (evento->type() == QEvent::Show && oggetto->objectName() == "frmAttesa") Mostrata = true;
+    return QObject::eventFilter(oggetto, evento);
+  }
+};
 
 TEST(AttendiLavoro, RunsTheWorkOnAnotherThreadAndReturnsWhenItHasEnded) {
   const std::thread::id questo = std::this_thread::get_id();
@@ -28,12 +44,11 @@ TEST(AttendiLavoro, RunsTheWorkOnAnotherThreadAndReturnsWhenItHasEnded) {
 }
 
 TEST(AttendiLavoro, ShortWorkShowsNothing) {
-  bool mostrata = false;
-  EXPECT_TRUE(AttendiLavoro(nullptr, [&](std::stop_token) { std::this_thread::sleep_for(100ms); }));
-  for (const QWidget* finestra : QApplication::topLevelWidgets()) {
-    mostrata = mostrata || finestra->objectName() == "frmAttesa";
-  }
-  EXPECT_FALSE(mostrata);
+  const Spia spia;
+  std::binary_semaphore via(0);
+  QTimer::singleShot(0, [&via] { via.release(); });  // the work ends while it is waited for
+  EXPECT_TRUE(AttendiLavoro(nullptr, [&](std::stop_token) { via.acquire(); }));
+  EXPECT_FALSE(spia.Mostrata);
 }
 
 TEST(AttendiLavoro, LongWorkShowsABoxAndAnnullaStopsIt) {
@@ -63,12 +78,15 @@ TEST(AttendiLavoro, EscapeStopsItToo) {
 }
 
 TEST(AttendiLavoro, TheProgramStaysAliveMeanwhile) {
-  int battiti = 0;
+  std::counting_semaphore<> battiti(0);
   QTimer orologio;
-  QObject::connect(&orologio, &QTimer::timeout, [&] { ++battiti; });
+  QObject::connect(&orologio, &QTimer::timeout, [&] { battiti.release(); });
   orologio.start(10);
-  EXPECT_TRUE(AttendiLavoro(nullptr, [](std::stop_token) { std::this_thread::sleep_for(300ms); }));
-  EXPECT_GT(battiti, 3);
+  bool vivo = true;
+  EXPECT_TRUE(AttendiLavoro(nullptr, [&](std::stop_token) {
+    for (int i = 0; i < 4; ++i) vivo = vivo && battiti.try_acquire_for(20s);
+  }));
+  EXPECT_TRUE(vivo);
 }
 
 TEST(AttendiLavoro, WorkThatRunsOutOfMemoryFails) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractEventDispatcher>
 #include <QPaintEvent>
 #include <QScreen>
 #include <QTest>
@@ -39,19 +40,25 @@ class TxtDisposizione : public testing::Test {
     editor_.show();
     editor_.activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&editor_));
-    QTest::qWait(20);
+    FinoAllaQuiete();
+  }
+
+  /// Until nothing is left to do: what was to be painted is painted.
+  static void FinoAllaQuiete() {
+    while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) {
+    }
   }
 
   void VaiA(int riga, int colonna) {
     QTextCursor cursore(editor_.document()->findBlockByNumber(riga));
     cursore.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, colonna);
     editor_.setTextCursor(cursore);
-    QTest::qWait(20);
+    FinoAllaQuiete();
   }
 
   /// What is on the screen is what a window painted anew would show.
   void AttendiSchermoVero() {
-    QTest::qWait(20);
+    FinoAllaQuiete();
     const QImage schermo = editor_.screen()->grabWindow(editor_.winId()).toImage();
     const QImage vero = editor_.grab().toImage();
     ASSERT_FALSE(schermo.isNull());
@@ -65,7 +72,7 @@ TEST_F(TxtDisposizione, AKeyInAColouredLineRepaintsThatLineOnly) {
   VaiA(3, 2);
   Pittura pittura(editor_.viewport());
   QTest::keyClick(&editor_, Qt::Key_X);
-  QTest::qWait(20);
+  FinoAllaQuiete();
   EXPECT_FALSE(pittura.Zona.isEmpty());
   EXPECT_LE(pittura.Zona.boundingRect().height(), 2 * editor_.fontMetrics().lineSpacing());
 }

@@ -1,7 +1,9 @@
 // Previews that are given up, and beginnings of previews.
 #include <gtest/gtest.h>
+#include <pthread.h>
 
 #include <chrono>
+#include <ctime>
 #include <thread>
 
 #include "output/CatalogoDiProva.h"
@@ -35,6 +37,15 @@ std::stop_token GiaSmesso() {
   return smetti.get_token();
 }
 
+/// What a thread has used of a processor.
+std::chrono::nanoseconds TempoDiLavoro(std::jthread& filo) {
+  clockid_t orologio = {};
+  timespec tempo = {};
+  EXPECT_EQ(pthread_getcpuclockid(filo.native_handle(), &orologio), 0);
+  EXPECT_EQ(clock_gettime(orologio, &tempo), 0);
+  return std::chrono::seconds(tempo.tv_sec) + std::chrono::nanoseconds(tempo.tv_nsec);
+}
+
 /// Whether a preview that takes hours ends soon after it is given up from another thread.
 bool SiInterrompe(const Lavoro& lavoro) {
   bool interrotta = false;
@@ -43,7 +54,7 @@ bool SiInterrompe(const Lavoro& lavoro) {
     std::jthread lavoratore([&](const std::stop_token& smetti) {
       interrotta = !GeneraAnteprima(lavoro.Dati(), smetti).has_value();
     });
-    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    while (TempoDiLavoro(lavoratore) < std::chrono::milliseconds(1)) std::this_thread::yield();
   }
   return interrotta && std::chrono::steady_clock::now() - inizio < std::chrono::seconds(20);
 }
