@@ -9,6 +9,7 @@
 #include "app/frmDivisore.h"
 #include "catalogue/frmScelta.h"
 #include "common/frmAttesa.h"
+#include "common/frmSchermo.h"
 #include "common/frmTastiInCoda.h"
 #include "common/frmTastiRipetuti.h"
 #include "common/frmTesto.h"
@@ -59,7 +60,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
   CreaControlli();
   CreaMenu();
   CollegaMenu();
-  resize(DimensioneIniziale);
+  resize(EntroLoSchermo(*this, DimensioneIniziale));
   Aggiorna();
 }
 
@@ -257,6 +258,7 @@ Esito<Vista::Tipografo, std::string> frmParvik::ScegliStampante() {
   const std::shared_ptr<Stampante> stampante = (*modulo)->ChiediStampante(this);
   if (!stampante) return Tipografo();
   return Tipografo([this, stampante](const std::string& nomeLavoro) {
+    if (!isVisible()) return;  // the program is ending
     stampante->Intitola(DaUtf8(nomeLavoro));
     StampaConAttesa(*stampante, anteprima_->Contenuto(), DaStampare(*anteprima_), this);
   });

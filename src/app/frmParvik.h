@@ -29,6 +29,9 @@ class frmParvik final : public QMainWindow, private Vista {
   /// `interlocutore` must outlive the window.
   frmParvik(DatiAvvio dati, Interlocutore& interlocutore);
 
+  /// Whether the program may end, whatever is open or at work; asks when the template is modified.
+  bool PuoChiudere() { return editore_.PuoChiudere(); }
+
  protected:
   void closeEvent(QCloseEvent* evento) override;
   bool eventFilter(QObject* oggetto, QEvent* evento) override;

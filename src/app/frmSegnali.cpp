@@ -1,13 +1,29 @@
 #include "app/frmSegnali.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QSocketNotifier>
 #include <utility>
 
 namespace parvik {
+namespace {
 
-frmSegnali::frmSegnali(const SegnaliFine& segnali, std::function<bool()> chiudi)
-    : segnali_(segnali), chiudi_(std::move(chiudi)) {
+/// Who waits for a dialog is told that nothing was chosen, and work that shows one is given up.
+void ChiudiTutto() {
+  for (QWidget* finestra : QApplication::topLevelWidgets()) {
+    auto* dialogo = qobject_cast<QDialog*>(finestra);
+    if (dialogo != nullptr && dialogo->isModal() && dialogo->isVisible()) {
+      dialogo->reject();
+    } else {
+      finestra->hide();
+    }
+  }
+}
+
+}  // namespace
+
+frmSegnali::frmSegnali(const SegnaliFine& segnali, int stato, std::function<bool()> puoFinire)
+    : segnali_(segnali), stato_(stato), puoFinire_(std::move(puoFinire)) {
   connect(qApp, &QApplication::commitDataRequest, this, &frmSegnali::FineSessione, Qt::DirectConnection);
   if (segnali.Numero() < 0) return;
   auto* campanello = new QSocketNotifier(segnali.Numero(), QSocketNotifier::Read, this);
@@ -17,25 +33,26 @@ frmSegnali::frmSegnali(const SegnaliFine& segnali, std::function<bool()> chiudi)
 void frmSegnali::SegnaleArrivato() {
   while (segnali_.Prendi()) {
   }
-  Chiudi();
+  Finisci();
 }
 
 /// Where nobody may be asked nothing is written by itself, and the session ends.
 void frmSegnali::FineSessione(QSessionManager& gestore) {
   if (!gestore.allowsInteraction()) return;
-  if (Chiudi()) {
+  if (Finisci()) {
     gestore.release();
   } else {
     gestore.cancel();
   }
 }
 
-bool frmSegnali::Chiudi() {
-  if (chiede_) return false;
-  chiede_ = true;
-  const bool chiusa = chiudi_();
-  chiede_ = false;
-  return chiusa;
+bool frmSegnali::Finisci() {
+  if (finita_) return true;
+  if (!puoFinire_()) return false;
+  finita_ = true;
+  ChiudiTutto();
+  QApplication::exit(stato_);
+  return true;
 }
 
 }  // namespace parvik

@@ -1,4 +1,5 @@
-// The end of the session, as the system announces it: logging out, SIGTERM and SIGHUP (docs/saving.md).
+// The end of the session, as the system announces it: logging out, SIGTERM, SIGHUP and SIGINT
+// (docs/saving.md).
 #pragma once
 
 #include <QObject>
@@ -13,18 +14,21 @@ class frmSegnali final : public QObject {
   Q_OBJECT
 
  public:
-  /// `chiudi` ends the program, asking when something would be lost, and tells whether it does end. It is
-  /// called from the event loop, and not again while it asks. `segnali` must outlive this.
-  frmSegnali(const SegnaliFine& segnali, std::function<bool()> chiudi);
+  /// `puoFinire` tells whether the program may end now, asking when something would be lost. When it may,
+  /// every window goes, with a dialog given up, and the program's event loops end with `stato`. It is called
+  /// from whatever event loop runs, that of any dialog included, and may be called again before it has
+  /// answered. `segnali` must outlive this.
+  frmSegnali(const SegnaliFine& segnali, int stato, std::function<bool()> puoFinire);
 
  private:
   void SegnaleArrivato();
   void FineSessione(QSessionManager& gestore);
-  bool Chiudi();
+  bool Finisci();
 
   const SegnaliFine& segnali_;
-  std::function<bool()> chiudi_;
-  bool chiede_ = false;
+  int stato_;
+  std::function<bool()> puoFinire_;
+  bool finita_ = false;
 };
 
 }  // namespace parvik

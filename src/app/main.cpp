@@ -4,10 +4,12 @@
 #include <chrono>
 #include <cstdlib>
 #include <iostream>
+#include <optional>
 #include <string_view>
 
 #include "app/Avvio.h"
 #include "app/Versione.h"
+#include "app/frmAvvio.h"
 #include "app/frmParvik.h"
 #include "app/frmSegnali.h"
 #include "common/Processo.h"
@@ -42,6 +44,15 @@ bool RispostoSenzaFinestra(int argc, char** argv) {
   return false;
 }
 
+/// The start-up sequence; a signal ends it as any other reason not to go on.
+std::optional<parvik::DatiAvvio> AvviaConSegnali(const char* argv0, const parvik::SegnaliFine& segnali,
+                                                 parvik::Interlocutore& interlocutore) {
+  bool finita = false;
+  const parvik::frmSegnali fine(segnali, EXIT_FAILURE, [&finita] { return finita = true; });
+  auto dati = parvik::Avvia(parvik::AmbienteDelProcesso(argv0), interlocutore);
+  return finita ? std::nullopt : std::move(dati);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -49,21 +60,19 @@ int main(int argc, char** argv) {
   if (RispostoSenzaFinestra(argc, argv)) return EXIT_SUCCESS;
   parvik::PreparaLocale();
   const parvik::SegnaliFine segnali;  // before the toolkit's threads
-  QApplication programma(argc, argv);
+  const auto programma = parvik::ApriSchermo(argc, argv, segnali);
   QApplication::setApplicationName("parvik32");
-  if (!parvik::ParlaItaliano(programma))
+  if (!parvik::ParlaItaliano(*programma))
     std::cerr << "parvik32: manca la traduzione italiana di Qt (qtbase_it)\n";
   parvik::frmDialoghi dialoghi;
-  auto dati = parvik::Avvia(parvik::AmbienteDelProcesso(argv[0]), dialoghi);
+  auto dati = AvviaConSegnali(argv[0], segnali, dialoghi);
   if (!dati) return EXIT_FAILURE;
   parvik::frmParvik finestra(std::move(*dati), dialoghi);
   dialoghi.ImpostaPadre(&finestra);
-  const parvik::frmSegnali fineSessione(segnali, [&finestra] {
-    if (!finestra.close()) return false;
-    QApplication::exit();  // a dialog may still be open in front of the closed window
-    return true;
-  });
+  const parvik::frmSegnali fineSessione(segnali, EXIT_SUCCESS,
+                                        [&finestra] { return finestra.PuoChiudere(); });
   finestra.show();
-  QTimer::singleShot(AttesaIcona, &programma, [] { QApplication::setWindowIcon(QIcon(":/ordavia.png")); });
+  QTimer::singleShot(AttesaIcona, programma.get(),
+                     [] { QApplication::setWindowIcon(QIcon(":/ordavia.png")); });
   return QApplication::exec();
 }

@@ -11,6 +11,7 @@ sigset_t Insieme() {
   ::sigemptyset(&segnali);
   ::sigaddset(&segnali, SIGTERM);
   ::sigaddset(&segnali, SIGHUP);
+  ::sigaddset(&segnali, SIGINT);
   return segnali;
 }
 

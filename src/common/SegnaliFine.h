@@ -7,8 +7,9 @@
 
 namespace parvik {
 
-/// While it lives SIGTERM and SIGHUP end nothing but make the descriptor readable. It must be made before the
-/// process has a second thread. Where the system does not give the descriptor, the signals kill as ever.
+/// While it lives SIGTERM, SIGHUP and SIGINT end nothing but make the descriptor readable. It must be made
+/// before the process has a second thread. Where the system does not give the descriptor, the signals kill as
+/// ever.
 class SegnaliFine {
  public:
   SegnaliFine();

@@ -1,5 +1,6 @@
 #include "common/frmAttesa.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QProgressDialog>
 #include <QTimer>
@@ -28,7 +29,9 @@ class Attesa {
   }
 
   void FinoAllaFine() {
-    while (!finito_) giro_.exec();
+    while (!finito_ && giro_.exec() >= 0) {
+    }
+    if (!finito_) FinisciComunque();
   }
 
   void Smetti() { filo_.request_stop(); }
@@ -40,6 +43,14 @@ class Attesa {
   }
 
  private:
+  /// The program is ending, and no event loop runs any more. The work is asked to stop; what it still wants
+  /// of the windows until then it must be given.
+  void FinisciComunque() {
+    Smetti();
+    while (!finito_)
+      QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
+  }
+
   void Lavora(const std::function<void(std::stop_token)>& lavoro, const std::stop_token& smetti) {
     try {
       lavoro(smetti);

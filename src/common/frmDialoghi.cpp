@@ -1,20 +1,26 @@
 #include "common/frmDialoghi.h"
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QIcon>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QTreeView>
 #include <cstdio>
 #include <cstdlib>
 
+#include "common/frmSchermo.h"
 #include "common/frmTesto.h"
 
 namespace parvik {
 namespace {
 
 const QSize DimensioneScelta(820, 520);
+
+/// Where no file can be made.
+constexpr const char* NessunaCartella = "/dev/null";
 
 QMessageBox::Icon IconaDi(Icona icona) {
   switch (icona) {
@@ -53,9 +59,15 @@ Risposta RispostaDi(int pulsante) {
 
 }  // namespace
 
+/// A box may be wanted while a dialog is open: by that dialog, or because the program is asked to end.
+QWidget* frmDialoghi::Davanti() const {
+  QWidget* aperto = QApplication::activeModalWidget();
+  return aperto != nullptr ? aperto : padre_.data();
+}
+
 Risposta frmDialoghi::Chiedi(const Messaggio& messaggio) {
   QMessageBox scatola(IconaDi(messaggio.Simbolo), DaUtf8(messaggio.Titolo), DaUtf8(messaggio.Testo),
-                      PulsantiDi(messaggio.Tasti), padre_);
+                      PulsantiDi(messaggio.Tasti), Davanti());
   scatola.setTextFormat(Qt::PlainText);
   // The program gets its icon after its window; a message may come before.
   if (scatola.windowIcon().isNull()) scatola.setWindowIcon(QIcon(":/ordavia.png"));
@@ -72,15 +84,19 @@ QString VoceFiltro(const QString& etichetta, const QString& modello) {
 }
 
 std::filesystem::path frmDialoghi::ScegliFile(const RichiestaFile& richiesta) {
+  // The toolkit's dialog reads what it wrote when it was last closed, and writes it when it closes, wherever
+  // its settings are. This program keeps nothing of its own.
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, NessunaCartella);
   // The toolkit's own dialog: Italian and driven by the keyboard in the same way on every desktop.
-  QFileDialog dialogo(padre_, DaUtf8(richiesta.Titolo), QString::fromStdString(richiesta.Cartella.string()));
+  QFileDialog dialogo(Davanti(), DaUtf8(richiesta.Titolo),
+                      QString::fromStdString(richiesta.Cartella.string()));
   dialogo.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite |
                      QFileDialog::HideNameFilterDetails);
   dialogo.setFileMode(QFileDialog::AnyFile);
   dialogo.setAcceptMode(richiesta.Uso == RichiestaFile::Scopo::Apri ? QFileDialog::AcceptOpen
                                                                     : QFileDialog::AcceptSave);
   dialogo.setNameFilter(VoceFiltro(DaUtf8(richiesta.EtichettaFiltro), DaUtf8(richiesta.Modello)));
-  dialogo.resize(DimensioneScelta);
+  dialogo.resize(EntroLoSchermo(dialogo, DimensioneScelta));
   if (auto* elenco = dialogo.findChild<QTreeView*>()) {
     elenco->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   }

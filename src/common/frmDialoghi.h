@@ -10,7 +10,7 @@ namespace parvik {
 
 class frmDialoghi final : public Interlocutore {
  public:
-  /// Where boxes stand in front of; nullptr, or a window that is gone, for nothing.
+  /// What boxes stand in front of while no dialog is open; nullptr, or a window that is gone, for nothing.
   void ImpostaPadre(QWidget* padre) { padre_ = padre; }
 
   Risposta Chiedi(const Messaggio& messaggio) override;
@@ -18,6 +18,8 @@ class frmDialoghi final : public Interlocutore {
   void Termina(int stato) override;
 
  private:
+  QWidget* Davanti() const;
+
   QPointer<QWidget> padre_;
 };
 

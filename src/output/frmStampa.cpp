@@ -37,6 +37,7 @@ Esito<ModuloStampa*, std::string> CaricaModuloStampa(const std::filesystem::path
 void StampaConAttesa(Stampante& stampante, const TestoAnteprima& testo, const Selezione& parte,
                      QWidget* padre) {
   QProgressDialog scatola("Stampa in corso...", "Annulla", 0, Millesimi, padre);
+  scatola.setObjectName("frmStampa");
   scatola.setWindowTitle("Ordavia");
   scatola.setWindowModality(Qt::ApplicationModal);
   scatola.setMinimumDuration(500);

@@ -43,6 +43,15 @@ fs::path FileDaAprire(const fs::path& scelto) {
   return TrovaSenzaCaso(completo.parent_path(), completo.filename().string());
 }
 
+/// Where a template is saved whose name was chosen or typed. A name without an extension means the file that
+/// Open would find by it.
+fs::path FileDaSalvare(const fs::path& scelto) {
+  fs::path completo = ConEstensione(scelto, EstensioneModelli);
+  if (completo == scelto) return completo;
+  fs::path trovato = FileDaAprire(scelto);
+  return EsisteFile(trovato) ? trovato : completo;
+}
+
 bool TroppoGrande(const fs::path& file) {
   std::error_code errore;
   const std::uintmax_t dimensione = fs::file_size(file, errore);
@@ -74,38 +83,30 @@ ComandiFile::ComandiFile(Documento& documento, Sezioni& sezioni, Interlocutore& 
       contorno_(contorno),
       dirImg_(std::move(dirImg)) {}
 
-Risposta ComandiFile::FileModificato(const TipoDoc& tipo) {
-  const Risposta risposta = interlocutore_.Chiedi({.Testo = "Il file è stato modificato, vuoi salvare?",
-                                                   .Simbolo = Icona::Domanda,
-                                                   .Tasti = Pulsanti::SiNoAnnulla,
-                                                   .Titolo = "File immagine"});
-  if (risposta == Risposta::Si) Salva(tipo);
-  return risposta;
+Risposta ComandiFile::ChiediSeSalvare() {
+  return interlocutore_.Chiedi({.Testo = "Il file è stato modificato, vuoi salvare?",
+                                .Simbolo = Icona::Domanda,
+                                .Tasti = Pulsanti::SiNoAnnulla,
+                                .Titolo = "File immagine"});
 }
 
 /// Yes means that nothing gets lost: when nothing was saved, the command that asked must not go on. A
 /// template without a name and with nothing in it has nothing to save.
-bool ComandiFile::ProseguiDopoDomanda(const TipoDoc& tipo) {
-  if (!documento_.Modificato) return true;
-  switch (FileModificato(tipo)) {
-    case Risposta::Si:
-      return !documento_.Modificato || (documento_.NomeFile.empty() && !VerificaStampa(tipo));
-    case Risposta::No:
-      return true;
-    default:
-      return false;
-  }
+bool ComandiFile::Prosegui(Risposta risposta, const TipoDoc& tipo) {
+  if (risposta != Risposta::Si) return risposta == Risposta::No;
+  Salva(tipo);
+  return !documento_.Modificato || (documento_.NomeFile.empty() && !VerificaStampa(tipo));
 }
 
 void ComandiFile::Nuovo(const TipoDoc& tipo) {
-  if (documento_.Modificato) FileModificato(tipo);
+  if (documento_.Modificato && ChiediSeSalvare() == Risposta::Si) Salva(tipo);
   documento_.Modificato = false;
   documento_.Origine.reset();
   contorno_.TornaSenzaTipo();
 }
 
 void ComandiFile::Apri(const TipoDoc& tipo) {
-  if (!ProseguiDopoDomanda(tipo)) return;
+  if (documento_.Modificato && !Prosegui(ChiediSeSalvare(), tipo)) return;
   RichiestaFile richiesta = RichiestaModello(RichiestaFile::Scopo::Apri, tipo, dirImg_);
   richiesta.Titolo = "Apri File Immagine";
   const fs::path scelto = interlocutore_.ScegliFile(richiesta);
@@ -142,7 +143,7 @@ void ComandiFile::SalvaConNome(const TipoDoc& tipo) {
   richiesta.NomeProposto = NomeProposto(tipo);
   const fs::path scelto = interlocutore_.ScegliFile(richiesta);
   if (scelto.empty()) return;
-  const fs::path percorso = ConEstensione(scelto, EstensioneModelli);
+  const fs::path percorso = FileDaSalvare(scelto);
   const EsitoScrittura scritto = Scrivi(percorso, tipo);
   if (!scritto) return;  // silent; the template stays modified
   documento_.NomeFile = percorso;
@@ -152,7 +153,12 @@ void ComandiFile::SalvaConNome(const TipoDoc& tipo) {
 }
 
 bool ComandiFile::PuoChiudere(const TipoDoc& tipo) {
-  return ProseguiDopoDomanda(tipo);
+  if (chiedeDiChiudere_) return false;
+  if (!documento_.Modificato) return true;
+  chiedeDiChiudere_ = true;
+  const Risposta risposta = ChiediSeSalvare();
+  chiedeDiChiudere_ = false;  // what the answer asks for may take long, and be interrupted in its turn
+  return Prosegui(risposta, tipo);
 }
 
 bool ComandiFile::VerificaStampa(const TipoDoc& tipo) const {

@@ -57,15 +57,16 @@ class ComandiFile {
   void SalvaConNome(const TipoDoc& tipo);
 
   /// Whether the window may close: asks when the template is modified. False when the question was cancelled,
-  /// or when saving was chosen and nothing was saved.
+  /// or when saving was chosen and nothing was saved, and, without a word, while this very question is on
+  /// show. It may be asked in the middle of any other command that waits for an answer.
   bool PuoChiudere(const TipoDoc& tipo);
 
   /// Whether there is anything to save or print: not every section is a single empty line.
   bool VerificaStampa(const TipoDoc& tipo) const;
 
  private:
-  Risposta FileModificato(const TipoDoc& tipo);
-  bool ProseguiDopoDomanda(const TipoDoc& tipo);
+  Risposta ChiediSeSalvare();
+  bool Prosegui(Risposta risposta, const TipoDoc& tipo);
   EsitoPasso ConservaAltrui(const std::filesystem::path& percorso, std::string_view nuovi) const;
   EsitoScrittura Sostituisci(const std::filesystem::path& percorso, std::string_view nuovi) const;
   EsitoScrittura Scrivi(const std::filesystem::path& percorso, const TipoDoc& tipo);
@@ -76,6 +77,7 @@ class ComandiFile {
   Interlocutore& interlocutore_;
   Contorno& contorno_;
   std::filesystem::path dirImg_;
+  bool chiedeDiChiudere_ = false;  // the closing question is on show
 };
 
 }  // namespace parvik

@@ -98,12 +98,16 @@ TEST(FileCommandsPage, TellsTheCaptions) {
 }
 
 TEST(FileCommandsPage, TellsWhichFileATypedNameMeans) {
-  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "typed", 2)) {
+  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "typed", 3)) {
     Banco banco;
-    banco.Persona.Scegliera(banco.Cartella / riga.Testo(0));
+    if (const std::string file = riga.Testo(0); !file.empty()) Crea(banco.Cartella / file, "altro\r\n");
+    banco.Persona.Scegliera(banco.Cartella / riga.Testo(1));
     banco.Comandi.SalvaConNome(Tipo(1));
-    EXPECT_EQ(banco.Modello.NomeFile, banco.Cartella / riga.Testo(1)) << riga.Posto();
-    EXPECT_EQ(Contenuto(banco.Cartella / riga.Testo(1)), "\r\n") << riga.Posto();
+    EXPECT_EQ(banco.Modello.NomeFile, banco.Cartella / riga.Testo(2)) << riga.Posto();
+    EXPECT_EQ(Contenuto(banco.Cartella / riga.Testo(2)), "\r\n") << riga.Posto();
+    banco.Persona.Scegliera(banco.Cartella / riga.Testo(1));
+    banco.Comandi.Apri(Tipo(1));
+    EXPECT_EQ(banco.Modello.NomeFile, banco.Cartella / riga.Testo(2)) << riga.Posto() << ": opened";
   }
 }
 

@@ -24,13 +24,14 @@ void NelProssimoDialogo(const std::function<void(QDialog&)>& compito) {
   orologio->start();
 }
 
-Finestra::Finestra() {
+Finestra::Finestra(Interlocutore* altro) {
+  Interlocutore& interlocutore = altro != nullptr ? *altro : persona_;
   std::filesystem::create_directories(Cartella() / "PARVIK");
   std::filesystem::copy(Esempio(), Cartella(), std::filesystem::copy_options::recursive);
   std::filesystem::create_symlink(prova::ModuloStampa(), ModuloStampa());
-  auto dati = Avvia({.DirProgramma = Cartella() / "PARVIK", .CartelleConfigurazione = {}}, persona_);
+  auto dati = Avvia({.DirProgramma = Cartella() / "PARVIK", .CartelleConfigurazione = {}}, interlocutore);
   if (!dati) qFatal("the example installation does not start");
-  finestra_ = std::make_unique<frmParvik>(std::move(*dati), persona_);
+  finestra_ = std::make_unique<frmParvik>(std::move(*dati), interlocutore);
   finestra_->show();
   Attiva();
 }

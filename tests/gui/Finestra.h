@@ -10,6 +10,7 @@
 #include <ostream>
 
 #include "app/frmParvik.h"
+#include "common/frmDialoghi.h"
 #include "supporto/Cartelle.h"
 #include "supporto/InterlocutoreScritto.h"
 
@@ -34,7 +35,9 @@ void NelProssimoDialogo(const std::function<void(QDialog&)>& compito);
 class Finestra {
  public:
   /// Installs a copy of the example with the print module, starts, and shows the window.
-  Finestra();
+  Finestra() : Finestra(nullptr) {}
+  /// The same, with the program's own boxes in the place of the scripted person.
+  explicit Finestra(frmDialoghi& dialoghi) : Finestra(&dialoghi) { dialoghi.ImpostaPadre(finestra_.get()); }
 
   InterlocutoreScritto& Persona() { return persona_; }
   std::filesystem::path Cartella() const { return cartella_.Percorso() / "VELKOR"; }
@@ -61,6 +64,8 @@ class Finestra {
   void Attiva();
 
  private:
+  explicit Finestra(Interlocutore* altro);
+
   CartellaTemporanea cartella_;
   InterlocutoreScritto persona_;
   std::unique_ptr<frmParvik> finestra_;

@@ -1,85 +1,88 @@
+// Signals and the event loops; what they mean to the windows is tested in fineSessione_test.cpp.
 #include "app/frmSegnali.h"
 
 #include <gtest/gtest.h>
 
-#include <QTest>
+#include <QApplication>
+#include <QDialog>
+#include <QTimer>
 #include <csignal>
 
-#include "Finestra.h"
+#include "Regia.h"
 
 namespace parvik {
 namespace {
 
-using prova::Finestra;
+using prova::Regia;
 
-class FrmSegnali : public testing::Test {
- protected:
-  void Manda(int segnale) {
-    EXPECT_EQ(std::raise(segnale), 0);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return chiamate_ > 0; }));
-  }
+constexpr int Stato = 7;
+constexpr int Fermata = 99;
 
-  bool Chiudi() {
-    ++chiamate_;
-    return finestra_->close();
-  }
-
-  SegnaliFine segnali_;
-  Finestra finestra_;
-  int chiamate_ = 0;
-  frmSegnali fine_{segnali_, [this] { return Chiudi(); }};
-};
-
-TEST_F(FrmSegnali, SigtermClosesAnUnmodifiedWindowWithoutAQuestion) {
-  Manda(SIGTERM);
-  EXPECT_FALSE(finestra_->isVisible());
-  EXPECT_TRUE(finestra_.Persona().Messaggi.empty());
+void Manda(int segnale) {
+  EXPECT_EQ(std::raise(segnale), 0);
 }
 
-TEST_F(FrmSegnali, SigtermAsksAboutAModifiedTemplateAndAnnullaKeepsItOpen) {
-  finestra_.Scegli(12);
-  QTest::keyClicks(&finestra_.Sezione(0), "testo");
-  finestra_.Persona().Rispondera(Risposta::Annulla);
-  Manda(SIGTERM);
-  ASSERT_EQ(finestra_.Persona().Messaggi.size(), 1U);
-  EXPECT_EQ(finestra_.Persona().Messaggi[0].Testo, "Il file è stato modificato, vuoi salvare?");
-  EXPECT_TRUE(finestra_->isVisible());
-  EXPECT_TRUE(finestra_.Sezione(0).toPlainText().startsWith("testo"));
+TEST(FrmSegnali, WhenTheProgramMayEndItsLoopEndsWithTheStatus) {
+  const SegnaliFine segnali;
+  const frmSegnali fine(segnali, Stato, [] { return true; });
+  Regia regia;
+  regia.Poi(
+      "the start", [] { return true; }, [] { Manda(SIGINT); });
+  EXPECT_EQ(regia.Esegui(), Stato);
 }
 
-TEST_F(FrmSegnali, SighupWritesNothingByItself) {
-  finestra_.Scegli(1);
-  finestra_.Apri("FATT01.IMG");
-  const std::string prima = prova::Contenuto(finestra_.Modello("FATT01.IMG"));
-  QTest::keyClicks(&finestra_.Sezione(0), "testo");
-  finestra_.Persona().Rispondera(Risposta::No);
-  Manda(SIGHUP);
-  EXPECT_FALSE(finestra_->isVisible());
-  EXPECT_EQ(prova::Contenuto(finestra_.Modello("FATT01.IMG")), prima);
-}
-
-TEST_F(FrmSegnali, WithYesTheTemplateIsSavedFirst) {
-  finestra_.Scegli(1);
-  finestra_.Apri("FATT01.IMG");
-  QTest::keyClicks(&finestra_.Sezione(0), "testo");
-  finestra_.Persona().Rispondera(Risposta::Si);
-  Manda(SIGTERM);
-  EXPECT_FALSE(finestra_->isVisible());
-  EXPECT_EQ(prova::Contenuto(finestra_.Modello("FATT01.IMG")).substr(0, 5), "testo");
-}
-
-TEST(FrmSegnaliDueVolte, ASecondSignalWhileTheQuestionIsOpenAsksNothingMore) {
+TEST(FrmSegnali, WhenTheProgramMayNotEndEverythingGoesOn) {
   const SegnaliFine segnali;
   int domande = 0;
-  const frmSegnali fine(segnali, [&domande] {
+  const frmSegnali fine(segnali, Stato, [&domande] {
     ++domande;
-    EXPECT_EQ(std::raise(SIGTERM), 0);
-    QTest::qWait(50);
     return false;
   });
-  EXPECT_EQ(std::raise(SIGTERM), 0);
-  QTest::qWait(200);
-  EXPECT_EQ(domande, 1);
+  Regia regia;
+  regia.Poi(
+      "the start", [] { return true; }, [] { Manda(SIGTERM); });
+  regia.Poi(
+      "the question", [&] { return domande == 1; }, [] { QApplication::exit(Fermata); });
+  EXPECT_EQ(regia.Esegui(), Fermata);
+}
+
+TEST(FrmSegnali, ASignalThatComesBeforeTheLoopIsTakenInIt) {
+  const SegnaliFine segnali;
+  Manda(SIGHUP);
+  const frmSegnali fine(segnali, Stato, [] { return true; });
+  Regia regia;
+  EXPECT_EQ(regia.Esegui(), Stato);
+}
+
+TEST(FrmSegnali, ASignalThatComesWhileTheQuestionIsOpenIsHandedOnToo) {
+  const SegnaliFine segnali;
+  int domande = 0;
+  const frmSegnali fine(segnali, Stato, [&domande] {
+    if (++domande == 2) return true;
+    QDialog domanda;
+    Manda(SIGTERM);
+    return domanda.exec() == QDialog::Accepted;
+  });
+  Regia regia;
+  regia.Poi(
+      "the start", [] { return true; }, [] { Manda(SIGTERM); });
+  EXPECT_EQ(regia.Esegui(), Stato);
+  EXPECT_EQ(domande, 2);
+}
+
+TEST(FrmSegnali, WhoWaitsForADialogIsToldThatItWasGivenUp) {
+  const SegnaliFine segnali;
+  const frmSegnali fine(segnali, Stato, [] { return true; });
+  Regia regia;
+  QDialog dialogo;
+  int risposta = -1;
+  QObject::connect(&dialogo, &QDialog::finished, [&risposta](int esito) { risposta = esito; });
+  regia.Poi(
+      "the start", [] { return true; }, [&dialogo] { dialogo.exec(); });
+  regia.Poi(
+      "the dialog", [&dialogo] { return dialogo.isVisible(); }, [] { Manda(SIGTERM); });
+  EXPECT_EQ(regia.Esegui(), Stato);
+  EXPECT_EQ(risposta, QDialog::Rejected);
 }
 
 }  // namespace

@@ -172,6 +172,22 @@ TEST(Strada, SaveAsTakesTheNameAndShowsWhatTheFileHolds) {
   EXPECT_EQ(finestra->windowTitle(), "Ordavia - ATTNUOVA.img");
 }
 
+TEST(Strada, SaveAsWithTheNameOfAFileButItsExtensionReplacesThatFile) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  QTest::keyClicks(&finestra.Sezione(0), "abc");
+  const auto quanti = [&finestra] {
+    return std::distance(std::filesystem::directory_iterator(finestra.Cartella() / "D_IMG"), {});
+  };
+  const auto prima = quanti();
+  finestra.Persona().Scegliera(finestra.Modello("FATT01"));
+  finestra.Azione("mnuSalvaNome").trigger();
+  EXPECT_TRUE(Contenuto(finestra.Modello("FATT01.IMG")).starts_with("abc\r\n"));
+  EXPECT_EQ(finestra->windowTitle(), "Ordavia - G/FATT01.IMG");
+  EXPECT_EQ(quanti(), prima + 1) << "nothing new but FATT01.IMG~";
+  EXPECT_TRUE(std::filesystem::exists(finestra.Modello("FATT01.IMG~")));
+}
+
 TEST(Strada, TheBodyIsCompletedWhenItIsSaved) {
   Finestra finestra;
   finestra.Scegli(1);

@@ -50,7 +50,7 @@ class Sessione : public testing::Test {
 
   SegnaliFine segnali_;
   Finestra finestra_;
-  frmSegnali fine_{segnali_, [this] { return finestra_->close(); }};
+  frmSegnali fine_{segnali_, EXIT_SUCCESS, [this] { return finestra_->PuoChiudere(); }};
   std::string prima_;
 };
 

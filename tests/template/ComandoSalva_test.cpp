@@ -174,6 +174,25 @@ TEST_F(ComandoSalvaConNome, GivesANameTypedWithoutAnExtensionTheTemplatesOwn) {
   EXPECT_EQ(Elenco{"nuovo.img"}, Nomi(dirImg_.Percorso()));
 }
 
+TEST_F(ComandoSalvaConNome, TakesANameWithoutAnExtensionForTheFileThatOpenFindsByIt) {
+  for (const char* file : {"FATT01.IMG", "Conto.Img", "senza", "due", "due.img"}) Crea(dirImg_ / file, "x");
+  std::filesystem::create_directory(dirImg_ / "CARTELLA.IMG");
+  const std::vector<std::pair<const char*, const char*>> casi = {{"FATT01", "FATT01.IMG"},
+                                                                 {"fatt01", "FATT01.IMG"},
+                                                                 {"CONTO", "Conto.Img"},
+                                                                 {"senza", "senza"},
+                                                                 {"due", "due"},
+                                                                 {"cartella", "cartella.img"},
+                                                                 {"FATT01.txt", "FATT01.txt"},
+                                                                 {"fatt01.img", "fatt01.img"}};
+  for (const auto& [scelto, scritto] : casi) {
+    interlocutore_.Scegliera(dirImg_ / scelto);
+    comandi_.SalvaConNome(tre_);
+    EXPECT_EQ(dirImg_ / scritto, documento_.NomeFile) << scelto;
+    EXPECT_EQ(FileIniziale(), Contenuto(dirImg_ / scritto)) << scelto;
+  }
+}
+
 TEST_F(ComandoSalvaConNome, KeepsAnyExtensionThatWasTyped) {
   for (const char* nome : {"nuovo.txt", "nuovo.IMG", "nuovo.v2"}) {
     interlocutore_.Scegliera(dirImg_ / nome);
