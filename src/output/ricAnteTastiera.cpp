@@ -108,7 +108,7 @@ void ricAnte::Muovi(Movimento dove, bool seleziona) {
   const std::size_t cursore = verticale ? InVerticale(dove) : InOrizzontale(dove, seleziona);
   Imposta(seleziona ? ancora_ : cursore, cursore);
   Rivela(cursore_);
-  if (seleziona) OffriSelezione();
+  OffriSelezione();
 }
 
 std::size_t ricAnte::InOrizzontale(Movimento dove, bool seleziona) const {
@@ -134,7 +134,8 @@ std::size_t ricAnte::InOrizzontale(Movimento dove, bool seleziona) const {
   }
 }
 
-/// Keeps to the x where the first of a row of vertical movements started. At the first and last line nothing.
+/// Keeps to the x where the first of a row of vertical movements started. At the first and last line it
+/// stays.
 std::size_t ricAnte::InVerticale(Movimento dove) {
   const bool pagina = dove == Movimento::PaginaSopra || dove == Movimento::PaginaSotto;
   const bool sopra = dove == Movimento::RigaSopra || dove == Movimento::PaginaSopra;
@@ -143,7 +144,6 @@ std::size_t ricAnte::InVerticale(Movimento dove) {
   const std::size_t righe = pagina ? std::max<std::size_t>(Veduta().UltimaRigaIntera() - prima, 1) : 1;
   const std::size_t nuova =
       sopra ? riga - std::min(riga, righe) : std::min(riga + righe, testo_->NumRighe() - 1);
-  if (nuova == riga) return cursore_;
   if (!xVoluta_) xVoluta_ = XDi(*testo_, riga, cursore_ - testo_->InizioRiga(riga), *celle_);
   if (pagina) {
     const int passo = static_cast<int>(righe);
