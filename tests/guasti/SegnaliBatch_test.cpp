@@ -4,6 +4,7 @@
 #include <csignal>
 
 #include "guasti/SalvataggioGuasto.h"
+#include "supporto/ConNome.h"
 
 namespace parvik::prova {
 namespace {
@@ -13,10 +14,7 @@ struct Caso {
   Via Quale;
   int Segnale;
 };
-
-void PrintTo(const Caso& caso, std::ostream* uscita) {
-  *uscita << caso.Nome;
-}
+using prova::PrintTo;
 
 class SegnaliBatch : public testing::TestWithParam<Caso> {};
 
