@@ -106,12 +106,9 @@ void MostraCodici(QLineEdit& campo) {
 }
 
 void ImpostaComeSta(QLineEdit& campo, const QString& testo) {
-  const QValidator* validatore = campo.validator();
-  if (auto* filtro = dynamic_cast<frmFiltro*>(const_cast<QValidator*>(validatore)))
-    filtro->AmmettiComeSta(testo);
-  campo.setValidator(nullptr);
+  auto* validatore = const_cast<QValidator*>(campo.validator());
+  if (auto* filtro = dynamic_cast<frmFiltro*>(validatore)) filtro->AmmettiComeSta(testo);
   campo.setText(testo);
-  campo.setValidator(validatore);
 }
 
 }  // namespace parvik

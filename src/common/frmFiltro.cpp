@@ -87,7 +87,6 @@ bool frmFiltro::IncollaSelezione() {
 }
 
 bool frmFiltro::Lascia(QDropEvent& evento) {
-  if (evento.source() == &campo_) return false;  // the box's own text, at another place
   QMimeData ammesso;
   ammesso.setText(Entrano(evento.mimeData()->text(), campo_.text().size()));
   if (ammesso.text() == evento.mimeData()->text()) return false;

@@ -77,7 +77,6 @@ void frmSettaFlag::AllineaIntestazioni() {
                          ui_->cmdStato->minimumSizeHint().width());
   ui_->cmdFlag->setFixedWidth(fine(FineFlag));
   ui_->cmdDescrizione->setFixedWidth(fine(FineDescrizione) - fine(FineFlag));
-  ui_->cmdStato->setMinimumWidth(stato);
   ui_->lstFlag->setMinimumWidth(fine(FineDescrizione) + stato);
 }
 

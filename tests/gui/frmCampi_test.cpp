@@ -240,6 +240,15 @@ TEST_F(SelezionaTuttoTest, WhatADragSelectedStaysSelected) {
   EXPECT_EQ(campo_.selectionStart(), 0);
 }
 
+TEST_F(SelezionaTuttoTest, AShiftClickSelectsFromWhereTheCaretWas) {
+  SelezionaTuttoAlFuoco(campo_);
+  campo_.setText("123456");
+  campo_.setCursorPosition(2);
+  QTest::mouseClick(&campo_, Qt::LeftButton, Qt::ShiftModifier, AllaFine());
+  ASSERT_TRUE(campo_.hasFocus());
+  EXPECT_EQ(campo_.selectedText(), "3456");
+}
+
 TEST_F(SelezionaTuttoTest, ASecondClickPutsTheCaret) {
   SelezionaTuttoAlFuoco(campo_);
   campo_.setText("123");

@@ -33,13 +33,15 @@ class FrmFiltro : public testing::Test {
   }
   void Annulla() { QTest::keyClick(&campo_, Qt::Key_Z, Qt::ControlModifier); }
   void Ripeti() { QTest::keyClick(&campo_, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier); }
-  void Lascia(const QString& testo, QPointF dove) {
+  /// Whether the box takes it.
+  bool Lascia(const QString& testo, QPointF dove) {
     QMimeData dati;
     dati.setText(testo);
     QDragEnterEvent arrivo(dove.toPoint(), Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&campo_, &arrivo);
     QDropEvent evento(dove, Qt::CopyAction, &dati, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&campo_, &evento);
+    return evento.isAccepted();
   }
   /// Through the box's own menu, by the access key of its entry.
   void IncollaDalMenu() {
@@ -91,7 +93,7 @@ TEST_F(FrmFiltro, APasteOfDigitsAmongOthersCanBeUndone) {
 TEST_F(FrmFiltro, ADropAndAComposedTextCanBeUndone) {
   TestoDiCodice(campo_);
   QTest::keyClicks(&campo_, "ab");
-  Lascia("«x»\n", QPointF(0, 5));
+  EXPECT_TRUE(Lascia("«x»\n", QPointF(0, 5)));
   EXPECT_EQ(campo_.text(), "x ab");
   Annulla();
   EXPECT_EQ(campo_.text(), "ab");
@@ -125,6 +127,30 @@ TEST_F(FrmFiltro, ADelimiterTypedOverASelectionLeavesTextAndSelection) {
   EXPECT_EQ(campo_.selectedText(), "ab");
 }
 
+TEST_F(FrmFiltro, AThirdLevelKeyWritesAndAControlKeyDoesNot) {
+  SoloCifre(campo_, 4, "@");
+  QTest::keyClicks(&campo_, "12");
+  campo_.selectAll();
+  const auto altGr = Qt::ControlModifier | Qt::AltModifier;
+  QTest::sendKeyEvent(QTest::Click, &campo_, Qt::Key_E, "€", altGr);
+  EXPECT_EQ(campo_.selectedText(), "12") << "refused, it leaves the selection";
+  QTest::sendKeyEvent(QTest::Click, &campo_, Qt::Key_At, "@", altGr);
+  EXPECT_EQ(campo_.text(), "@");
+  QTest::sendKeyEvent(QTest::Click, &campo_, Qt::Key_A, "a", Qt::ControlModifier);
+  EXPECT_EQ(campo_.selectedText(), "@") << "the command that selects all";
+}
+
+TEST_F(FrmFiltro, ATextThatIsTooLongMayOnlyGetShorter) {
+  SoloCifre(campo_, 2);
+  ImpostaComeSta(campo_, "12345");
+  campo_.setSelection(1, 1);
+  QTest::keyClicks(&campo_, "9");
+  EXPECT_EQ(campo_.text(), "12345");
+  campo_.setSelection(1, 2);
+  QTest::keyClicks(&campo_, "9");
+  EXPECT_EQ(campo_.text(), "1945");
+}
+
 TEST_F(FrmFiltro, ACodesTextTakesNoMoreThanItsLimit) {
   TestoDiCodice(campo_, 2);
   QTest::keyClicks(&campo_, "a");
@@ -155,7 +181,7 @@ TEST_F(FrmFiltro, ABoxThatOnlyShowsIsNotChangedByAnyone) {
   ImpostaComeSta(campo_, "«V1»");
   QTest::keyClicks(&campo_, "x");
   Incolla("x");
-  Lascia("x", QPointF(0, 5));
+  EXPECT_FALSE(Lascia("x", QPointF(0, 5)));
   campo_.setText("x");
   EXPECT_EQ(campo_.text(), "«V1»");
   campo_.clear();

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
-#include <QFontInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -166,7 +165,8 @@ TEST_F(FrmFlag, TheCloseBoxDoesNothing) {
 
 TEST_F(FrmFlag, TheCodeCanBeReadThoughItsBoxIsDisabled) {
   EXPECT_FALSE(Codice()->isEnabled());
-  EXPECT_TRUE(QFontInfo(Codice()->font()).fixedPitch());
+  const QFontMetrics misure = Codice()->fontMetrics();
+  EXPECT_EQ(misure.horizontalAdvance("iiii"), misure.horizontalAdvance("MMMM"));
   QPalette scura = dialogo_.palette();
   scura.setColor(QPalette::WindowText, Qt::white);
   scura.setColor(QPalette::Disabled, QPalette::WindowText, Qt::gray);

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QAbstractItemView>
 #include <QGroupBox>
 #include <QListWidget>
 #include <QPushButton>
@@ -10,61 +9,14 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "Finestra.h"
-#include "output/FlagPerStampe.h"
-#include "supporto/ConNome.h"
+#include "BancoSettaFlag.h"
 
 namespace parvik {
 namespace {
 
+using prova::SeiFlag;
 using prova::Trova;
-
-/// Print flags with the rows 3, 14 and 27, and the page conditions 97, 98 and 99 after them.
-FlagPerStampe SeiFlag() {
-  const auto catalogo = Catalogo::CaricaCampi(
-      "1,\"Prova;P*.IMG;1;90;90;90;90;90;90;1;3;90;90;90;90\"\r\n"
-      "//fine documenti\r\n"
-      "0001,\"Cliente estero;3;N\r\n"
-      "0002,\"Citt\xE0 capoluogo;14;N\r\n"
-      "0003,\"Sconto presente;27;S\r\n");
-  FlagPerStampe flag;
-  EXPECT_TRUE(catalogo);
-  EXPECT_TRUE(flag.Carica(*catalogo, catalogo->TipiDoc().front()).empty());
-  return flag;
-}
-
-class FrmSettaFlag : public testing::Test {
- protected:
-  /// Shows the window and waits until it is the active one: only there does focus mean anything.
-  void Apri() {
-    finestra_.show();
-    finestra_.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra_));
-  }
-
-  QListWidget& Lista() { return *Trova<QListWidget>(finestra_, "lstFlag"); }
-  QRadioButton& Vero() { return *Trova<QRadioButton>(finestra_, "optVEFA_0"); }
-  QRadioButton& Falso() { return *Trova<QRadioButton>(finestra_, "optVEFA_1"); }
-
-  void CliccaRiga(int riga, Qt::KeyboardModifiers con = {}) {
-    const QPoint punto = Lista().visualItemRect(Lista().item(riga)).center();
-    QTest::mouseClick(Lista().viewport(), Qt::LeftButton, con, punto);
-  }
-
-  /// The states of the rows, in their order, as the core holds them; "?" where the list shows another.
-  std::string Stati() {
-    std::string stati;
-    for (std::size_t i = 0; i < flag_.Righe().size(); ++i) {
-      const char stato = flag_.Righe()[i].back();
-      const QString mostrata = Lista().item(static_cast<int>(i))->text();
-      stati += mostrata.endsWith(QChar(stato)) && mostrata.size() == 69 ? stato : '?';
-    }
-    return stati;
-  }
-
-  FlagPerStampe flag_ = SeiFlag();
-  frmSettaFlag finestra_{flag_, nullptr};
-};
+using FrmSettaFlag = prova::BancoSettaFlag;
 
 TEST_F(FrmSettaFlag, ShowsTheRowsAsTheyAre) {
   QStringList righe;
@@ -127,6 +79,23 @@ TEST_F(FrmSettaFlag, ComingToTheFrontSetsNothing) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra_));
   EXPECT_TRUE(Vero().hasFocus());
   EXPECT_EQ(Stati(), "VFFFFF");
+}
+
+TEST_F(FrmSettaFlag, AMenuThatClosesOverAnOptionSetsNothing) {
+  Apri();
+  CliccaRiga(0);
+  QTest::mouseClick(&Vero(), Qt::LeftButton);
+  EXPECT_EQ(Stati(), "VFFFFF");
+  Lista().selectAll();
+  for (const Qt::FocusReason motivo : {Qt::PopupFocusReason, Qt::MenuBarFocusReason}) {
+    Lista().setFocus();
+    Vero().setFocus(motivo);
+    Falso().setFocus(motivo);
+    EXPECT_EQ(Stati(), "VFFFFF") << motivo;
+  }
+  Lista().setFocus();
+  Falso().setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(Stati(), "FFFFFF");
 }
 
 TEST_F(FrmSettaFlag, SeveralSelectedRowsAreAllSetByOneClick) {
@@ -279,57 +248,6 @@ TEST_F(FrmSettaFlag, TheHeadingsSortNothingAndTakeNoFocus) {
   }
   EXPECT_EQ(Stati(), "FFVFFF");
   EXPECT_EQ(Lista().item(0)->text().left(4), "F3  ");
-}
-
-TEST_F(FrmSettaFlag, TheRowsHaveAFontOfOneWidth) {
-  const QFontMetrics misure = Lista().fontMetrics();
-  EXPECT_EQ(Lista().font().families().first(), "Courier New");
-  EXPECT_EQ(misure.horizontalAdvance("iiii"), misure.horizontalAdvance("MMMM"));
-}
-
-struct Intestazione {
-  const char* Nome;
-  int Da;  // characters before the column
-  int A;   // characters up to its end
-};
-using prova::PrintTo;
-
-class IntestazioniTest : public FrmSettaFlag, public testing::WithParamInterface<Intestazione> {
- protected:
-  /// Where a character begins, in the window.
-  int Ascissa(int carattere) {
-    const int margine = Lista().style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &Lista()) + 1;
-    const int larghezza = Lista().fontMetrics().horizontalAdvance(Lista().item(0)->text().left(carattere));
-    const QPoint punto(Lista().visualItemRect(Lista().item(0)).left() + margine + larghezza, 0);
-    return Lista().viewport()->mapTo(&finestra_, punto).x();
-  }
-};
-
-TEST_P(IntestazioniTest, StandsOverItsColumnWithItsCaptionWhole) {
-  Apri();
-  finestra_.resize(finestra_.minimumSizeHint());
-  const auto& pulsante = *Trova<QPushButton>(finestra_, GetParam().Nome);
-  const QRect rettangolo(pulsante.mapTo(&finestra_, QPoint(0, 0)), pulsante.size());
-  if (GetParam().Da > 0) {
-    EXPECT_LE(std::abs(rettangolo.left() - Ascissa(GetParam().Da)), 1);
-  } else {
-    EXPECT_EQ(rettangolo.left(), Lista().geometry().left());
-  }
-  EXPECT_GE(rettangolo.right() + 2, Ascissa(GetParam().A));
-  EXPECT_GE(pulsante.width(), pulsante.fontMetrics().horizontalAdvance(pulsante.text()) + 8);
-  EXPECT_EQ(rettangolo.bottom() + 1, Lista().geometry().top());
-}
-
-INSTANTIATE_TEST_SUITE_P(Colonne, IntestazioniTest,
-                         testing::Values(Intestazione{"cmdFlag", 0, 5}, Intestazione{"cmdDescrizione", 5, 68},
-                                         Intestazione{"cmdStato", 68, 69}),
-                         [](const auto& caso) { return std::string(caso.param.Nome); });
-
-TEST_F(FrmSettaFlag, NoRowIsCutAtTheSide) {
-  Apri();
-  finestra_.resize(finestra_.minimumSizeHint());
-  EXPECT_EQ(Lista().horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
-  EXPECT_GE(Lista().viewport()->width(), Lista().sizeHintForColumn(0));
 }
 
 }  // namespace

@@ -5,7 +5,6 @@
 
 #include <QAccessible>
 #include <QCheckBox>
-#include <QFontInfo>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -454,7 +453,8 @@ TEST_F(FrmVar, TheCodesCanBeReadThoughTheirBoxesAreDisabled) {
   dialogo_.setPalette(scura);
   for (const char* nome : {"txtVar", "txtFlag"}) {
     EXPECT_EQ(Casella(nome)->palette().color(QPalette::Disabled, QPalette::Text), QColor(Qt::white));
-    EXPECT_TRUE(QFontInfo(Casella(nome)->font()).fixedPitch());
+    const QFontMetrics misure = Casella(nome)->fontMetrics();
+    EXPECT_EQ(misure.horizontalAdvance("iiii"), misure.horizontalAdvance("MMMM"));
   }
 }
 
