@@ -28,7 +28,7 @@ constexpr const char* SenzaSchermo = "parvik32: nessuno schermo su cui aprire la
 void RiceviMessaggio(QtMsgType genere, const QMessageLogContext& contesto, const QString& testo) {
   if (genere == QtFatalMsg) FinisciSenzaSchermo();
   if (genere != QtDebugMsg) return;
-  static_cast<void>(std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(genere, contesto, testo))));
+  static_cast<void>(std::fputs(qPrintable(qFormatLogMessage(genere, contesto, testo) + '\n'), stderr));
 }
 
 /// While it lives the messages are received here.
