@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QWidget>
 
 namespace parvik {
 
@@ -12,6 +13,7 @@ frmTastiRipetuti::frmTastiRipetuti(QObject* padre) : QObject(padre) {
 bool frmTastiRipetuti::eventFilter(QObject* oggetto, QEvent* evento) {
   switch (evento->type()) {
     case QEvent::WindowActivate:
+      if (!oggetto->isWidgetType() || !static_cast<QWidget*>(oggetto)->isWindow()) return false;
       // In front again: the toolkit's link to assistive technologies, which begins when it is asked for,
       // takes the keys away and brings them back without their time.
       QMetaObject::invokeMethod(
