@@ -8,10 +8,6 @@
 namespace parvik {
 namespace {
 
-char Minuscola(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool ContinuaCarattere(char c) {
   return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
 }

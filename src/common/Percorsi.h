@@ -16,6 +16,11 @@ std::filesystem::path TrovaSenzaCaso(const std::filesystem::path& cartella, std:
 /// very bytes name nothing that exists, but the same text in UTF-8 does, it is that.
 std::filesystem::path PercorsoDellHost(std::string_view valore);
 
+/// The small letter of A to Z; any other character as it is. No locale.
+constexpr char Minuscola(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
 /// Equality without regard to the case of the letters A to Z; no locale.
 bool UgualiSenzaCaso(std::string_view a, std::string_view b);
 
