@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "app/CartelleProgramma.h"
 #include "app/frmAbout.h"
 #include "app/frmDivisore.h"
 #include "catalogue/frmScelta.h"
@@ -253,7 +254,7 @@ std::optional<Destinazione> frmParvik::ScegliDestinazione() {
 }
 
 Esito<Vista::Tipografo, std::string> frmParvik::ScegliStampante() {
-  const Esito<ModuloStampa*, std::string> modulo = CaricaModuloStampa(dirProgramma_);
+  const Esito<ModuloStampa*, std::string> modulo = CaricaModuloStampa(DirModuli(dirProgramma_));
   if (!modulo) return modulo.Errore();
   const std::shared_ptr<Stampante> stampante = (*modulo)->ChiediStampante(this);
   if (!stampante) return Tipografo();

@@ -83,7 +83,7 @@ class frmParvik final : public QMainWindow, private Vista {
   QHash<QString, QAction*> azioni_;
   std::unique_ptr<frmTotRighe> totali_;  // made anew each time it is shown
   frmSettaFlag* settaFlag_ = nullptr;    // made when it is first shown
-  std::filesystem::path dirProgramma_;   // the print module lies there
+  std::filesystem::path dirProgramma_;   // where the print module is looked for from
   Editore editore_;
   frmMaschere maschere_;
 };
