@@ -1,3 +1,4 @@
+# shellcheck shell=sh disable=SC2034
 # Read by the scripts beside it. The targets, and how long an input may be.
 BERSAGLI='profilo:256 codici:128 tasti:256 stili:256 modello:512 catalogo:512 stampa:256'
 

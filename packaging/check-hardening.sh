@@ -34,10 +34,10 @@ is_module() {
 
 check_position() {
   if is_module; then
-    has "$header" 'Type: +DYN' && ! has "$segments" '^ +INTERP' && ! has "$dynamic" 'TEXTREL' ||
+    { has "$header" 'Type: +DYN' && ! has "$segments" '^ +INTERP' && ! has "$dynamic" 'TEXTREL'; } ||
       complain "no position-independent module (-shared -fPIC)"
   else
-    has "$header" 'Type: +DYN' && has "$segments" '^ +INTERP' && has "$dynamic" 'FLAGS_1.*\bPIE\b' ||
+    { has "$header" 'Type: +DYN' && has "$segments" '^ +INTERP' && has "$dynamic" 'FLAGS_1.*\bPIE\b'; } ||
       complain "no position-independent executable (-pie)"
   fi
 }

@@ -8,10 +8,10 @@ build=${1:-build/dev}
 processors=$(nproc)
 failed=0
 
-[ -f "$build/compile_commands.json" ] && [ -f "$build/src/generati/app/Versione.h" ] || {
+if [ ! -f "$build/compile_commands.json" ] || [ ! -f "$build/src/generati/app/Versione.h" ]; then
   echo "check-static.sh: build $build first" >&2
   exit 2
-}
+fi
 
 echo "cppcheck ..."
 cppcheck --quiet -j "$processors" --std=c++20 --library=qt --library=posix --enable=warning,performance,portability \
@@ -20,7 +20,7 @@ cppcheck --quiet -j "$processors" --std=c++20 --library=qt --library=posix --ena
 
 # The largest sources first, so that no processor is left with one at the end; the windows' own header lines cost most.
 echo "clang-tidy ..."
-find src -name '*.cpp' | xargs grep -c '#include <Q' | sort -t: -k2,2nr | cut -d: -f1 |
+find src -name '*.cpp' -exec grep -c '#include <Q' {} + | sort -t: -k2,2nr | cut -d: -f1 |
   xargs -P "$processors" -n 2 clang-tidy --quiet -p "$build" 2>"$build/clang-tidy.log" || failed=1
 grep -vE '^[0-9]+ warnings?( and [0-9]+ errors?)? (generated|treated as error)' "$build/clang-tidy.log" || true
 

@@ -18,6 +18,7 @@ done
 
 dir=$(mktemp -d /tmp/stampante-XXXXXX)
 children=()
+# shellcheck disable=SC2317 # the trap calls it
 clean() {
   for child in "${children[@]}"; do
     kill "$child" 2>/dev/null || true
