@@ -110,7 +110,7 @@ expect "type of a template" text/x-velkor-template \
 as_user gio open $template >>"$base/editore.log" 2>&1 &
 expect "opened by its file type's command: the type is asked for" there "$(window '^Tipo Stampa$')"
 keys Return
-expect "the template in the window" there "$(window '^Ordavia - FATT01.IMG$')"
+expect "the template in the window" there "$(window '^Ordavia - G/FATT01.IMG$')"
 before=$(as_user sha256sum <"$root/home/prova/$template")
 as_user xdotool type --delay 60 Prova
 keys ctrl+s

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "app/Avvio.h"
+#include "catalogue/TrovaTipo.h"
 #include "common/Delimitatori.h"
 #include "common/Precondizione.h"
 #include "common/Windows1252.h"
@@ -166,6 +167,19 @@ void Editore::Apri() {
   PARVIK_ESIGE(TipoScelto(), ConTipo);
   comandi_.Apri(Tipo());
   vista_.Aggiorna();
+}
+
+void Editore::ApriDaFuori(const std::filesystem::path& nome) {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  comandi_.ApriDaFuori(Tipo(), nome);
+  vista_.Aggiorna();
+}
+
+std::optional<std::size_t> Editore::TipoDaProporre(const std::filesystem::path& nome) {
+  const std::optional<std::filesystem::path> file = comandi_.TrovaDaFuori(nome);
+  if (!file) return std::nullopt;
+  const std::vector<std::size_t> adatti = TipiPerNome(catalogo_, file->filename().string());
+  return adatti.empty() ? 0 : adatti.front();
 }
 
 void Editore::Salva() {

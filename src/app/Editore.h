@@ -105,6 +105,12 @@ class Editore final : private Contorno {
 
   void Nuovo();
   void Apri();
+  /// A template that was named outside: on the command line, or dropped on the window. As Apri with that name
+  /// chosen, but failures are told.
+  void ApriDaFuori(const std::filesystem::path& nome);
+  /// Without a document type yet: the slot of the one to propose for it, the first whose file-name pattern it
+  /// fits, or else the first. nullopt when there is no such file, after a message.
+  std::optional<std::size_t> TipoDaProporre(const std::filesystem::path& nome);
   void Salva();
   void SalvaConNome();
   /// The menu entry of the preview: turns it on, which renders, or off.

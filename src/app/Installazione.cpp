@@ -91,6 +91,7 @@ fs::path Installazione::DirStm() const {
 }
 
 fs::path TrovaDirVelkor(const Ambiente& ambiente) {
+  if (!ambiente.DirVelkor.empty()) return ConSeparatore(ambiente.DirVelkor);
   fs::path genitore = ConSeparatore(ambiente.DirProgramma.parent_path());
   if (EsisteFile(TrovaSenzaCaso(genitore, FileProfilo))) return genitore;
   const std::string valore = DirDalProfilo(ambiente);

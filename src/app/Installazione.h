@@ -14,6 +14,7 @@ struct Ambiente {
   std::filesystem::path DirProgramma;  // without a trailing separator
   /// Where a configuration file that is named without a folder is looked for, in this order.
   std::vector<std::filesystem::path> CartelleConfigurazione;
+  std::filesystem::path DirVelkor = {};  // "" when it is to be looked for
 };
 
 /// The running process: `argv0` as in DirProgramma(); $XDG_CONFIG_HOME, $XDG_CONFIG_DIRS and /etc.
@@ -32,8 +33,8 @@ struct Installazione {
   std::filesystem::path DirStm() const;
 };
 
-/// The host directory: the parent of the program's folder when VELKOR.INI lies there, else what a VELKOR.INI
-/// among the configuration folders says; empty when none says anything.
+/// The host directory: the one that was named; else the parent of the program's folder when VELKOR.INI lies
+/// there, else what a VELKOR.INI among the configuration folders says; empty when none says anything.
 std::filesystem::path TrovaDirVelkor(const Ambiente& ambiente);
 
 /// The whole lookup, the catalogue included. nullopt after the user was told why not, or gave it up.

@@ -8,7 +8,6 @@
 #include "app/CartelleProgramma.h"
 #include "app/frmAbout.h"
 #include "app/frmDivisore.h"
-#include "catalogue/frmScelta.h"
 #include "common/frmAttesa.h"
 #include "common/frmSchermo.h"
 #include "common/frmTastiInCoda.h"
@@ -79,6 +78,7 @@ void frmParvik::CreaControlli() {
   lblRighe_ = new lblRighe(*anteprima_, area_);
   lblRighe_->stackUnder(anteprima_);  // it is read first
   CreaDivisore();
+  CreaApertura();
 }
 
 void frmParvik::CreaDivisore() {
@@ -116,18 +116,6 @@ void frmParvik::MisuraEtichette() {
   if (etichetteMisurate_) return;
   etichetteMisurate_ = true;
   for (lblTCP* etichetta : etichette_) etichetta->Misura();
-}
-
-void frmParvik::ScegliTipo() {
-  QStringList descrizioni;
-  for (const TipoDoc* tipo : editore_.Campi().TipiElencati()) descrizioni += PerSchermo(tipo->Descrizione);
-  frmScelta scelta(descrizioni, this);
-  scelta.exec();
-  const auto voce = scelta.Scelta();
-  if (!voce) return;
-  editore_.ScegliTipo(*voce);
-  AttivaSezione(Sezione::Testata);
-  sezioni_[Indice(Sezione::Testata)]->setFocus();
 }
 
 void frmParvik::MostraInformazioni() {

@@ -32,6 +32,10 @@ class frmParvik final : public QMainWindow, private Vista {
   /// Whether the program may end, whatever is open or at work; asks when the template is modified.
   bool PuoChiudere() { return editore_.PuoChiudere(); }
 
+  /// What the command line asks for, once the window is there: a document type, by its slot, and a template
+  /// to open. Without a type the list of types opens first. A template that does not exist changes nothing.
+  void Comincia(std::optional<std::size_t> tipo, const std::optional<std::filesystem::path>& file);
+
  protected:
   void closeEvent(QCloseEvent* evento) override;
   bool eventFilter(QObject* oggetto, QEvent* evento) override;
@@ -55,6 +59,7 @@ class frmParvik final : public QMainWindow, private Vista {
 
   void CreaControlli();
   void CreaDivisore();
+  void CreaApertura();
   void MisuraEtichette();
   void CreaSezione(Sezione sezione);
   void CollegaSezione(Sezione sezione);
@@ -66,7 +71,10 @@ class frmParvik final : public QMainWindow, private Vista {
   void SpostaDivisore(int x);
   void ColoraLabel(Sezione attiva);
 
-  void ScegliTipo();
+  /// True when a type was chosen.
+  bool ScegliTipo(std::size_t proposta);
+  void ApplicaTipo(std::size_t slot);
+  void ApriDaFuori(const std::filesystem::path& file);
   void MostraInformazioni();
   void MostraFlagStampe();
   void MostraTotali();

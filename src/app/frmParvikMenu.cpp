@@ -38,7 +38,7 @@ void frmParvik::CollegaMenu() {
       if (Abilitata(*voce, editore_.PerMenu())) comando();
     });
   };
-  collega("mnuScelta", [this] { ScegliTipo(); });
+  collega("mnuScelta", [this] { ScegliTipo(0); });
   collega("mnuNuovo", [this] { editore_.Nuovo(); });
   collega("mnuApri", [this] { editore_.Apri(); });
   collega("mnuSalva", [this] { editore_.Salva(); });

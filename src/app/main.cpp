@@ -1,19 +1,26 @@
 #include <QApplication>
 #include <QIcon>
 #include <QTimer>
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <optional>
-#include <string_view>
+#include <string>
 
+#include "app/Argomenti.h"
 #include "app/Avvio.h"
+#include "app/CartelleProgramma.h"
+#include "app/CopiaEsempio.h"
 #include "app/Versione.h"
 #include "app/frmAvvio.h"
 #include "app/frmParvik.h"
 #include "app/frmSegnali.h"
+#include "catalogue/TrovaTipo.h"
 #include "common/Processo.h"
 #include "common/SegnaliFine.h"
+#include "common/TestoMostrabile.h"
 #include "common/frmDialoghi.h"
 #include "common/frmItaliano.h"
 
@@ -22,34 +29,38 @@ namespace {
 /// Decoding the icon would hold up the window's first frame.
 constexpr auto AttesaIcona = std::chrono::milliseconds(200);
 
-constexpr const char* Aiuto =
-    "Uso: parvik32\n"
-    "Ordavia, l'editor dei modelli di stampa di Velkor.\n\n"
-    "  --help      mostra questo aiuto ed esce\n"
-    "  --version   mostra la versione ed esce\n";
+constexpr int RigaDiComandoNonValida = 2;
 
-/// Answers what needs no display, before the toolkit looks for one. True when there is nothing else to do.
-bool RispostoSenzaFinestra(int argc, char** argv) {
-  for (int i = 1; i < argc; ++i) {
-    const std::string_view argomento = argv[i];
-    if (argomento == "--version" || argomento == "-v") {
-      std::cout << "Ordavia (parvik32) Version " << parvik::VersioneVisibile << '\n';
-      return true;
-    }
-    if (argomento == "--help" || argomento == "-h") {
-      std::cout << Aiuto;
-      return true;
-    }
-  }
-  return false;
+/// What a person at a terminal reads of a mistake: one line.
+int Rifiuta(const std::string& che, int stato) {
+  std::cerr << "parvik32: " << parvik::Mostrabile(che) << '\n';
+  return stato;
+}
+
+/// Answers what needs no display, before the toolkit looks for one: the status to end with, if it was all.
+std::optional<int> RispondiSenzaFinestra(const parvik::Argomenti& argomenti) {
+  if (argomenti.Cosa == parvik::Richiesta::Editore) return std::nullopt;
+  if (argomenti.Cosa == parvik::Richiesta::Aiuto) std::cout << parvik::AiutoEditore;
+  if (argomenti.Cosa == parvik::Richiesta::Versione)
+    std::cout << "Ordavia (parvik32) Version " << parvik::VersioneVisibile << '\n';
+  return EXIT_SUCCESS;
+}
+
+/// Where the program runs, with the host directory that the command line names.
+parvik::Ambiente AmbienteDa(const parvik::Argomenti& argomenti, const char* programma) {
+  parvik::Ambiente ambiente = parvik::AmbienteDelProcesso(programma);
+  if (argomenti.Velkor) ambiente.DirVelkor = std::filesystem::absolute(*argomenti.Velkor);
+  if (argomenti.Esempio) ambiente.DirVelkor = std::filesystem::absolute(*argomenti.Esempio);
+  return ambiente;
 }
 
 /// The start-up sequence; a signal ends it as any other reason not to go on.
-std::optional<parvik::DatiAvvio> AvviaConSegnali(const char* argv0, const parvik::SegnaliFine& segnali,
+std::optional<parvik::DatiAvvio> AvviaConSegnali(const parvik::Ambiente& ambiente,
+                                                 const parvik::SegnaliFine& segnali,
                                                  parvik::Interlocutore& interlocutore) {
   bool finita = false;
   const parvik::frmSegnali fine(segnali, EXIT_FAILURE, [&finita] { return finita = true; });
-  auto dati = parvik::Avvia(parvik::AmbienteDelProcesso(argv0), interlocutore);
+  auto dati = parvik::Avvia(ambiente, interlocutore);
   return finita ? std::nullopt : std::move(dati);
 }
 
@@ -57,21 +68,37 @@ std::optional<parvik::DatiAvvio> AvviaConSegnali(const char* argv0, const parvik
 
 int main(int argc, char** argv) {
   parvik::PreparaProcesso();
-  if (RispostoSenzaFinestra(argc, argv)) return EXIT_SUCCESS;
+  const auto letti = parvik::LeggiArgomenti({argv + 1, static_cast<std::size_t>(std::max(argc - 1, 0))});
+  if (!letti) return Rifiuta(letti.Errore() + " (--help elenca gli argomenti)", RigaDiComandoNonValida);
+  if (const auto stato = RispondiSenzaFinestra(*letti)) return *stato;
+  const parvik::Ambiente ambiente = AmbienteDa(*letti, argv[0]);
+  if (letti->Esempio) {
+    const auto copiato = parvik::CopiaEsempio(parvik::DirEsempio(ambiente.DirProgramma), ambiente.DirVelkor);
+    if (!copiato) return Rifiuta(copiato.Errore(), EXIT_FAILURE);
+  }
   parvik::PreparaLocale();
   const parvik::SegnaliFine segnali;  // before the toolkit's threads
   const auto programma = parvik::ApriSchermo(argc, argv, segnali);
   QApplication::setApplicationName("parvik32");
+  QGuiApplication::setDesktopFileName("org.ordavia.parvik32");
   if (!parvik::ParlaItaliano(*programma))
     std::cerr << "parvik32: manca la traduzione italiana di Qt (qtbase_it)\n";
   parvik::frmDialoghi dialoghi;
-  auto dati = AvviaConSegnali(argv[0], segnali, dialoghi);
+  auto dati = AvviaConSegnali(ambiente, segnali, dialoghi);
   if (!dati) return EXIT_FAILURE;
+  std::optional<std::size_t> tipo;
+  if (letti->Tipo) tipo = parvik::TipoPerNumero(dati->Campi, *letti->Tipo);
+  if (letti->Tipo && !tipo) {
+    return Rifiuta("tipo di documento " + std::to_string(*letti->Tipo) + " sconosciuto",
+                   RigaDiComandoNonValida);
+  }
   parvik::frmParvik finestra(std::move(*dati), dialoghi);
   dialoghi.ImpostaPadre(&finestra);
   const parvik::frmSegnali fineSessione(segnali, EXIT_SUCCESS,
                                         [&finestra] { return finestra.PuoChiudere(); });
   finestra.show();
+  if (tipo || letti->File)
+    QTimer::singleShot(0, &finestra, [&finestra, tipo, &letti] { finestra.Comincia(tipo, letti->File); });
   QTimer::singleShot(AttesaIcona, programma.get(),
                      [] { QApplication::setWindowIcon(QIcon(":/ordavia.png")); });
   return QApplication::exec();

@@ -8,6 +8,7 @@
 #include "app/Avvio.h"
 #include "app/Installazione.h"
 #include "batch/Messaggi.h"
+#include "catalogue/TrovaTipo.h"
 
 namespace parvik::batch {
 namespace {
@@ -63,10 +64,8 @@ std::optional<CatalogoScelto> ApriCatalogo(const Opzioni& opzioni) {
 }
 
 const TipoDoc* TrovaTipo(const CatalogoScelto& catalogo, int numero) {
-  const auto& tipi = catalogo.Campi.TipiDoc();
-  const bool nellaTabella = numero >= 1 && numero <= static_cast<int>(tipi.size());
-  const TipoDoc* tipo = nellaTabella ? &tipi[static_cast<std::size_t>(numero) - 1] : nullptr;
-  if (tipo != nullptr && !tipo->Descrizione.empty()) return tipo;
+  if (const std::optional<std::size_t> slot = TipoPerNumero(catalogo.Campi, numero))
+    return &catalogo.Campi.TipiDoc()[*slot];
   Segnala(catalogo.File, "tipo di documento " + std::to_string(numero) + " sconosciuto");
   return nullptr;
 }

@@ -21,6 +21,10 @@ void frmScelta::CaricaLista(const QStringList& descrizioni) {
   ui_->cmdOk->setEnabled(!descrizioni.isEmpty());
 }
 
+void frmScelta::Proponi(std::size_t voce) {
+  ui_->lstScelta->setCurrentRow(static_cast<int>(voce));
+}
+
 std::optional<std::size_t> frmScelta::Scelta() const {
   const int riga = ui_->lstScelta->currentRow();
   if (result() != Accepted || riga < 0) return std::nullopt;

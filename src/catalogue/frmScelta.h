@@ -20,6 +20,9 @@ class frmScelta final : public frmModale {
   frmScelta(const QStringList& descrizioni, QWidget* padre);
   ~frmScelta() override;
 
+  /// Selects an entry, 0-based, before the user does.
+  void Proponi(std::size_t voce);
+
   /// The 0-based entry that was chosen; nullopt after Cancel, and while nothing can be chosen.
   std::optional<std::size_t> Scelta() const;
 

@@ -11,6 +11,7 @@
 #include "common/LetturaFile.h"
 #include "common/Percorsi.h"
 #include "common/ScritturaSicura.h"
+#include "common/TestoMostrabile.h"
 #include "common/Windows1252.h"
 
 namespace parvik {
@@ -98,6 +99,10 @@ bool ComandiFile::Prosegui(Risposta risposta, const TipoDoc& tipo) {
   return !documento_.Modificato || (documento_.NomeFile.empty() && !VerificaStampa(tipo));
 }
 
+bool ComandiFile::ProseguiDopoDomanda(const TipoDoc& tipo) {
+  return !documento_.Modificato || Prosegui(ChiediSeSalvare(), tipo);
+}
+
 void ComandiFile::Nuovo(const TipoDoc& tipo) {
   if (documento_.Modificato && ChiediSeSalvare() == Risposta::Si) Salva(tipo);
   documento_.Modificato = false;
@@ -106,7 +111,7 @@ void ComandiFile::Nuovo(const TipoDoc& tipo) {
 }
 
 void ComandiFile::Apri(const TipoDoc& tipo) {
-  if (documento_.Modificato && !Prosegui(ChiediSeSalvare(), tipo)) return;
+  if (!ProseguiDopoDomanda(tipo)) return;
   RichiestaFile richiesta = RichiestaModello(RichiestaFile::Scopo::Apri, tipo, dirImg_);
   richiesta.Titolo = "Apri File Immagine";
   const fs::path scelto = interlocutore_.ScegliFile(richiesta);
@@ -117,11 +122,34 @@ void ComandiFile::Apri(const TipoDoc& tipo) {
   }
   documento_.NomeFile = file;
   if (scelto.empty()) return;
+  // The command is silent on every failure: what could be read is shown.
+  static_cast<void>(ApriScelto(tipo));
+}
+
+Esito<void> ComandiFile::ApriScelto(const TipoDoc& tipo) {
   contorno_.SpegniAnteprima();
   if (!sezioni_.Testo(Sezione::Testata).empty()) contorno_.AzzeraFlagStampe();
   documento_.Modificato = false;
-  // The command is silent on every failure: what could be read is shown.
-  static_cast<void>(Leggi(tipo));
+  return Leggi(tipo);
+}
+
+void ComandiFile::SegnalaConNome(NumeroErrore errore, const fs::path& file) {
+  interlocutore_.Chiedi({.Testo = TestoErrore(errore) + "\r\n" + Mostrabile(file.string())});
+}
+
+std::optional<fs::path> ComandiFile::TrovaDaFuori(const fs::path& nome) {
+  const fs::path file = FileDaAprire(nome);
+  if (EsisteFile(file)) return file;
+  SegnalaConNome(NumeroErrore::FileNonTrovato, nome);
+  return std::nullopt;
+}
+
+void ComandiFile::ApriDaFuori(const TipoDoc& tipo, const fs::path& nome) {
+  const std::optional<fs::path> file = TrovaDaFuori(nome);
+  if (!file || !ProseguiDopoDomanda(tipo)) return;
+  if (TroppoGrande(*file)) return SegnalaConNome(NumeroErrore::MemoriaEsaurita, *file);
+  documento_.NomeFile = *file;
+  if (const Esito<void> letto = ApriScelto(tipo); !letto) SegnalaConNome(letto.Errore(), *file);
 }
 
 void ComandiFile::Salva(const TipoDoc& tipo) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -45,6 +46,14 @@ class ComandiFile {
   /// 128 MiB is refused with a message (MemoriaEsaurita), and nothing but the answered question has happened.
   void Apri(const TipoDoc& tipo);
 
+  /// What a person named outside the command: on the command line, or dropped on the window. As Open with
+  /// that name chosen, but a failure draws a message with the file's name. A file that does not exist draws
+  /// it before anything else happens.
+  void ApriDaFuori(const TipoDoc& tipo, const std::filesystem::path& nome);
+
+  /// The file that `nome` means, with its extension where it has none; nullopt after that message.
+  std::optional<std::filesystem::path> TrovaDaFuori(const std::filesystem::path& nome);
+
   /// Save; without a file name it is Save As, and with nothing in the sections nothing at all. A named file
   /// that could not be written draws a message, and the template stays modified; one that was, and about
   /// which there is something to say (TestoAvviso), draws a warning. A file whose bytes are not those that
@@ -67,6 +76,9 @@ class ComandiFile {
  private:
   Risposta ChiediSeSalvare();
   bool Prosegui(Risposta risposta, const TipoDoc& tipo);
+  bool ProseguiDopoDomanda(const TipoDoc& tipo);
+  Esito<void> ApriScelto(const TipoDoc& tipo);
+  void SegnalaConNome(NumeroErrore errore, const std::filesystem::path& file);
   EsitoPasso ConservaAltrui(const std::filesystem::path& percorso, std::string_view nuovi) const;
   EsitoScrittura Sostituisci(const std::filesystem::path& percorso, std::string_view nuovi) const;
   EsitoScrittura Scrivi(const std::filesystem::path& percorso, const TipoDoc& tipo);

@@ -1,4 +1,4 @@
-#include "catalogue/TipoPerNome.h"
+#include "catalogue/TrovaTipo.h"
 
 #include "common/Percorsi.h"
 #include "common/Windows1252.h"
@@ -16,6 +16,13 @@ std::size_t Lunghezza(std::string_view testo, std::size_t posto) {
 }
 
 }  // namespace
+
+std::optional<std::size_t> TipoPerNumero(const Catalogo& catalogo, int numero) {
+  if (numero < 1 || numero > static_cast<int>(MaxTipiDoc)) return std::nullopt;
+  const auto slot = static_cast<std::size_t>(numero) - 1;
+  if (catalogo.TipiDoc()[slot].Descrizione.empty()) return std::nullopt;
+  return slot;
+}
 
 bool NomeCorrisponde(std::string_view nome, std::string_view modello) {
   std::size_t n = 0;

@@ -1,4 +1,4 @@
-#include "catalogue/TipoPerNome.h"
+#include "catalogue/TrovaTipo.h"
 
 #include <gtest/gtest.h>
 
@@ -48,6 +48,22 @@ INSTANTIATE_TEST_SUITE_P(
 
 Catalogo CatalogoDiEsempio() {
   return std::move(*Catalogo::CaricaCampi(Contenuto(Esempio() / "D_IMG" / "CAMPI.TXT")));
+}
+
+TEST(TipoPerNumero, IsTheSlotBelow) {
+  const Catalogo catalogo = CatalogoDiEsempio();
+  EXPECT_EQ(TipoPerNumero(catalogo, 1), 0U);
+  EXPECT_EQ(TipoPerNumero(catalogo, 23), 22U);
+  for (const int numero : {-1, 0, 24, 32767})
+    EXPECT_EQ(TipoPerNumero(catalogo, numero), std::nullopt) << numero;
+}
+
+TEST(TipoPerNumero, IsNoEmptySlot) {
+  const std::string riga = R"(2, "Uno;UNO*.IMG;3;1;1;1;1;1;1;1;1;1;1;1;1")";
+  const auto catalogo = Catalogo::CaricaCampi(riga + "\r\n//fine documenti\r\n");
+  ASSERT_TRUE(catalogo);
+  EXPECT_EQ(TipoPerNumero(*catalogo, 1), std::nullopt);
+  EXPECT_EQ(TipoPerNumero(*catalogo, 2), 1U);
 }
 
 TEST(TipiPerNome, FindsTheTypeOfEachExample) {

@@ -1,13 +1,18 @@
-// Which document type a template file belongs to, by its name: the file does not say.
+// Document types by what a person knows of them: their number, or the name of a template file, which does not
+// say its type.
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "catalogue/Catalogo.h"
 
 namespace parvik {
+
+/// The slot of a type by its number, as the catalogue writes it; nullopt when there is none of that number.
+std::optional<std::size_t> TipoPerNumero(const Catalogo& catalogo, int numero);
 
 /// Whether a file name fits a pattern: "*" any characters, "?" one, the letters A to Z in either case. Both
 /// UTF-8.

@@ -1,0 +1,49 @@
+// How the main window comes to a document type and a template: from the menu, the command line, a dropped
+// file.
+#include "app/frmApertura.h"
+#include "app/frmParvik.h"
+#include "catalogue/frmScelta.h"
+#include "common/frmTesto.h"
+
+namespace parvik {
+
+void frmParvik::CreaApertura() {
+  auto* apertura = new frmApertura(this);
+  apertura->Osserva(*this);
+  for (txtTCP* sezione : sezioni_) apertura->Osserva(*sezione->viewport());
+  connect(apertura, &frmApertura::Depositato, this,
+          [this](const QString& file) { ApriDaFuori(file.toStdString()); });
+}
+
+bool frmParvik::ScegliTipo(std::size_t proposta) {
+  QStringList descrizioni;
+  for (const TipoDoc* tipo : editore_.Campi().TipiElencati()) descrizioni += PerSchermo(tipo->Descrizione);
+  frmScelta scelta(descrizioni, this);
+  scelta.Proponi(proposta);
+  scelta.exec();
+  const auto voce = scelta.Scelta();
+  if (voce) ApplicaTipo(*voce);
+  return voce.has_value();
+}
+
+void frmParvik::ApplicaTipo(std::size_t slot) {
+  editore_.ScegliTipo(slot);
+  AttivaSezione(Sezione::Testata);
+  sezioni_[Indice(Sezione::Testata)]->setFocus();
+}
+
+void frmParvik::ApriDaFuori(const std::filesystem::path& file) {
+  if (!editore_.TipoScelto()) {
+    const std::optional<std::size_t> proposta = editore_.TipoDaProporre(file);
+    if (!proposta || !ScegliTipo(*proposta)) return;
+  }
+  editore_.ApriDaFuori(file);
+}
+
+void frmParvik::Comincia(std::optional<std::size_t> tipo, const std::optional<std::filesystem::path>& file) {
+  if (file && !editore_.TipoDaProporre(*file)) return;
+  if (tipo) ApplicaTipo(*tipo);
+  if (file) ApriDaFuori(*file);
+}
+
+}  // namespace parvik
