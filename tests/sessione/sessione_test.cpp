@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <QTest>
+#include <QTimer>
 #include <string>
 
 #include "Finestra.h"
@@ -23,7 +24,13 @@ class Sessione : public testing::Test {
   static constexpr int VersoGestore = 3;
   static constexpr int DalGestore = 4;
 
-  Sessione() { fcntl(DalGestore, F_SETFL, O_NONBLOCK); }
+  Sessione() {
+    fcntl(DalGestore, F_SETFL, O_NONBLOCK);
+    // A program that was told to exit opens no dialog any more, until its event loop begins anew: the test
+    // before this one may have ended.
+    QTimer::singleShot(0, qApp, [] { QApplication::exit(); });
+    QApplication::exec();
+  }
 
   void Modifica() {
     finestra_.Scegli(1);
