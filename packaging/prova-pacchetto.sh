@@ -43,7 +43,15 @@ as_user() {
 }
 # window TITLE: waits for a window with that title (a pattern).
 window() {
-  as_user timeout 30 xdotool search --sync --onlyvisible --name "$1" >"$base/finestra" 2>&1 && echo there || echo "not there"
+  local waited
+  for ((waited = 0; waited < 120; waited++)); do
+    if as_user xdotool search --onlyvisible --name "$1" >"$base/finestra" 2>&1; then
+      echo there
+      return
+    fi
+    sleep 0.5
+  done
+  echo "not there"
 }
 keys() {
   as_user xdotool key --clearmodifiers --delay 60 "$@"
@@ -135,6 +143,5 @@ files >"$base/dopo"
 expect "left behind" "" "$(comm -13 "$base/prima" "$base/dopo")"
 
 kill $display
-wait || true
 echo "$passed passed, $failed failed"
 [ $failed -eq 0 ]

@@ -2,10 +2,8 @@
 
 #include <poll.h>
 #include <sys/eventfd.h>
-#include <unistd.h>
 
 #include <array>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <thread>
@@ -51,10 +49,7 @@ class Sentinella {
   }
   Sentinella(const Sentinella&) = delete;
   Sentinella& operator=(const Sentinella&) = delete;
-  ~Sentinella() {
-    constexpr std::uint64_t Uno = 1;
-    static_cast<void>(::write(basta_.Numero(), &Uno, sizeof Uno));
-  }
+  ~Sentinella() { static_cast<void>(::eventfd_write(basta_.Numero(), 1)); }
 
  private:
   void Guarda(int segnali) const {
