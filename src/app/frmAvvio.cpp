@@ -1,9 +1,12 @@
 #include "app/frmAvvio.h"
 
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/eventfd.h>
+#include <unistd.h>
 
 #include <array>
+#include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <thread>
@@ -15,8 +18,12 @@ namespace {
 
 constexpr const char* SenzaSchermo = "parvik32: nessuno schermo su cui aprire la finestra\n";
 
+/// Where standard error leads, while the libraries below the toolkit have none: they write there by
+/// themselves, in English, why they find no display. A message handler is given no data of its own.
+std::atomic<int> erroriVeri = STDERR_FILENO;
+
 [[noreturn]] void FinisciSenzaSchermo() {
-  static_cast<void>(std::fputs(SenzaSchermo, stderr));
+  static_cast<void>(::dprintf(erroriVeri, "%s", SenzaSchermo));
   std::_Exit(EXIT_FAILURE);
 }
 
@@ -26,18 +33,29 @@ constexpr const char* SenzaSchermo = "parvik32: nessuno schermo su cui aprire la
 void RiceviMessaggio(QtMsgType genere, const QMessageLogContext& contesto, const QString& testo) {
   if (genere == QtFatalMsg) FinisciSenzaSchermo();
   if (genere != QtDebugMsg) return;
-  static_cast<void>(std::fputs(qPrintable(qFormatLogMessage(genere, contesto, testo) + '\n'), stderr));
+  static_cast<void>(::dprintf(erroriVeri, "%s\n", qPrintable(qFormatLogMessage(genere, contesto, testo))));
 }
 
-/// While it lives the messages are received here.
+/// While it lives messages are received here, and what goes to standard error past them goes nowhere.
 class Ricevitore {
  public:
-  Ricevitore() : prima_(qInstallMessageHandler(RiceviMessaggio)) {}
+  Ricevitore()
+      : veri_(::fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, 0)), prima_(qInstallMessageHandler(RiceviMessaggio)) {
+    const Descrittore nulla(::open("/dev/null", O_WRONLY | O_CLOEXEC));
+    if (!veri_ || !nulla) return;
+    erroriVeri = veri_.Numero();
+    ::dup2(nulla.Numero(), STDERR_FILENO);
+  }
   Ricevitore(const Ricevitore&) = delete;
   Ricevitore& operator=(const Ricevitore&) = delete;
-  ~Ricevitore() { qInstallMessageHandler(prima_); }
+  ~Ricevitore() {
+    if (erroriVeri != STDERR_FILENO) ::dup2(veri_.Numero(), STDERR_FILENO);
+    erroriVeri = STDERR_FILENO;
+    qInstallMessageHandler(prima_);
+  }
 
  private:
+  Descrittore veri_;
   QtMessageHandler prima_;
 };
 
