@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <memory>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -25,7 +26,9 @@ constexpr int Fatti = 4;
 struct Stato {
   SmsConn Cliente = nullptr;
   IceConn Linea = nullptr;
+  bool Salva = false;   // the client was told to save itself and has not answered yet
   bool Uscita = false;  // the session is to end, if the client lets it
+  char Sospesa = 0;     // what the command wants as soon as the client has answered
   std::array<int, 2> VersoGestore = {-1, -1};
   std::array<int, 2> VersoComando = {-1, -1};
 };
@@ -38,12 +41,29 @@ void Dillo(const Stato& stato, const char* fatto) {
   static_cast<void>(dprintf(stato.VersoComando[1], "%s\n", fatto));
 }
 
+/// Tells the client to save itself; it is told nothing else until it has.
+void FaiSalvare(Stato& stato, int che, bool uscita, int domande) {
+  stato.Salva = true;
+  stato.Uscita = uscita;
+  SmsSaveYourself(stato.Cliente, che, uscita ? True : False, domande, False);
+}
+
+/// A letter from the command: u ends the session and lets the client ask, s does not let it.
+void Esegui(Stato& stato, char lettera) {
+  if (stato.Cliente == nullptr) return Dillo(stato, "nessuno");
+  if (stato.Salva) {
+    stato.Sospesa = lettera;
+    return;
+  }
+  FaiSalvare(stato, SmSaveBoth, true, lettera == 'u' ? SmInteractStyleAny : SmInteractStyleNone);
+}
+
 /// A new client is told to save itself at once, and may ask nothing.
 Status Registra(SmsConn cliente, SmPointer dati, char* /*precedente*/) {
   Di(dati).Cliente = cliente;
   const TestoC nome(SmsGenerateClientID(cliente), &std::free);
   const Status registrato = SmsRegisterClientReply(cliente, nome.get());
-  SmsSaveYourself(cliente, SmSaveLocal, False, SmInteractStyleNone, False);
+  FaiSalvare(Di(dati), SmSaveLocal, false, SmInteractStyleNone);
   return registrato;
 }
 
@@ -58,10 +78,14 @@ void HaDomandato(SmsConn /*cliente*/, SmPointer dati, Bool annulla) {
 
 void HaSalvato(SmsConn cliente, SmPointer dati, Bool riuscito) {
   Stato& stato = Di(dati);
-  if (!stato.Uscita) return SmsSaveComplete(cliente);
-  stato.Uscita = false;
-  Dillo(stato, riuscito != False ? "pronto" : "non pronto");
-  SmsShutdownCancelled(cliente);  // so that there can be another time
+  stato.Salva = false;
+  if (!stato.Uscita) {
+    SmsSaveComplete(cliente);
+  } else {
+    Dillo(stato, riuscito != False ? "pronto" : "non pronto");
+    SmsShutdownCancelled(cliente);  // so that there can be another time
+  }
+  if (stato.Sospesa != 0) Esegui(stato, std::exchange(stato.Sospesa, '\0'));
 }
 
 void Chiude(SmsConn cliente, SmPointer dati, int motivi, char** testi) {
@@ -104,14 +128,6 @@ Status NuovoCliente(SmsConn /*cliente*/, SmPointer dati, unsigned long* maschera
 
 Bool Ammetti(char* /*macchina*/) {
   return True;
-}
-
-/// A letter from the command: u ends the session and lets the client ask, s does not let it.
-void Esegui(Stato& stato, char lettera) {
-  if (stato.Cliente == nullptr) return Dillo(stato, "nessuno");
-  stato.Uscita = true;
-  SmsSaveYourself(stato.Cliente, SmSaveBoth, True, lettera == 'u' ? SmInteractStyleAny : SmInteractStyleNone,
-                  False);
 }
 
 pid_t Avvia(const Stato& stato, char** comando) {
