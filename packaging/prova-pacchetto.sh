@@ -122,7 +122,10 @@ expect "the template in the window" there "$(window '^Ordavia - G/FATT01.IMG$')"
 before=$(as_user sha256sum <"$root/home/prova/$template")
 as_user xdotool type --delay 60 Prova
 keys ctrl+s
-sleep 1
+for ((waited = 0; waited < 100; waited++)); do
+  [ "$(head -c 5 "$root/home/prova/$template")" != Prova ] || break
+  sleep 0.1
+done
 expect "edited and saved" "Prova" "$(head -c 5 "$root/home/prova/$template")"
 expect "saved over what was there" other \
   "$([ "$before" = "$(as_user sha256sum <"$root/home/prova/$template")" ] && echo same || echo other)"
