@@ -12,6 +12,7 @@
 #include "tokens/CodiceStile.h"
 #include "tokens/CodiceVariabile.h"
 #include "tokens/DescriviCodice.h"
+#include "tokens/Pezzi.h"
 #include "tokens/ValoreCampo.h"
 
 namespace parvik::fuzz {
@@ -104,15 +105,35 @@ void ProvaNumeri(std::string_view testo) {
   Esigi(ValoreCampo(formato).size() <= 2 * LunghezzaMassima + testo.size(), "a sample has a bound");
 }
 
-void ProvaPosizioni(std::string_view testo) {
-  std::size_t da = 0;
-  while (const auto codice = TrovaCodice(testo, da)) {
-    Esigi(codice->Inizio >= da && codice->Lunghezza >= 2, "codes are found in order");
-    const std::string_view trovato = testo.substr(codice->Inizio, codice->Lunghezza);
-    Esigi(trovato.find(DelimChiusura) == trovato.size() - 1, "a code ends with its first closing delimiter");
-    Esigi(ConDelimitatori(ContenutoDi(trovato)) == trovato, "a code is its content in delimiters");
-    da = codice->Inizio + codice->Lunghezza;
+void ProvaPezzo(GenerePezzo genere, std::string_view pezzo) {
+  constexpr std::string_view Delimitatori = "\xAB\xBB";
+  if (genere == GenerePezzo::Codice) {
+    Esigi(pezzo.front() == DelimApertura, "a code begins with its opening delimiter");
+    Esigi(pezzo.find(DelimChiusura) == pezzo.size() - 1, "a code ends with its first closing delimiter");
+    Esigi(ConDelimitatori(ContenutoDi(pezzo)) == pezzo, "a code is its content in delimiters");
+    return;
   }
+  const bool soloTesto = pezzo.find_first_of(Delimitatori) == std::string_view::npos;
+  const bool soloUno = pezzo.size() == 1 && !soloTesto;
+  Esigi(genere == GenerePezzo::Testo ? soloTesto : soloUno,
+        "text has no delimiter, and a stray one is alone");
+}
+
+void ProvaPezzi(std::string_view testo) {
+  std::size_t fine = 0;
+  LettorePezzi lettore(testo);
+  LettoreCorsa corsa(testo);
+  while (const auto pezzo = lettore.Prossimo()) {
+    Esigi(pezzo->Inizio == fine && pezzo->Fine > fine, "pieces leave no gap and do not overlap");
+    fine = pezzo->Fine;
+    const std::string_view byte = pezzo->In(testo);
+    ProvaPezzo(pezzo->Genere, byte);
+    if (pezzo->Genere != GenerePezzo::Codice) continue;
+    Esigi(corsa.Prossimo() && corsa.ConCodice(), "the run reads every code");
+    Esigi(corsa.Contenuto() == ContenutoDi(byte), "the run reads the same code");
+  }
+  Esigi(fine == testo.size(), "pieces cover the whole text");
+  Esigi(!corsa.Prossimo() || !corsa.ConCodice(), "the run reads no code more");
 }
 
 void Prova(std::string_view contenuto) {
@@ -128,7 +149,7 @@ void Prova(std::string_view contenuto) {
     return stile ? CostruisciStile(*stile) : std::string();
   });
   ProvaNumeri(contenuto);
-  ProvaPosizioni(contenuto);
+  ProvaPezzi(contenuto);
 }
 
 }  // namespace

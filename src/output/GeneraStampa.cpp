@@ -5,8 +5,9 @@
 #include <string>
 
 #include "common/Delimitatori.h"
+#include "common/TrovaByte.h"
 #include "output/BloccoStampa.h"
-#include "output/TrovaByte.h"
+#include "tokens/Pezzi.h"
 
 namespace parvik {
 namespace {
@@ -31,13 +32,10 @@ class Cercatore {
 /// Where the last line that a section emits ends: its CR. npos when it emits none.
 std::size_t UltimaFineRiga(std::string_view testo) {
   std::size_t ultima = std::string_view::npos;
-  for (std::size_t i = 0; i < testo.size();) {
-    const std::size_t apertura = std::min(testo.find(DelimApertura, i), testo.size());
-    const std::size_t fine = testo.substr(i, apertura - i).rfind('\r');
-    if (fine != std::string_view::npos) ultima = i + fine;
-    const std::size_t chiusura = testo.find(DelimChiusura, apertura);
-    if (chiusura == std::string_view::npos) break;
-    i = chiusura + 1;
+  for (LettoreCorsa lettore(testo); lettore.Prossimo();) {
+    const std::size_t inizio = lettore.InizioTesto();
+    const std::size_t fine = testo.substr(inizio, lettore.FineTesto() - inizio).rfind('\r');
+    if (fine != std::string_view::npos) ultima = inizio + fine;
   }
   return ultima;
 }
@@ -82,15 +80,10 @@ class Corsa {
 
   bool UnaVolta() {
     Cercatore fineRiga(testo_, '\r');
-    for (std::size_t posto = 0; posto < testo_.size();) {
-      const std::size_t apertura = TrovaByte(testo_, DelimApertura, posto);
-      if (!ScriviRighe(posto, apertura, fineRiga)) return false;
-      if (apertura == testo_.size()) break;
-      const std::size_t chiusura = TrovaByte(testo_, DelimChiusura, apertura);
-      Letti(chiusura - apertura);
-      if (chiusura == testo_.size()) break;  // swallows the rest, and is no code
-      if (!Scrivi(trovaVar_({testo_.data() + apertura + 1, chiusura - apertura - 1}))) return false;
-      posto = chiusura + 1;
+    for (LettoreCorsa lettore(testo_); lettore.Prossimo();) {
+      if (!ScriviRighe(lettore.InizioTesto(), lettore.FineTesto(), fineRiga)) return false;
+      Letti(lettore.DopoIlTesto());
+      if (lettore.ConCodice() && !Scrivi(trovaVar_(lettore.Contenuto()))) return false;
     }
     blocco_.Tronca(fineUltimaRiga_);  // a line without its end is not emitted
     return Prosegui();

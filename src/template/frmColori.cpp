@@ -9,6 +9,7 @@
 #include <cmath>
 
 #include "common/frmTesto.h"
+#include "tokens/Pezzi.h"
 
 namespace parvik {
 namespace {
@@ -102,18 +103,19 @@ QColor frmColori::Colore(TipoCodice tipo) const {
 
 void frmColori::highlightBlock(const QString& riga) {
   // A block may hold more than one line of the text: Shift+Enter does not begin a new block.
-  for (const QStringView pezzo : QStringView(riga).tokenize(QChar(QChar::LineSeparator))) {
-    ColoraPezzo(pezzo, static_cast<int>(pezzo.data() - riga.constData()));
+  for (const QStringView sola : QStringView(riga).tokenize(QChar(QChar::LineSeparator))) {
+    ColoraRiga(sola, static_cast<int>(sola.data() - riga.constData()));
   }
 }
 
-void frmColori::ColoraPezzo(QStringView pezzo, int inizio) {
-  const std::string byte = UnByteOgniUnita(pezzo);
-  for (auto codice = TrovaCodice(byte); codice;
-       codice = TrovaCodice(byte, codice->Inizio + codice->Lunghezza)) {
-    const std::string_view intero = std::string_view(byte).substr(codice->Inizio, codice->Lunghezza);
-    setFormat(inizio + static_cast<int>(codice->Inizio), static_cast<int>(codice->Lunghezza),
-              formati_[static_cast<std::size_t>(Riconosci(ContenutoDi(intero)))]);
+void frmColori::ColoraRiga(QStringView riga, int inizio) {
+  const std::string byte = UnByteOgniUnita(riga);
+  LettorePezzi lettore(byte);
+  while (const auto pezzo = lettore.Prossimo()) {
+    if (pezzo->Genere != GenerePezzo::Codice) continue;
+    const std::string_view codice = pezzo->In(byte);
+    setFormat(inizio + static_cast<int>(pezzo->Inizio), static_cast<int>(codice.size()),
+              formati_[static_cast<std::size_t>(Riconosci(ContenutoDi(codice)))]);
   }
 }
 

@@ -36,7 +36,7 @@ class frmColori final : public QSyntaxHighlighter {
   void highlightBlock(const QString& riga) override;
 
  private:
-  void ColoraPezzo(QStringView pezzo, int inizio);
+  void ColoraRiga(QStringView riga, int inizio);
 
   static constexpr std::size_t NumTipi = static_cast<std::size_t>(TipoCodice::Pagina) + 1;
 

@@ -25,14 +25,6 @@ TipoCodice Riconosci(std::string_view contenuto) {
   }
 }
 
-std::optional<PosizioneCodice> TrovaCodice(std::string_view testo, std::size_t da) {
-  const std::size_t inizio = testo.find(DelimApertura, da);
-  if (inizio == std::string_view::npos) return std::nullopt;
-  const std::size_t fine = testo.find(DelimChiusura, inizio);
-  if (fine == std::string_view::npos) return std::nullopt;
-  return PosizioneCodice{.Inizio = inizio, .Lunghezza = fine - inizio + 1};
-}
-
 std::string_view ContenutoDi(std::string_view codice) {
   return codice.substr(1, codice.size() - 2);
 }

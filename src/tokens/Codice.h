@@ -1,9 +1,9 @@
-// Codes in a text: where they stand and of which kind they are (docs/code-grammar.md). Texts are Windows-1252
-// bytes; a code's content is what stands between its two delimiters.
+// A code as a whole: of which kind it is, with its delimiters and without (docs/code-grammar.md; where codes
+// stand in a text: tokens/Pezzi.h). Texts are Windows-1252 bytes; a code's content is what stands between its
+// two delimiters.
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -22,9 +22,6 @@ struct PosizioneCodice {
 
   bool operator==(const PosizioneCodice&) const = default;
 };
-
-/// The first code that opens at or after byte `da`; nullopt when none is closed there.
-std::optional<PosizioneCodice> TrovaCodice(std::string_view testo, std::size_t da = 0);
 
 /// The content of a code with its delimiters; `codice` must have both.
 std::string_view ContenutoDi(std::string_view codice);

@@ -15,6 +15,7 @@
 #include "tokens/CodicePagina.h"
 #include "tokens/CodiceStile.h"
 #include "tokens/CodiceVariabile.h"
+#include "tokens/Pezzi.h"
 
 namespace parvik::prova {
 namespace {
@@ -104,16 +105,27 @@ Riletto Rileggi(std::string_view contenuto, std::span<const Variabile> variabili
   }
 }
 
+std::string_view NomePezzo(GenerePezzo genere) {
+  if (genere == GenerePezzo::Codice) return "code";
+  return genere == GenerePezzo::Testo ? "text" : "stray";
+}
+
 TEST(CodeGrammarPage, TellsWhereCodesStand) {
-  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "find", 4)) {
+  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "pieces", 3)) {
     const std::string testo = riga.Byte(0);
-    const auto trovato = TrovaCodice(testo, static_cast<std::size_t>(riga.Numero(1)));
-    std::optional<PosizioneCodice> atteso;
-    if (!riga.Testo(3).empty()) {
-      atteso = {.Inizio = static_cast<std::size_t>(riga.Numero(3)), .Lunghezza = riga.Byte(2).size()};
-      EXPECT_EQ(testo.substr(atteso->Inizio, atteso->Lunghezza), riga.Byte(2)) << riga.Posto();
+    std::string pezzi;
+    std::string generi;
+    LettorePezzi lettore(testo);
+    while (const auto pezzo = lettore.Prossimo()) {
+      if (!generi.empty()) {
+        pezzi += '\xA6';
+        generi += ", ";
+      }
+      pezzi += pezzo->In(testo);
+      generi += NomePezzo(pezzo->Genere);
     }
-    EXPECT_EQ(trovato, atteso) << riga.Posto();
+    EXPECT_EQ(pezzi, riga.Byte(1)) << riga.Posto();
+    EXPECT_EQ(generi, riga.Testo(2)) << riga.Posto();
   }
 }
 

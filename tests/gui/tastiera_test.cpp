@@ -7,7 +7,7 @@
 
 #include "Finestra.h"
 #include "common/frmTesto.h"
-#include "tokens/Codice.h"
+#include "tokens/Pezzi.h"
 
 namespace parvik {
 namespace {
@@ -143,13 +143,14 @@ class Tastiera : public testing::Test {
       QPlainTextEdit& editor = finestra_.Sezione(sezione);
       editor.setFocus();
       const std::string testo = DaSchermo(editor.toPlainText().replace('\n', ' '));
-      for (auto codice = TrovaCodice(testo); codice;
-           codice = TrovaCodice(testo, codice->Inizio + codice->Lunghezza)) {
+      LettorePezzi lettore(testo);
+      while (const auto pezzo = lettore.Prossimo()) {
+        if (pezzo->Genere != GenerePezzo::Codice) continue;
         NelProssimoDialogo([&aperti](QDialog& dialogo) {
           ++aperti;
           Conferma(dialogo);
         });
-        apri(editor, static_cast<int>(codice->Inizio), static_cast<int>(codice->Inizio + codice->Lunghezza));
+        apri(editor, static_cast<int>(pezzo->Inizio), static_cast<int>(pezzo->Fine));
         EXPECT_EQ(DaSchermo(editor.toPlainText().replace('\n', ' ')), testo);
       }
     }

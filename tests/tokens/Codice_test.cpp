@@ -13,13 +13,7 @@ static void PrintTo(TipoCodice tipo, std::ostream* uscita) {
   *uscita << Nomi[static_cast<std::size_t>(tipo)];
 }
 
-static void PrintTo(const PosizioneCodice& posizione, std::ostream* uscita) {
-  *uscita << posizione.Inizio << "+" << posizione.Lunghezza;
-}
-
 namespace {
-
-using Trovato = std::optional<PosizioneCodice>;
 
 struct CasoGenere {
   const char* Nome;
@@ -63,59 +57,6 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Riconosci, TakesV0SemicolonForAConstantAndNeverForAVariable) {
   EXPECT_EQ(Riconosci("V0;\"x\""), TipoCodice::Costante);
   EXPECT_EQ(Riconosci("V01;10L"), TipoCodice::Variabile);
-}
-
-TEST(TrovaCodice, FindsTheFirstCodeWithBothItsDelimiters) {
-  EXPECT_EQ(TrovaCodice("ab\xAB"
-                        "P1\xBB"
-                        "c\xAB"
-                        "P2\xBB"),
-            Trovato({.Inizio = 2, .Lunghezza = 4}));
-}
-
-TEST(TrovaCodice, StartsLookingAtTheGivenByte) {
-  const std::string_view testo =
-      "ab\xAB"
-      "P1\xBB"
-      "c\xAB"
-      "P22\xBB";
-  EXPECT_EQ(TrovaCodice(testo, 2), Trovato({.Inizio = 2, .Lunghezza = 4}));
-  EXPECT_EQ(TrovaCodice(testo, 3), Trovato({.Inizio = 7, .Lunghezza = 5}));
-  EXPECT_EQ(TrovaCodice(testo, 8), Trovato());
-  EXPECT_EQ(TrovaCodice(testo, testo.size()), Trovato());
-}
-
-TEST(TrovaCodice, FindsNothingInATextWithoutCodes) {
-  EXPECT_EQ(TrovaCodice(""), Trovato());
-  EXPECT_EQ(TrovaCodice("V12;30L"), Trovato());
-  EXPECT_EQ(TrovaCodice("\xBB"), Trovato());
-}
-
-TEST(TrovaCodice, FindsNothingWhenTheClosingDelimiterIsMissing) {
-  EXPECT_EQ(TrovaCodice("a\xAB"
-                        "P1"),
-            Trovato());
-  EXPECT_EQ(TrovaCodice("\xBB"
-                        "a\xAB"
-                        "P1"),
-            Trovato());
-}
-
-TEST(TrovaCodice, TakesTheCodeWithoutContentForACode) {
-  EXPECT_EQ(TrovaCodice("\xAB\xBB"), Trovato({.Inizio = 0, .Lunghezza = 2}));
-}
-
-TEST(TrovaCodice, RunsFromTheFirstOpeningToTheNextClosingDelimiter) {
-  EXPECT_EQ(TrovaCodice("\xAB"
-                        "P\xAB"
-                        "1\xBB\xBB"),
-            Trovato({.Inizio = 0, .Lunghezza = 5}));
-}
-
-TEST(TrovaCodice, DoesNotTakeTheDelimitersOfFilesForItsOwn) {
-  EXPECT_EQ(TrovaCodice("\xAE"
-                        "P1\xAF"),
-            Trovato());
 }
 
 TEST(ConDelimitatori, PutsTheTwoDelimitersAroundTheContent) {

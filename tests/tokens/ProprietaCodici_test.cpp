@@ -98,22 +98,6 @@ TEST(Proprieta, TwoLettersOfAnyCaseTellAStyleOrNone) {
   }));
 }
 
-TEST(Proprieta, ACodeIsFoundWhereItWasPutIntoAText) {
-  EXPECT_TRUE(rc::check([] {
-    const auto senzaDelimitatori = [](std::string testo) {
-      std::erase_if(testo, [](char c) { return c == '\xAB' || c == '\xBB'; });
-      return testo;
-    };
-    const std::string prima = senzaDelimitatori(*QualunqueTesto());
-    const std::string contenuto = senzaDelimitatori(*QualunqueTesto());
-    const std::string testo = prima + ConDelimitatori(contenuto) + *QualunqueTesto();
-    const std::optional<PosizioneCodice> trovato = TrovaCodice(testo);
-    RC_ASSERT(trovato.has_value());
-    RC_ASSERT((*trovato == PosizioneCodice{.Inizio = prima.size(), .Lunghezza = contenuto.size() + 2}));
-    RC_ASSERT(ContenutoDi(std::string_view(testo).substr(trovato->Inizio, trovato->Lunghezza)) == contenuto);
-  }));
-}
-
 /// Every reader, on a content that may be of no kind at all. What each must hold whatever it was given.
 void LeggiInTuttiIModi(const std::string& contenuto) {
   RC_ASSERT(LeggiCostante(contenuto).size() <= contenuto.size());

@@ -1,4 +1,4 @@
-#include "output/TrovaByte.h"
+#include "common/TrovaByte.h"
 
 #include <gtest/gtest.h>
 
