@@ -51,6 +51,8 @@ window() {
     fi
     sleep 0.5
   done
+  { echo "No window \"$1\" but:"; as_user xdotool search --onlyvisible --name . getwindowname %@ || true
+    cat "$base/editore.log"; } >&2
   echo "not there"
 }
 keys() {

@@ -8,6 +8,7 @@
 #include "common/Precondizione.h"
 #include "common/Windows1252.h"
 #include "template/RigheSezione.h"
+#include "template/TastiSezione.h"
 #include "tokens/DescriviCodice.h"
 
 namespace parvik {
@@ -27,7 +28,7 @@ Editore::Editore(Installazione installazione, Catalogo catalogo, Vista& vista, I
       catalogo_(std::move(catalogo)),
       vista_(vista),
       interlocutore_(interlocutore),
-      comandi_(documento_, vista, interlocutore, *this, installazione_.DirImg),
+      comandi_(documento_, interlocutore, *this, installazione_.DirImg),
       titolo_(TitoloSenzaTipo) {}
 
 void Editore::ScegliTipo(std::size_t slot) {
@@ -36,17 +37,18 @@ void Editore::ScegliTipo(std::size_t slot) {
   anteSpuntata_ = true;
   tabelle_ = {};
   ApplicaTipoDoc();
-  documento_.Modificato = false;
-  documento_.Origine.reset();
+  documento_.Stato().Modificato = false;
+  documento_.Stato().Origine.reset();
+  documento_.DimenticaPassi();
 }
 
 void Editore::ApplicaTipoDoc() {
   titolo_ = std::string(TitoloSenzaTipo) + " - " + Utf8DaAnsi(Tipo().Titolo);
-  vista_.ImpostaTesto(Sezione::Testata, FineRiga);
+  documento_.Imposta(Sezione::Testata, FineRiga);
   if (TreSezioni()) {
-    vista_.ImpostaTesto(Sezione::Corpo, FineRiga);
-    vista_.ImpostaTesto(Sezione::Piede, FineRiga);
-    documento_.Corpo = ImpostazioniPredefinite();
+    documento_.Imposta(Sezione::Corpo, FineRiga);
+    documento_.Imposta(Sezione::Piede, FineRiga);
+    documento_.Stato().Corpo = ImpostazioniPredefinite();
   }
   vista_.Aggiorna();
   CaricaFlagStampe();
@@ -100,35 +102,54 @@ void Editore::AttivaSezione(Sezione sezione) {
 
 void Editore::PreparaInserimento() {
   PARVIK_ESIGE(TipoScelto(), ConTipo);
-  vista_.AllargaSelezione(sezioneAttiva_);
+  const Cursore cursore = vista_.CursoreIn(sezioneAttiva_);
+  const TestoSezione& testo = documento_.Testo(sezioneAttiva_);
+  const EsitoTasto esito = PremiTasto(testo, cursore.Selezionato(), TastoSezione::Togli);
+  if (esito.Azione == AzioneTasto::Allarga) vista_.ImpostaCursore(sezioneAttiva_, CursoreSu(esito.Nuova));
 }
 
 void Editore::SegnaModificato() {
   PARVIK_ESIGE(TipoScelto(), ConTipo);
-  documento_.Modificato = true;
+  documento_.Stato().Modificato = true;
 }
 
-void Editore::InserisciCodice(std::string_view codice) {
+void Editore::InserisciCodici(std::span<const std::string> codici) {
   PARVIK_ESIGE(TipoScelto(), ConTipo);
-  documento_.Modificato = true;
-  vista_.InserisciCodice(sezioneAttiva_, codice);
+  const Documento::PassoUnico passo(documento_);
+  for (const std::string& codice : codici) {
+    const Cursore cursore = vista_.CursoreIn(sezioneAttiva_);
+    const Selezione scelta = cursore.Selezionato();
+    documento_.Applica(sezioneAttiva_, {.Dove = scelta.Inizio, .Tolti = scelta.Lunghezza, .Messi = codice},
+                       GenereModifica::Intera, cursore);
+  }
+}
+
+void Editore::Annulla() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  if (documento_.PuoAnnullare()) vista_.Raggiungi(documento_.Annulla());
+}
+
+void Editore::Ripeti() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  if (documento_.PuoRipetere()) vista_.Raggiungi(documento_.Ripeti());
 }
 
 std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
   PARVIK_ESIGE(InUso(sezione), ConSezione);
-  const Esito<ConteggioRighe> conteggio = ContaRigheSezione(vista_.Testo(sezione));
+  const Esito<ConteggioRighe> conteggio = ContaRigheSezione(documento_.Testo(sezione).Byte());
   if (!conteggio) {
     interlocutore_.Chiedi({.Testo = TestoErrore(conteggio.Errore())});
     return std::nullopt;
   }
-  if (conteggio->DaCompletare) vista_.CompletaUltimaRiga(sezione);
+  if (conteggio->DaCompletare) documento_.CompletaUltimaRiga(sezione);
   return conteggio->Righe;
 }
 
 void Editore::ImpostaCorpo(const ImpostazioniCorpo& corpo) {
   PARVIK_ESIGE(TreSezioni(), "the document type has three sections");
-  if (corpo != documento_.Corpo) documento_.Modificato = true;  // the file would be another one
-  documento_.Corpo = corpo;
+  if (corpo != documento_.Stato().Corpo)
+    documento_.Stato().Modificato = true;  // the file would be another one
+  documento_.Stato().Corpo = corpo;
 }
 
 std::optional<Editore::RigheMostrate> Editore::CalcolaTotali() {
@@ -138,7 +159,7 @@ std::optional<Editore::RigheMostrate> Editore::CalcolaTotali() {
   const std::optional<std::int16_t> piede = righe.UnaSezione ? std::int16_t{0} : ContaRighe(Sezione::Piede);
   if (!testata || !piede) return std::nullopt;
   righe.Testata = *testata;
-  righe.Corpo = documento_.Corpo.RigheCorpo;
+  righe.Corpo = documento_.Stato().Corpo.RigheCorpo;
   righe.Piede = *piede;
   const Esito<std::int16_t> pagina = righe.Pagina();
   if (pagina) return RigheMostrate{.Righe = righe, .Pagina = *pagina};

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <optional>
+#include <span>
 #include <stop_token>
 #include <string>
 #include <string_view>
@@ -22,24 +23,19 @@
 #include "output/TotaliRighe.h"
 #include "template/ComandiFile.h"
 #include "template/Documento.h"
-#include "template/Sezioni.h"
 
 namespace parvik {
 
 /// The main window as its commands see it.
-class Vista : public Sezioni {
+class Vista {
  public:
+  Vista() = default;
+  Vista(const Vista&) = delete;
+  Vista& operator=(const Vista&) = delete;
+  virtual ~Vista() = default;
+
   /// The editor's state has changed: caption, menus, what is visible, layout.
   virtual void Aggiorna() = 0;
-  struct InizioTesto {
-    std::string Testo;
-    bool Intero = false;  // it is the section's whole text
-  };
-  /// The first whole lines of a section's text: as many as `massimo` characters hold, but one at least.
-  virtual InizioTesto Inizio(Sezione sezione, std::size_t massimo) const = 0;
-  /// A section's whole text. For the work of Attendi, on its thread: the window hands the text over a little
-  /// at a time and stays alive. Ends early, with a part, when `smetti` was asked for.
-  virtual std::string TestoAPezzi(Sezione sezione, const std::stop_token& smetti) const = 0;
   /// Fills the preview pane anew: the caret at its start, nothing selected.
   virtual void MostraAnteprima(Anteprima anteprima) = 0;
   /// Puts the whole text in the place of its beginning, which was shown first; what the user has done in the
@@ -56,10 +52,11 @@ class Vista : public Sezioni {
   /// the message that the user sees (UTF-8) when there is nothing to print with.
   using Tipografo = std::function<void(const std::string& nomeLavoro)>;
   virtual Esito<Tipografo, std::string> ScegliStampante() = 0;
-  /// Puts a finished code (bytes, with its delimiters) in place of the section's selection.
-  virtual void InserisciCodice(Sezione sezione, std::string_view codice) = 0;
-  /// Makes the section's selection hold the whole of the codes that it cuts.
-  virtual void AllargaSelezione(Sezione sezione) = 0;
+  /// Where the caret of a section is.
+  virtual Cursore CursoreIn(Sezione sezione) const = 0;
+  virtual void ImpostaCursore(Sezione sezione, Cursore cursore) = 0;
+  /// Gives the section the focus, with the caret in sight.
+  virtual void Raggiungi(const CursoreSezione& cursore) = 0;
   /// The print flags were loaded anew, set to false or discarded.
   virtual void RicaricaFlagStampe() = 0;
 };
@@ -84,6 +81,8 @@ class Editore final : private Contorno {
   const Catalogo& Campi() const { return catalogo_; }
   const Installazione& Dove() const { return installazione_; }
   const Documento& Modello() const { return documento_; }
+  /// For those who show the sections: the user's changes go into it.
+  Documento& Modello() { return documento_; }
   FlagPerStampe& Flag() { return flag_; }
   /// The check mark of the print-flags window.
   bool SettaFlagSpuntata() const { return settaFlagSpuntata_; }
@@ -127,9 +126,14 @@ class Editore final : private Contorno {
   /// Before a dialog that builds a code is shown: what its answer will take the place of cuts no code.
   void PreparaInserimento();
 
-  /// The one routine through which every dialog inserts a finished code: at the caret of the active section,
-  /// in place of its selection. The template is modified by it, even if the code is empty.
-  void InserisciCodice(std::string_view codice);
+  /// The one routine through which every dialog inserts finished codes: at the caret of the active section,
+  /// the first in place of its selection, each next one behind it; one step to undo. The template is modified
+  /// by it, even if a code is empty.
+  void InserisciCodici(std::span<const std::string> codici);
+
+  /// Takes back, or does again, the last change of all sections; nothing where there is none.
+  void Annulla();
+  void Ripeti();
 
   /// The variables and flags that the active section offers to a dialog. Errors in the catalogue have been
   /// shown.
@@ -160,8 +164,6 @@ class Editore final : private Contorno {
   std::optional<RigheMostrate> CalcolaTotali();
   LavoroStampa LavoroSenzaTesti() const;
   LavoroStampa InizioLavoro() const;
-  /// On the thread of Vista::Attendi.
-  void PrendiTesti(LavoroStampa& lavoro, const std::stop_token& smetti) const;
   /// Both: false when the run was given up, or ran out of memory.
   bool Genera();
   bool AccendiAnteprima();

@@ -27,13 +27,27 @@ fs::path CartellaTesti(const Installazione& installazione) {
   return fs::is_directory(cartella, errore) ? cartella : installazione.DirVelkor;
 }
 
+/// The first whole lines of a text: as many as `massimo` bytes hold, but one at least.
+std::string PrimeRighe(const TestoSezione& testo, std::size_t massimo) {
+  if (testo.Dimensione() <= massimo) return testo.Byte();
+  const std::size_t riga = std::max<std::size_t>(testo.RigaDi(massimo), 1);
+  const std::size_t fine = riga < testo.Righe() ? testo.Riga(riga).Inizio : testo.Dimensione();
+  return testo.Byte({.Inizio = 0, .Lunghezza = fine});
+}
+
+/// The snapshots of a run's texts, to be laid out where it runs.
+void PrendiTesti(LavoroStampa& lavoro, const std::array<TestoSezione, MaxSezioni>& testi) {
+  for (std::size_t i = 0; i < MaxSezioni && static_cast<int>(i) < lavoro.NumSezioni; ++i)
+    lavoro.Testi[i] = testi[i].Byte();
+}
+
 }  // namespace
 
 LavoroStampa Editore::LavoroSenzaTesti() const {
   LavoroStampa lavoro;
   lavoro.NumSezioni = Tipo().NumSezioni;
-  lavoro.RigheCorpo = documento_.Corpo.RigheCorpo;
-  lavoro.LineeCorpo = documento_.Corpo.LineeCorpo;
+  lavoro.RigheCorpo = documento_.Stato().Corpo.RigheCorpo;
+  lavoro.LineeCorpo = documento_.Stato().Corpo.LineeCorpo;
   lavoro.Flag = flag_;
   return lavoro;
 }
@@ -45,22 +59,17 @@ LavoroStampa Editore::InizioLavoro() const {
   std::size_t posto = ParteImmediata;
   for (const Sezione sezione : TutteLeSezioni) {
     if (static_cast<int>(sezione) >= lavoro.NumSezioni) break;
-    Vista::InizioTesto inizio = vista_.Inizio(sezione, posto);
-    posto -= std::min(posto, inizio.Testo.size());
-    lavoro.Testi[Indice(sezione)] = std::move(inizio.Testo);
-    if (inizio.Intero) continue;
+    const TestoSezione& testo = documento_.Testo(sezione);
+    std::string inizio = PrimeRighe(testo, posto);
+    const bool intero = inizio.size() == testo.Dimensione();
+    posto -= std::min(posto, inizio.size());
+    lavoro.Testi[Indice(sezione)] = std::move(inizio);
+    if (intero) continue;
     lavoro.Interi = false;
     lavoro.NumSezioni = static_cast<std::int16_t>(Indice(sezione) + 1);
     if (sezione == Sezione::Corpo) lavoro.RigheCorpo = std::min(lavoro.RigheCorpo, lavoro.LineeCorpo);
   }
   return lavoro;
-}
-
-void Editore::PrendiTesti(LavoroStampa& lavoro, const std::stop_token& smetti) const {
-  for (const Sezione sezione : TutteLeSezioni) {
-    if (static_cast<int>(sezione) >= lavoro.NumSezioni) break;
-    lavoro.Testi[Indice(sezione)] = vista_.TestoAPezzi(sezione, smetti);
-  }
 }
 
 bool Editore::Genera() {
@@ -70,9 +79,10 @@ bool Editore::Genera() {
   if (inizio.Intera) return true;
   const bool daPrendere = !lavoro.Interi;
   if (daPrendere) lavoro = LavoroSenzaTesti();
+  const std::array testi = documento_.Testi();
   std::optional<Anteprima> intera;
   const Esito<void> atteso = vista_.Attendi([&](const std::stop_token& smetti) {
-    if (daPrendere) PrendiTesti(lavoro, smetti);
+    if (daPrendere) PrendiTesti(lavoro, testi);
     intera = GeneraAnteprima(lavoro.Dati(), smetti);
   });
   if (!atteso) interlocutore_.Chiedi({.Testo = TestoErrore(atteso.Errore())});
@@ -126,7 +136,8 @@ void Editore::StampaSuCarta() {
   }
   if (!*stampa) return;
   if (!anteSpuntata_ && !AccendiAnteprima()) return;
-  (*stampa)(documento_.NomeFile.empty() ? NomeLavoroSenzaFile : documento_.NomeFile.filename().string());
+  (*stampa)(documento_.Stato().NomeFile.empty() ? NomeLavoroSenzaFile
+                                                : documento_.Stato().NomeFile.filename().string());
 }
 
 /// An existing file is replaced without a question. Failures are silent.
@@ -138,17 +149,18 @@ void Editore::StampaTesto() {
   richiesta.Modello = "*.txt";
   if (!fileStampa_.empty()) {
     richiesta.NomeProposto = fileStampa_.string();
-  } else if (!documento_.NomeFile.empty()) {
-    richiesta.NomeProposto = documento_.NomeFile.stem().string() + EstensioneTesti;
+  } else if (!documento_.Stato().NomeFile.empty()) {
+    richiesta.NomeProposto = documento_.Stato().NomeFile.stem().string() + EstensioneTesti;
   }
   const fs::path scelto = interlocutore_.ScegliFile(richiesta);
   if (scelto.empty()) return;
   fileStampa_ = ConEstensione(scelto, EstensioneTesti);
   LavoroStampa lavoro = LavoroSenzaTesti();
+  const std::array testi = documento_.Testi();
   std::optional<Scritto> scritto;
   // The command is silent on every failure: the old file, if there was one, is whole.
   static_cast<void>(vista_.Attendi([&](const std::stop_token& smetti) {
-    PrendiTesti(lavoro, smetti);
+    PrendiTesti(lavoro, testi);
     if (!smetti.stop_requested()) scritto = StampaSuFile(fileStampa_, lavoro.Dati(), smetti);
   }));
   if (scritto) Avverti(*scritto, interlocutore_);

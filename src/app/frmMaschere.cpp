@@ -25,7 +25,7 @@ void frmMaschere::ApriMaschera(const std::string& contenuto) {
 void frmMaschere::ApriComando() {
   const std::optional<std::int16_t> linee = editore_.ContaRighe(Sezione::Corpo);
   if (!linee) return;
-  frmComando comando(editore_.Modello().Corpo, *linee, &finestra_);
+  frmComando comando(editore_.Modello().Stato().Corpo, *linee, &finestra_);
   if (comando.exec() == QDialog::Accepted) editore_.ImpostaCorpo(comando.Scelte());
 }
 
@@ -51,7 +51,7 @@ std::unique_ptr<frmCodice> frmMaschere::Crea(TipoCodice genere) {
 
 void frmMaschere::Esegui(frmCodice& maschera) {
   maschera.exec();
-  for (const std::string& codice : maschera.Codici()) editore_.InserisciCodice(codice);
+  editore_.InserisciCodici(maschera.Codici());
 }
 
 std::string frmMaschere::ChiediFlag(QWidget* padre) {

@@ -60,6 +60,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
   CreaControlli();
   CreaMenu();
   CollegaMenu();
+  CreaPassi();
   resize(EntroLoSchermo(*this, DimensioneIniziale));
   Aggiorna();
 }
@@ -89,7 +90,7 @@ void frmParvik::CreaDivisore() {
 }
 
 void frmParvik::CreaSezione(Sezione sezione) {
-  auto* editor = new txtTCP(sezione, area_);
+  auto* editor = new txtTCP(editore_.Modello(), sezione, area_);
   editor->ImpostaDescrizione(
       [this, sezione](std::string_view contenuto) { return DaUtf8(editore_.Descrivi(sezione, contenuto)); });
   sezioni_[Indice(sezione)] = editor;
@@ -103,7 +104,9 @@ void frmParvik::CollegaSezione(Sezione sezione) {
       if (editore_.InUso(sezione)) comando(dati...);
     });
   };
-  collega(&txtTCP::Modificata, [this] { editore_.SegnaModificato(); });
+  collega(&txtTCP::TastoPremuto, [this] { editore_.SegnaModificato(); });
+  collega(&txtTCP::DaAnnullare, [this] { Annulla(); });
+  collega(&txtTCP::DaRipetere, [this] { Ripeti(); });
   collega(&txtTCP::Attivata, [this](Sezione attiva) { AttivaSezione(attiva); });
   collega(&txtTCP::CodiceDaAprire, [this, sezione](const std::string& contenuto) {
     AttivaSezione(sezione);
@@ -199,27 +202,6 @@ void frmParvik::ColoraLabel(Sezione attiva) {
   for (const Sezione sezione : TutteLeSezioni) etichette_[Indice(sezione)]->Attiva(sezione == attiva);
 }
 
-std::string frmParvik::Testo(Sezione sezione) const {
-  return sezioni_[Indice(sezione)]->Ansi();
-}
-
-void frmParvik::ImpostaTesto(Sezione sezione, std::string_view testo) {
-  sezioni_[Indice(sezione)]->ImpostaAnsi(testo);
-}
-
-void frmParvik::CompletaUltimaRiga(Sezione sezione) {
-  sezioni_[Indice(sezione)]->CompletaUltimaRiga();
-}
-
-Vista::InizioTesto frmParvik::Inizio(Sezione sezione, std::size_t massimo) const {
-  const txtTCP::RigheTesto righe = sezioni_[Indice(sezione)]->Righe(0, massimo);
-  return {.Testo = DaSchermo(righe.Testo), .Intero = righe.Ultime};
-}
-
-std::string frmParvik::TestoAPezzi(Sezione sezione, const std::stop_token& smetti) const {
-  return sezioni_[Indice(sezione)]->AnsiAPezzi(smetti);
-}
-
 void frmParvik::MostraAnteprima(Anteprima anteprima) {
   anteprima_->Mostra(std::move(anteprima));
 }
@@ -253,12 +235,20 @@ Esito<Vista::Tipografo, std::string> frmParvik::ScegliStampante() {
   });
 }
 
-void frmParvik::InserisciCodice(Sezione sezione, std::string_view codice) {
-  sezioni_[Indice(sezione)]->InserisciCodice(codice);
+Cursore frmParvik::CursoreIn(Sezione sezione) const {
+  return sezioni_[Indice(sezione)]->CursoreAttuale();
 }
 
-void frmParvik::AllargaSelezione(Sezione sezione) {
-  sezioni_[Indice(sezione)]->AllargaSelezione();
+void frmParvik::ImpostaCursore(Sezione sezione, Cursore cursore) {
+  sezioni_[Indice(sezione)]->Poni(cursore);
+}
+
+void frmParvik::Raggiungi(const CursoreSezione& cursore) {
+  txtTCP& sezione = *sezioni_[Indice(cursore.Dove)];
+  sezione.Poni(cursore.Dentro);
+  sezione.setFocus(Qt::OtherFocusReason);
+  sezione.ensureCursorVisible();
+  AttivaSezione(cursore.Dove);
 }
 
 void frmParvik::closeEvent(QCloseEvent* evento) {

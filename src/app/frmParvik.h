@@ -42,19 +42,15 @@ class frmParvik final : public QMainWindow, private Vista {
 
  private:
   // What the editor's commands see of the window.
-  std::string Testo(Sezione sezione) const override;
-  void ImpostaTesto(Sezione sezione, std::string_view testo) override;
-  void CompletaUltimaRiga(Sezione sezione) override;
   void Aggiorna() override;
-  InizioTesto Inizio(Sezione sezione, std::size_t massimo) const override;
-  std::string TestoAPezzi(Sezione sezione, const std::stop_token& smetti) const override;
   void MostraAnteprima(Anteprima anteprima) override;
   void CompletaAnteprima(Anteprima anteprima) override;
   Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override;
   std::optional<Destinazione> ScegliDestinazione() override;
   Esito<Tipografo, std::string> ScegliStampante() override;
-  void InserisciCodice(Sezione sezione, std::string_view codice) override;
-  void AllargaSelezione(Sezione sezione) override;
+  Cursore CursoreIn(Sezione sezione) const override;
+  void ImpostaCursore(Sezione sezione, Cursore cursore) override;
+  void Raggiungi(const CursoreSezione& cursore) override;
   void RicaricaFlagStampe() override;
 
   void CreaControlli();
@@ -65,6 +61,10 @@ class frmParvik final : public QMainWindow, private Vista {
   void CollegaSezione(Sezione sezione);
   void CreaMenu();
   void CollegaMenu();
+  void CreaPassi();
+  void CollegaPasso(QKeySequence::StandardKey tasti, const char* nome, void (frmParvik::*comando)());
+  void Annulla();
+  void Ripeti();
   void AggiornaMenu();
   Finestra Misure() const;
   void ResizeControls();

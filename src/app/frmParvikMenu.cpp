@@ -7,6 +7,15 @@
 #include "app/frmParvik.h"
 
 namespace parvik {
+namespace {
+
+/// The keys of undo and redo on every system, beside those that it has itself.
+QList<QKeySequence> TastiSempreValidi(QKeySequence::StandardKey tasti) {
+  if (tasti == QKeySequence::Undo) return {QKeySequence(Qt::CTRL | Qt::Key_Z)};
+  return {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)};
+}
+
+}  // namespace
 
 void frmParvik::CreaMenu() {
   QMenu* menu = nullptr;
@@ -56,6 +65,36 @@ void frmParvik::CollegaMenu() {
   collega("mnuComando", [this] { maschere_.ApriComando(); });
   collega("mnuRighe", [this] { editore_.CommutaRighe(); });
   collega("mnuSettaFlag", [this] { editore_.CommutaSettaFlag(); });
+}
+
+/// Undo and redo, over all sections.
+void frmParvik::CreaPassi() {
+  CollegaPasso(QKeySequence::Undo, "mnuAnnulla", &frmParvik::Annulla);
+  CollegaPasso(QKeySequence::Redo, "mnuRipeti", &frmParvik::Ripeti);
+}
+
+void frmParvik::CollegaPasso(QKeySequence::StandardKey tasti, const char* nome,
+                             void (frmParvik::*comando)()) {
+  auto* azione = new QAction(this);
+  azione->setObjectName(nome);
+  QList<QKeySequence> tutti = QKeySequence::keyBindings(tasti);
+  for (const QKeySequence& altro : TastiSempreValidi(tasti))
+    if (!tutti.contains(altro)) tutti += altro;
+  azione->setShortcuts(tutti);
+  addAction(azione);
+  connect(azione, &QAction::triggered, this, comando);
+}
+
+void frmParvik::Annulla() {
+  if (!editore_.TipoScelto()) return;
+  for (txtTCP* sezione : sezioni_) sezione->FinisciComposizione();
+  editore_.Annulla();
+}
+
+void frmParvik::Ripeti() {
+  if (!editore_.TipoScelto()) return;
+  for (txtTCP* sezione : sezioni_) sezione->FinisciComposizione();
+  editore_.Ripeti();
 }
 
 void frmParvik::AggiornaMenu() {

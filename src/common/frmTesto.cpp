@@ -94,6 +94,10 @@ std::string DaSchermo(const QString& testo) {
   return ansi;
 }
 
+std::string DaAltrove(const QString& testo) {
+  return DaSchermo(QString(testo).replace("\r\n", "\n").replace('\r', '\n'));
+}
+
 QString SoloAnsi(const QString& testo) {
   return PerSchermo(DaSchermo(testo));
 }

@@ -16,6 +16,10 @@ QString PerSchermo(std::string_view ansi);
 /// line ends too. What has no Windows-1252 value becomes "?", one for each character.
 std::string DaSchermo(const QString& testo);
 
+/// The same for a text from elsewhere (the clipboard, another program), in which a CR ends a line too, alone
+/// or with its line feed.
+std::string DaAltrove(const QString& testo);
+
 /// What of `testo` can stand in a template: every other character is "?".
 QString SoloAnsi(const QString& testo);
 

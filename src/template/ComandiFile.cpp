@@ -76,13 +76,9 @@ RichiestaFile RichiestaModello(RichiestaFile::Scopo uso, const TipoDoc& tipo, co
 
 }  // namespace
 
-ComandiFile::ComandiFile(Documento& documento, Sezioni& sezioni, Interlocutore& interlocutore,
-                         Contorno& contorno, fs::path dirImg)
-    : documento_(documento),
-      sezioni_(sezioni),
-      interlocutore_(interlocutore),
-      contorno_(contorno),
-      dirImg_(std::move(dirImg)) {}
+ComandiFile::ComandiFile(Documento& documento, Interlocutore& interlocutore, Contorno& contorno,
+                         fs::path dirImg)
+    : documento_(documento), interlocutore_(interlocutore), contorno_(contorno), dirImg_(std::move(dirImg)) {}
 
 Risposta ComandiFile::ChiediSeSalvare() {
   return interlocutore_.Chiedi({.Testo = "Il file è stato modificato, vuoi salvare?",
@@ -96,17 +92,18 @@ Risposta ComandiFile::ChiediSeSalvare() {
 bool ComandiFile::Prosegui(Risposta risposta, const TipoDoc& tipo) {
   if (risposta != Risposta::Si) return risposta == Risposta::No;
   Salva(tipo);
-  return !documento_.Modificato || (documento_.NomeFile.empty() && !VerificaStampa(tipo));
+  return !documento_.Stato().Modificato || (documento_.Stato().NomeFile.empty() && !VerificaStampa(tipo));
 }
 
 bool ComandiFile::ProseguiDopoDomanda(const TipoDoc& tipo) {
-  return !documento_.Modificato || Prosegui(ChiediSeSalvare(), tipo);
+  return !documento_.Stato().Modificato || Prosegui(ChiediSeSalvare(), tipo);
 }
 
 void ComandiFile::Nuovo(const TipoDoc& tipo) {
-  if (documento_.Modificato && ChiediSeSalvare() == Risposta::Si) Salva(tipo);
-  documento_.Modificato = false;
-  documento_.Origine.reset();
+  if (documento_.Stato().Modificato && ChiediSeSalvare() == Risposta::Si) Salva(tipo);
+  documento_.Stato().Modificato = false;
+  documento_.Stato().Origine.reset();
+  documento_.DimenticaPassi();
   contorno_.TornaSenzaTipo();
 }
 
@@ -120,7 +117,7 @@ void ComandiFile::Apri(const TipoDoc& tipo) {
     interlocutore_.Chiedi({.Testo = TestoErrore(NumeroErrore::MemoriaEsaurita)});
     return;
   }
-  documento_.NomeFile = file;
+  documento_.Stato().NomeFile = file;
   if (scelto.empty()) return;
   // The command is silent on every failure: what could be read is shown.
   static_cast<void>(ApriScelto(tipo));
@@ -128,9 +125,10 @@ void ComandiFile::Apri(const TipoDoc& tipo) {
 
 Esito<void> ComandiFile::ApriScelto(const TipoDoc& tipo) {
   contorno_.SpegniAnteprima();
-  if (!sezioni_.Testo(Sezione::Testata).empty()) contorno_.AzzeraFlagStampe();
-  documento_.Modificato = false;
-  return Leggi(tipo);
+  if (documento_.Testo(Sezione::Testata).Dimensione() > 0) contorno_.AzzeraFlagStampe();
+  documento_.Stato().Modificato = false;
+  documento_.DimenticaPassi();
+  return Leggi(tipo, &Documento::Imposta);
 }
 
 void ComandiFile::SegnalaConNome(NumeroErrore errore, const fs::path& file) {
@@ -148,16 +146,16 @@ void ComandiFile::ApriDaFuori(const TipoDoc& tipo, const fs::path& nome) {
   const std::optional<fs::path> file = TrovaDaFuori(nome);
   if (!file || !ProseguiDopoDomanda(tipo)) return;
   if (TroppoGrande(*file)) return SegnalaConNome(NumeroErrore::MemoriaEsaurita, *file);
-  documento_.NomeFile = *file;
+  documento_.Stato().NomeFile = *file;
   if (const Esito<void> letto = ApriScelto(tipo); !letto) SegnalaConNome(letto.Errore(), *file);
 }
 
 void ComandiFile::Salva(const TipoDoc& tipo) {
-  if (documento_.NomeFile.empty()) {
+  if (documento_.Stato().NomeFile.empty()) {
     if (VerificaStampa(tipo)) SalvaConNome(tipo);
     return;
   }
-  const EsitoScrittura scritto = Scrivi(documento_.NomeFile, tipo);
+  const EsitoScrittura scritto = Scrivi(documento_.Stato().NomeFile, tipo);
   if (scritto) {
     Avverti(*scritto, interlocutore_);
   } else {
@@ -172,17 +170,23 @@ void ComandiFile::SalvaConNome(const TipoDoc& tipo) {
   const fs::path scelto = interlocutore_.ScegliFile(richiesta);
   if (scelto.empty()) return;
   const fs::path percorso = FileDaSalvare(scelto);
-  const EsitoScrittura scritto = Scrivi(percorso, tipo);
-  if (!scritto) return;  // silent; the template stays modified
-  documento_.NomeFile = percorso;
-  // The sections show what the file holds. It was written just now: a failure to read it back loses nothing.
-  static_cast<void>(Leggi(tipo));
-  Avverti(*scritto, interlocutore_);
+  const EsitoScrittura scritto = ScriviERileggi(percorso, tipo);
+  if (scritto) Avverti(*scritto, interlocutore_);  // else silent; the template stays modified
+}
+
+/// The sections show what the file holds. It was written just now: a failure to read it back loses nothing.
+EsitoScrittura ComandiFile::ScriviERileggi(const fs::path& percorso, const TipoDoc& tipo) {
+  const Documento::PassoUnico passo(documento_);
+  EsitoScrittura scritto = Scrivi(percorso, tipo);
+  if (!scritto) return scritto;
+  documento_.Stato().NomeFile = percorso;
+  static_cast<void>(Leggi(tipo, &Documento::Rileggi));
+  return scritto;
 }
 
 bool ComandiFile::PuoChiudere(const TipoDoc& tipo) {
   if (chiedeDiChiudere_) return false;
-  if (!documento_.Modificato) return true;
+  if (!documento_.Stato().Modificato) return true;
   chiedeDiChiudere_ = true;
   const Risposta risposta = ChiediSeSalvare();
   chiedeDiChiudere_ = false;  // what the answer asks for may take long, and be interrupted in its turn
@@ -190,7 +194,7 @@ bool ComandiFile::PuoChiudere(const TipoDoc& tipo) {
 }
 
 bool ComandiFile::VerificaStampa(const TipoDoc& tipo) const {
-  const auto vuota = [this](Sezione sezione) { return sezioni_.Testo(sezione) == FineRiga; };
+  const auto vuota = [this](Sezione sezione) { return documento_.Testo(sezione).Vale(FineRiga); };
   if (tipo.NumSezioni == 1) return !vuota(Sezione::Testata);
   return !std::ranges::all_of(TutteLeSezioni, vuota);
 }
@@ -202,7 +206,7 @@ EsitoPasso ComandiFile::ConservaAltrui(const fs::path& percorso, std::string_vie
   if (!fs::is_regular_file(percorso, errore)) return {};  // nothing that could be kept
   const Esito<std::string> attuali = LeggiFile(percorso);
   if (!attuali) return ErroreScrittura{attuali.Errore()};
-  const std::optional<Provenienza>& origine = documento_.Origine;
+  const std::optional<Provenienza>& origine = documento_.Stato().Origine;
   const bool suoi = origine && origine->File == percorso && origine->Byte == *attuali;
   if (suoi || *attuali == nuovi) return {};
   return ConservaPrecedente(percorso, *attuali);
@@ -219,33 +223,35 @@ EsitoScrittura ComandiFile::Sostituisci(const fs::path& percorso, std::string_vi
 
 EsitoScrittura ComandiFile::Scrivi(const fs::path& percorso, const TipoDoc& tipo) {
   TestiSezioni testi;
-  for (const Sezione sezione : TutteLeSezioni) testi[Indice(sezione)] = sezioni_.Testo(sezione);
+  for (const Sezione sezione : TutteLeSezioni) testi[Indice(sezione)] = documento_.Testo(sezione).Byte();
   const std::size_t corpoPrima = testi[Indice(Sezione::Corpo)].size();
-  documento_.Modificato = true;  // until the file is on the disk
-  Esito<std::string> immagine = ScriviImmagine(testi, documento_.Corpo, FormatoDi(tipo.NumSezioni));
+  documento_.Stato().Modificato = true;  // until the file is on the disk
+  Esito<std::string> immagine = ScriviImmagine(testi, documento_.Stato().Corpo, FormatoDi(tipo.NumSezioni));
   if (!immagine) return ErroreScrittura{immagine.Errore()};
-  if (testi[Indice(Sezione::Corpo)].size() != corpoPrima) sezioni_.CompletaUltimaRiga(Sezione::Corpo);
+  if (testi[Indice(Sezione::Corpo)].size() != corpoPrima) documento_.CompletaUltimaRiga(Sezione::Corpo);
   EsitoScrittura scritto = Sostituisci(percorso, *immagine);
   // A save may fail when the new bytes stand there already, but are not known to be safe.
   if (scritto || Contiene(percorso, *immagine))
-    documento_.Origine = {.File = percorso, .Byte = std::move(*immagine)};
-  if (scritto) documento_.Modificato = false;
+    documento_.Stato().Origine = {.File = percorso, .Byte = std::move(*immagine)};
+  if (scritto) documento_.Stato().Modificato = false;
   return scritto;
 }
 
-Esito<void> ComandiFile::Leggi(const TipoDoc& tipo) {
-  contorno_.ImpostaTitolo("Ordavia - " + UltimiCaratteri(documento_.NomeFile.string(), CaratteriTitolo));
-  documento_.Origine.reset();
-  Esito<std::string> byte = LeggiFile(documento_.NomeFile);
+Esito<void> ComandiFile::Leggi(const TipoDoc& tipo, void (Documento::*imposta)(Sezione, std::string_view)) {
+  contorno_.ImpostaTitolo("Ordavia - " +
+                          UltimiCaratteri(documento_.Stato().NomeFile.string(), CaratteriTitolo));
+  documento_.Stato().Origine.reset();
+  Esito<std::string> byte = LeggiFile(documento_.Stato().NomeFile);
   if (!byte) return byte.Errore();
   const Formato formato = FormatoDi(tipo.NumSezioni);
-  const ImmagineLetta letta = LeggiImmagine(*byte, formato, documento_.Corpo);
-  documento_.Corpo = letta.Corpo;
+  const ImmagineLetta letta = LeggiImmagine(*byte, formato, documento_.Stato().Corpo);
+  documento_.Stato().Corpo = letta.Corpo;
   for (const Sezione sezione : TutteLeSezioni) {
     if (formato == Formato::UnaSezione && sezione != Sezione::Testata) continue;
-    sezioni_.ImpostaTesto(sezione, letta.Testi[Indice(sezione)]);
+    (documento_.*imposta)(sezione, letta.Testi[Indice(sezione)]);
   }
-  if (!letta.TestoNonLetto) documento_.Origine = {.File = documento_.NomeFile, .Byte = std::move(*byte)};
+  if (!letta.TestoNonLetto)
+    documento_.Stato().Origine = {.File = documento_.Stato().NomeFile, .Byte = std::move(*byte)};
   if (letta.Errore) return *letta.Errore;
   return {};
 }

@@ -11,7 +11,6 @@
 #include "common/EsitoScrittura.h"
 #include "common/Interlocutore.h"
 #include "template/Documento.h"
-#include "template/Sezioni.h"
 
 namespace parvik {
 
@@ -35,15 +34,16 @@ class Contorno {
 /// The collaborators must outlive the commands. `tipo` is always the current document type.
 class ComandiFile {
  public:
-  ComandiFile(Documento& documento, Sezioni& sezioni, Interlocutore& interlocutore, Contorno& contorno,
+  ComandiFile(Documento& documento, Interlocutore& interlocutore, Contorno& contorno,
               std::filesystem::path dirImg);
 
   /// New: asks whether to save a modified template, and goes on whatever the answer is. Texts and file name
-  /// stay, but the document no longer comes from that file.
+  /// stay, but the document no longer comes from that file, and nothing can be undone.
   void Nuovo(const TipoDoc& tipo);
 
-  /// Open. Every failure is silent; the file name is then the chosen one already. Only a file of more than
-  /// 128 MiB is refused with a message (MemoriaEsaurita), and nothing but the answered question has happened.
+  /// Open: nothing can be undone after it. Every failure is silent; the file name is then the chosen one
+  /// already. Only a file of more than 128 MiB is refused with a message (MemoriaEsaurita), and nothing but
+  /// the answered question has happened.
   void Apri(const TipoDoc& tipo);
 
   /// What a person named outside the command: on the command line, or dropped on the window. As Open with
@@ -61,8 +61,8 @@ class ComandiFile {
   /// fails it is not replaced.
   void Salva(const TipoDoc& tipo);
 
-  /// Save As: writes, takes the name and reads the file back. A file that it replaces is kept as Save keeps
-  /// it. Every failure is silent, but a warning is not.
+  /// Save As: writes, takes the name and reads the file back: one step to undo, where that changes a text. A
+  /// file that it replaces is kept as Save keeps it. Every failure is silent, but a warning is not.
   void SalvaConNome(const TipoDoc& tipo);
 
   /// Whether the window may close: asks when the template is modified. False when the question was cancelled,
@@ -82,10 +82,11 @@ class ComandiFile {
   EsitoPasso ConservaAltrui(const std::filesystem::path& percorso, std::string_view nuovi) const;
   EsitoScrittura Sostituisci(const std::filesystem::path& percorso, std::string_view nuovi) const;
   EsitoScrittura Scrivi(const std::filesystem::path& percorso, const TipoDoc& tipo);
-  Esito<void> Leggi(const TipoDoc& tipo);
+  EsitoScrittura ScriviERileggi(const std::filesystem::path& percorso, const TipoDoc& tipo);
+  /// Reads the document's file. `imposta` puts a section's text where it belongs.
+  Esito<void> Leggi(const TipoDoc& tipo, void (Documento::*imposta)(Sezione, std::string_view));
 
   Documento& documento_;
-  Sezioni& sezioni_;
   Interlocutore& interlocutore_;
   Contorno& contorno_;
   std::filesystem::path dirImg_;

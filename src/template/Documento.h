@@ -1,11 +1,19 @@
-// The state of the template being edited, next to the texts of its sections.
+// The template being edited: its sections' texts, its settings, where it comes from, and what was done to it
+// (docs/document.md).
 #pragma once
 
+#include <array>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include "common/Sezione.h"
 #include "template/ImmagineModello.h"
+#include "template/RegistroModifiche.h"
+#include "template/TestoSezione.h"
 
 namespace parvik {
 
@@ -15,12 +23,124 @@ struct Provenienza {
   std::string Byte;  // all of them: no digest could mistake another file for this one
 };
 
-struct Documento {
+/// What a document is besides its texts.
+struct StatoModello {
   std::filesystem::path NomeFile;  // empty while none was opened or saved
   bool Modificato = false;         // since the last open, save or choice of a document type
   ImpostazioniCorpo Corpo;
   /// nullopt while the document comes from no file: a new one, or one that could not be read whole.
   std::optional<Provenienza> Origine;
+};
+
+/// A change that was made.
+struct CambiamentoTesto {
+  Sezione Dove;
+  const TestoSezione& Prima;  // the text before it
+  const Modifica& Fatta;
+  bool DelProgramma;  // nobody's: a caret where it was made stays in front of it
+};
+
+/// Who shows a document's texts, or keeps something that follows from them. Told when the text has changed
+/// already. What it hears of it may not change.
+class AscoltatoreDocumento {
+ public:
+  AscoltatoreDocumento() = default;
+  AscoltatoreDocumento(const AscoltatoreDocumento&) = delete;
+  AscoltatoreDocumento& operator=(const AscoltatoreDocumento&) = delete;
+  virtual ~AscoltatoreDocumento() = default;
+
+  virtual void Modificata(const CambiamentoTesto& cambiamento) = 0;
+  /// The whole text is another one.
+  virtual void Sostituita(Sezione sezione) = 0;
+};
+
+/// A caret in one of the sections.
+struct CursoreSezione {
+  Sezione Dove = Sezione::Testata;
+  Cursore Dentro;
+
+  bool operator==(const CursoreSezione&) const = default;
+};
+
+class Documento {
+ public:
+  Documento() = default;
+  Documento(const Documento&) = delete;
+  Documento& operator=(const Documento&) = delete;
+  ~Documento() = default;
+
+  StatoModello& Stato() { return stato_; }
+  const StatoModello& Stato() const { return stato_; }
+
+  /// A copy of it is a snapshot.
+  const TestoSezione& Testo(Sezione sezione) const { return testi_[Indice(sezione)]; }
+  const std::array<TestoSezione, MaxSezioni>& Testi() const { return testi_; }
+
+  // --- the user's changes: each of them makes the document modified, and can be undone
+
+  /// `prima` is the caret before the change, where undoing puts it back.
+  void Applica(Sezione sezione, const Modifica& modifica, GenereModifica genere, Cursore prima);
+  /// What comes next does not go on with what was typed so far: the caret has moved.
+  void InterrompiBattitura() { registro_.Interrompi(); }
+
+  /// As long as it lives, all changes are one step.
+  class PassoUnico {
+   public:
+    explicit PassoUnico(Documento& documento) : registro_(documento.registro_) { registro_.Apri(); }
+    PassoUnico(const PassoUnico&) = delete;
+    PassoUnico& operator=(const PassoUnico&) = delete;
+    ~PassoUnico() { registro_.Chiudi(); }
+
+   private:
+    RegistroModifiche& registro_;
+  };
+
+  bool PuoAnnullare() const { return registro_.PuoAnnullare(); }
+  bool PuoRipetere() const { return registro_.PuoRipetere(); }
+  /// Both: one step, the last of all sections; where the caret belongs now. There must be a step.
+  CursoreSezione Annulla();
+  CursoreSezione Ripeti();
+
+  // --- the program's changes: modified or not, the document stays as it is
+
+  /// Another text, and no step leads back from it: what can be undone has to be forgotten, too.
+  void Imposta(Sezione sezione, std::string_view byte);
+  void DimenticaPassi() { registro_.Dimentica(); }
+  /// The text as it was read back from the file that it was saved to: a step, where it is another one.
+  void Rileggi(Sezione sezione, std::string_view byte);
+  /// Ends the last line: a step.
+  void CompletaUltimaRiga(Sezione sezione);
+
+  // --- who listens
+
+  /// A listener is told as long as this lives.
+  class Ascolto {
+   public:
+    Ascolto() = default;
+    Ascolto(Ascolto&&) = default;
+    Ascolto& operator=(Ascolto&&) = default;
+    Ascolto(const Ascolto&) = delete;
+    Ascolto& operator=(const Ascolto&) = delete;
+    ~Ascolto() = default;
+
+   private:
+    friend class Documento;
+    std::shared_ptr<AscoltatoreDocumento*> chi_;
+  };
+  [[nodiscard]] Ascolto Ascolta(AscoltatoreDocumento& chi);
+
+ private:
+  enum class Autore { Utente, Programma };
+
+  void Cambia(Sezione sezione, const Modifica& modifica, Autore autore);
+  void Annota(Sezione sezione, const Modifica& modifica, GenereModifica genere, Cursore prima, Autore autore);
+  template <class Azione>
+  void Avvisa(Azione azione);
+
+  std::array<TestoSezione, MaxSezioni> testi_;
+  StatoModello stato_;
+  RegistroModifiche registro_;
+  std::vector<std::weak_ptr<AscoltatoreDocumento*>> ascoltatori_;
 };
 
 }  // namespace parvik

@@ -1,8 +1,10 @@
 #include "template/ParoleSezione.h"
 
 #include <optional>
+#include <string_view>
 
 #include "common/Delimitatori.h"
+#include "template/TastiSezione.h"
 
 namespace parvik {
 namespace {
@@ -20,7 +22,7 @@ constexpr bool LetteraEstesa(unsigned char byte) {
 
 constexpr Classe ClasseDi(char c) {
   constexpr char SpazioUnito = '\xA0';
-  if (c == '\n') return Classe::FineRiga;
+  if (c == FineRiga.front()) return Classe::FineRiga;
   if (c == ' ' || c == '\t' || c == SpazioUnito) return Classe::Spazio;
   const bool ascii = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
   return ascii || LetteraEstesa(static_cast<unsigned char>(c)) ? Classe::Lettera : Classe::Altro;
@@ -30,56 +32,59 @@ constexpr bool Delimitatore(char c) {
   return c == DelimApertura || c == DelimChiusura;
 }
 
-/// Whether `posizione` continues the word of the character in front of it. Nothing goes on over a delimiter:
+/// Whether a place is the start of a line.
+bool IniziaRiga(const TestoSezione& testo, std::size_t posto) {
+  return posto == 0 ||
+         (posto > 1 && testo[posto - 1] == FineRiga.back() && testo[posto - 2] == FineRiga.front());
+}
+
+bool FinisceRiga(const TestoSezione& testo, std::size_t posto) {
+  return posto >= testo.Dimensione() || ClasseDi(testo[posto]) == Classe::FineRiga;
+}
+
+/// Whether `posto` continues the word of the character in front of it. Nothing goes on over a delimiter:
 /// outside of codes that keeps outside, and a delimiter without its partner is a word.
-bool Continua(std::string_view testo, std::size_t posizione) {
-  if (posizione == 0 || posizione >= testo.size()) return false;
-  const char prima = testo[posizione - 1];
-  const char dopo = testo[posizione];
+bool Continua(const TestoSezione& testo, std::size_t posto) {
+  if (posto >= testo.Dimensione() || IniziaRiga(testo, posto)) return false;
+  const char prima = testo[posto - 1];
+  const char dopo = testo[posto];
   if (Delimitatore(prima) || Delimitatore(dopo)) return false;
   return ClasseDi(dopo) != Classe::FineRiga && ClasseDi(dopo) == ClasseDi(prima);
 }
 
-std::size_t SaltaSpazi(std::string_view testo, std::size_t da) {
-  while (da < testo.size() && ClasseDi(testo[da]) == Classe::Spazio) ++da;
+std::size_t SaltaSpazi(const TestoSezione& testo, std::size_t da) {
+  while (da < testo.Dimensione() && ClasseDi(testo[da]) == Classe::Spazio) ++da;
   return da;
-}
-
-std::size_t Fine(const PosizioneCodice& codice) {
-  return codice.Inizio + codice.Lunghezza;
 }
 
 }  // namespace
 
-std::size_t ParolaSeguente(std::string_view testo, std::size_t cursore) {
-  if (cursore >= testo.size()) return testo.size();
-  if (const auto codice = CodiceSotto(testo, cursore)) return SaltaSpazi(testo, Fine(*codice));
-  if (ClasseDi(testo[cursore]) == Classe::FineRiga) return cursore + 1;
+std::size_t ParolaSeguente(const TestoSezione& testo, std::size_t cursore) {
+  if (cursore >= testo.Dimensione()) return testo.Dimensione();
+  if (const auto codice = CodiceSotto(testo, cursore)) return SaltaSpazi(testo, codice->Fine());
+  if (FinisceRiga(testo, cursore)) return cursore + FineRiga.size();
   do ++cursore;
   while (Continua(testo, cursore));
   return SaltaSpazi(testo, cursore);
 }
 
-std::size_t ParolaPrecedente(std::string_view testo, std::size_t cursore) {
+std::size_t ParolaPrecedente(const TestoSezione& testo, std::size_t cursore) {
   if (const auto codice = CodiceIntorno(testo, cursore)) return codice->Inizio;
   const std::size_t partenza = cursore;
-  while (cursore > 0 && ClasseDi(testo[cursore - 1]) == Classe::Spazio) --cursore;
+  while (!IniziaRiga(testo, cursore) && ClasseDi(testo[cursore - 1]) == Classe::Spazio) --cursore;
   if (cursore == 0) return 0;
-  if (ClasseDi(testo[cursore - 1]) == Classe::FineRiga) return cursore == partenza ? cursore - 1 : cursore;
+  if (IniziaRiga(testo, cursore)) return cursore == partenza ? cursore - FineRiga.size() : cursore;
   if (const auto codice = CodiceSotto(testo, cursore - 1)) return codice->Inizio;
   do --cursore;
   while (Continua(testo, cursore));
   return cursore;
 }
 
-Selezione ParolaSotto(std::string_view testo, std::size_t posizione) {
-  if (const auto codice = CodiceSotto(testo, posizione))
-    return {.Inizio = codice->Inizio, .Lunghezza = codice->Lunghezza};
-  const bool fineRiga = posizione >= testo.size() || ClasseDi(testo[posizione]) == Classe::FineRiga;
-  std::size_t inizio = posizione;
-  if (fineRiga) {
-    const bool vuota = posizione == 0 || ClasseDi(testo[posizione - 1]) == Classe::FineRiga;
-    if (vuota || CodiceSotto(testo, posizione - 1)) return {.Inizio = posizione, .Lunghezza = 0};
+Selezione ParolaSotto(const TestoSezione& testo, std::size_t posto) {
+  if (const auto codice = CodiceSotto(testo, posto)) return *codice;
+  std::size_t inizio = posto;
+  if (FinisceRiga(testo, posto)) {
+    if (IniziaRiga(testo, posto) || CodiceSotto(testo, posto - 1)) return {.Inizio = posto, .Lunghezza = 0};
     --inizio;
   }
   std::size_t fine = inizio + 1;

@@ -3,25 +3,20 @@
 #pragma once
 
 #include <cstddef>
-#include <string_view>
 
-#include "template/TastiSezione.h"
+#include "template/TestoSezione.h"
 
 namespace parvik {
 
-// Positions are 0-based bytes, lines end with a line feed. The caller may give any part of a section that
-// holds the whole lines of the caret, and reaches over a delimiter in front of them and a closing delimiter
-// behind them.
-
 /// Where the caret goes by a word: behind the word that it stands in or in front of, and the blanks behind
 /// that; from the end of a line to the start of the next.
-std::size_t ParolaSeguente(std::string_view testo, std::size_t cursore);
+std::size_t ParolaSeguente(const TestoSezione& testo, std::size_t cursore);
 
 /// The way back: in front of the nearest word; from the start of a line to the end of the one before.
-std::size_t ParolaPrecedente(std::string_view testo, std::size_t cursore);
+std::size_t ParolaPrecedente(const TestoSezione& testo, std::size_t cursore);
 
-/// The word of the character at `posizione`. At the end of a line the one in front of it, but a code: then
-/// nothing, at `posizione`.
-Selezione ParolaSotto(std::string_view testo, std::size_t posizione);
+/// The word of the character at `posto`. At the end of a line the one in front of it, but a code: then
+/// nothing, at `posto`.
+Selezione ParolaSotto(const TestoSezione& testo, std::size_t posto);
 
 }  // namespace parvik

@@ -4,10 +4,10 @@
 
 #include <cstddef>
 #include <optional>
-#include <string_view>
 #include <vector>
 
-#include "tokens/Codice.h"
+#include "template/Modifica.h"
+#include "template/TestoSezione.h"
 
 namespace parvik {
 
@@ -20,15 +20,6 @@ enum class Pressione {
   Prima,      // a finger
   Ripetuta,   // the keyboard, while the key is held: opens no dialog, and takes no selection away
   Assistita,  // a program on somebody's behalf: opens no dialog
-};
-
-/// 0-based bytes. Without a selection `Lunghezza` is 0, and `Inizio` is the caret.
-struct Selezione {
-  std::size_t Inizio = 0;
-  std::size_t Lunghezza = 0;
-
-  std::size_t Fine() const { return Inizio + Lunghezza; }
-  bool operator==(const Selezione&) const = default;
 };
 
 enum class AzioneTasto {
@@ -46,10 +37,9 @@ struct EsitoTasto {
   bool operator==(const EsitoTasto&) const = default;
 };
 
-/// What `tasto` does in `testo`. Line ends need no particular form. The caller may give any part of a section
-/// that reaches over a delimiter in front of the last character before the selection, and over a closing
-/// delimiter behind the selection: nothing further away matters.
-EsitoTasto PremiTasto(std::string_view testo, Selezione selezione, TastoSezione tasto,
+/// What `tasto` does where `selezione` is selected. Without a selection `Lunghezza` is 0, and `Inizio` is the
+/// caret.
+EsitoTasto PremiTasto(const TestoSezione& testo, Selezione selezione, TastoSezione tasto,
                       Pressione pressione = Pressione::Prima);
 
 /// Whether a typed character is discarded: a full stop comes into a section only by pasting or in a code.
@@ -57,18 +47,24 @@ constexpr bool CarattereScartato(char32_t carattere) {
   return carattere == U'.';
 }
 
+// How the keys look a code up (docs/key-rules.md): by the delimiters nearest to the caret. It is the code
+// that everybody else finds there, unless a « lies inside it: then the keys see the last one.
+
 /// The code that the caret stands in: behind its opening delimiter, and before or in front of its closing
 /// one.
-std::optional<PosizioneCodice> CodiceIntorno(std::string_view testo, std::size_t cursore);
+std::optional<Selezione> CodiceIntorno(const TestoSezione& testo, std::size_t cursore);
 
 /// The codes that the caret touches, in their order: the one that it stands in, or those right in front of it
 /// and right behind it.
-std::vector<PosizioneCodice> CodiciAlCursore(std::string_view testo, std::size_t cursore);
+std::vector<Selezione> CodiciAlCursore(const TestoSezione& testo, std::size_t cursore);
 
 /// The nearest place from `cursore` on that lies in no code: what comes by the mouse goes there.
-std::size_t FuoriDaiCodici(std::string_view testo, std::size_t cursore);
+std::size_t FuoriDaiCodici(const TestoSezione& testo, std::size_t cursore);
 
-/// The code that covers the character at byte `posizione`, its delimiters included.
-std::optional<PosizioneCodice> CodiceSotto(std::string_view testo, std::size_t posizione);
+/// The code that covers the byte at `posto`, its delimiters included.
+std::optional<Selezione> CodiceSotto(const TestoSezione& testo, std::size_t posto);
+
+/// The selection with the whole of the codes that its two ends stand in.
+Selezione ConCodiciInteri(const TestoSezione& testo, Selezione selezione);
 
 }  // namespace parvik

@@ -3,13 +3,13 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <QSignalBlocker>
-#include <QStringTokenizer>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <algorithm>
 #include <cmath>
 
+#include "common/Delimitatori.h"
 #include "common/frmTesto.h"
-#include "tokens/Pezzi.h"
 
 namespace parvik {
 namespace {
@@ -66,18 +66,31 @@ QRgb Leggibile(QRgb tinta, QRgb estremo, QRgb base, QRgb fondo) {
   return colore;
 }
 
-/// One byte for each UTF-16 unit, so that a position is the same in both. `riga` holds no line end.
-std::string UnByteOgniUnita(QStringView riga) {
-  QString intera = riga.toString();
-  std::ranges::replace_if(
-      intera, [](QChar c) { return c.isSurrogate(); }, u'?');
-  return DaSchermo(intera);
+/// What the toolkit keeps with a line: whether a code is open at its end, and of which kind.
+constexpr int NessunoAperto = 0;
+
+int StatoDi(TipoCodice tipo) {
+  return static_cast<int>(tipo) + 1;
+}
+
+/// One byte for each character of a line.
+std::string Byte(const QString& riga) {
+  std::string byte = DaSchermo(riga);
+  byte.resize(static_cast<std::size_t>(riga.size()), ' ');  // places stay, whatever was in it
+  return byte;
 }
 
 }  // namespace
 
-frmColori::frmColori(QTextDocument* documento) : QSyntaxHighlighter(documento) {
+frmColori::frmColori(QTextDocument* documento, const txtSpecchio& specchio)
+    : QSyntaxHighlighter(documento), specchio_(specchio) {
   ImpostaTavolozza(QGuiApplication::palette());
+}
+
+void frmColori::ColoraDa(int riga) {
+  // Colouring counts as an edit to the toolkit: whoever listens for changes would hear one.
+  const QSignalBlocker muto(document());
+  rehighlightBlock(document()->findBlockByNumber(riga));
 }
 
 void frmColori::ImpostaTavolozza(const QPalette& tavolozza) {
@@ -92,7 +105,6 @@ void frmColori::ImpostaTavolozza(const QPalette& tavolozza) {
   }
   fondo_ = fondo;
   if (formati_ == prima) return;
-  // Colouring a whole text counts as an edit to the toolkit: whoever listens for changes would hear one.
   const QSignalBlocker muto(document());
   rehighlight();
 }
@@ -101,21 +113,47 @@ QColor frmColori::Colore(TipoCodice tipo) const {
   return formati_[static_cast<std::size_t>(tipo)].foreground().color();
 }
 
-void frmColori::highlightBlock(const QString& riga) {
-  // A block may hold more than one line of the text: Shift+Enter does not begin a new block.
-  for (const QStringView sola : QStringView(riga).tokenize(QChar(QChar::LineSeparator))) {
-    ColoraRiga(sola, static_cast<int>(sola.data() - riga.constData()));
-  }
+/// The kind of the code that is open where the line begins. The line in front of it knows, but for the first
+/// one that is coloured anew.
+std::optional<TipoCodice> frmColori::CodiceAperto() const {
+  const int stato = previousBlockState();
+  if (stato <= NessunoAperto) return std::nullopt;
+  return static_cast<TipoCodice>(stato - 1);
 }
 
-void frmColori::ColoraRiga(QStringView riga, int inizio) {
-  const std::string byte = UnByteOgniUnita(riga);
-  LettorePezzi lettore(byte);
-  while (const auto pezzo = lettore.Prossimo()) {
-    if (pezzo->Genere != GenerePezzo::Codice) continue;
-    const std::string_view codice = pezzo->In(byte);
-    setFormat(inizio + static_cast<int>(pezzo->Inizio), static_cast<int>(codice.size()),
-              formati_[static_cast<std::size_t>(Riconosci(ContenutoDi(codice)))]);
+/// Whether a code that is open at the end of this line is closed in a later one.
+bool frmColori::ChiusoPiuAvanti() const {
+  const QTextBlock riga = currentBlock();
+  const auto fine = static_cast<std::size_t>(riga.position() + riga.length() - 1 + riga.blockNumber());
+  const TestoSezione& testo = specchio_.Testo();
+  return fine < testo.Dimensione() && testo.Seguente(Segno::Chiusura, fine).has_value();
+}
+
+void frmColori::Colora(std::size_t inizio, std::size_t fine, TipoCodice tipo) {
+  setFormat(static_cast<int>(inizio), static_cast<int>(fine - inizio),
+            formati_[static_cast<std::size_t>(tipo)]);
+}
+
+void frmColori::highlightBlock(const QString& riga) {
+  const std::string byte = Byte(riga);
+  std::size_t qui = 0;
+  setCurrentBlockState(NessunoAperto);
+  if (const auto aperto = CodiceAperto()) {
+    const std::size_t chiusura = byte.find(DelimChiusura);
+    qui = std::min(chiusura, byte.size() - 1) + 1;
+    Colora(0, qui, *aperto);
+    if (chiusura == std::string::npos) return setCurrentBlockState(StatoDi(*aperto));
+  }
+  while (qui < byte.size()) {
+    const ConfiniCodice codice = ProssimoCodice(byte, qui);
+    if (codice.Apertura == byte.size()) return;
+    const bool aperto = codice.Chiusura == byte.size();
+    if (aperto && !ChiusoPiuAvanti()) return;
+    const TipoCodice tipo =
+        Riconosci(std::string_view(byte).substr(codice.Apertura + 1, codice.Chiusura - codice.Apertura - 1));
+    qui = std::min(codice.Chiusura + 1, byte.size());
+    Colora(codice.Apertura, qui, tipo);
+    if (aperto) setCurrentBlockState(StatoDi(tipo));
   }
 }
 

@@ -6,22 +6,28 @@
 #include <QTextCharFormat>
 #include <array>
 #include <cstddef>
+#include <optional>
 
+#include "template/txtSpecchio.h"
 #include "tokens/Codice.h"
+#include "tokens/Pezzi.h"
 
 class QPalette;
 
 namespace parvik {
 
-/// Colours each code that opens and closes on the same line; a delimiter without its partner there is plain
-/// text. Each line is coloured by itself: an edit costs what its line costs. The document's text, undo
-/// history and signals do not notice.
+/// Colours each code, over the ends of lines too; a stray delimiter is plain text. An edit costs what its
+/// line costs, and the lines of the code that it is about. The toolkit's text and signals do not notice.
 class frmColori final : public QSyntaxHighlighter {
   Q_OBJECT
 
  public:
-  /// Starts with the program's palette. The document owns the highlighter.
-  explicit frmColori(QTextDocument* documento);
+  /// Starts with the program's palette. The document owns the highlighter, and shows the text of `specchio`,
+  /// which must outlive it.
+  frmColori(QTextDocument* documento, const txtSpecchio& specchio);
+
+  /// Colours anew from a line on, as far as it makes a difference.
+  void ColoraDa(int riga);
 
   /// Takes the colours that can be read on the palette's base, light or dark, and colours anew when they are
   /// others.
@@ -36,10 +42,13 @@ class frmColori final : public QSyntaxHighlighter {
   void highlightBlock(const QString& riga) override;
 
  private:
-  void ColoraRiga(QStringView riga, int inizio);
+  std::optional<TipoCodice> CodiceAperto() const;
+  bool ChiusoPiuAvanti() const;
+  void Colora(std::size_t inizio, std::size_t fine, TipoCodice tipo);
 
   static constexpr std::size_t NumTipi = static_cast<std::size_t>(TipoCodice::Pagina) + 1;
 
+  const txtSpecchio& specchio_;
   std::array<QTextCharFormat, NumTipi> formati_;  // by TipoCodice
   QColor fondo_;
 };

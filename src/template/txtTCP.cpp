@@ -3,15 +3,11 @@
 #include <QFocusEvent>
 #include <QFontDatabase>
 #include <QResizeEvent>
-#include <QSignalBlocker>
-#include <QTextBlock>
 #include <QTextDocument>
 #include <QTextEdit>
 #include <algorithm>
 
-#include "common/frmTesto.h"
 #include "template/txtDisposizione.h"
-#include "template/txtVeduta.h"
 
 namespace parvik {
 namespace {
@@ -42,6 +38,12 @@ bool EUnModificatore(int tasto) {
   return std::ranges::find(Modificatori, tasto) != Modificatori.end();
 }
 
+/// The keys that the base class would take from the window's shortcuts although it has nothing to undo.
+bool EDellaFinestra(const QKeyEvent& evento) {
+  return evento.matches(QKeySequence::Undo) || evento.matches(QKeySequence::Redo) ||
+         evento.keyCombination() == QKeyCombination(Qt::ControlModifier, Qt::Key_Y);
+}
+
 QTextDocument* NuovoDocumento(QObject* padre) {
   auto* documento = new QTextDocument(padre);
   documento->setDocumentLayout(new txtDisposizione(documento));
@@ -50,95 +52,26 @@ QTextDocument* NuovoDocumento(QObject* padre) {
 
 }  // namespace
 
-txtTCP::txtTCP(Sezione sezione, QWidget* padre) : QPlainTextEdit(padre), sezione_(sezione) {
+txtTCP::txtTCP(Documento& documento, Sezione sezione, QWidget* padre)
+    : QPlainTextEdit(padre), documento_(documento), sezione_(sezione), comandi_(documento, sezione, *this) {
   setDocument(NuovoDocumento(this));
-  colori_ = new frmColori(document());
+  specchio_ = new txtSpecchio(documento, sezione, *this);  // in front of the colours: it knows the text first
+  colori_ = new frmColori(document(), *specchio_);
   setObjectName(QStringLiteral("txtTCP_%1").arg(Indice(sezione)));
   setAccessibleName(NomiAccessibili[Indice(sezione)]);
   setLineWrapMode(NoWrap);
   setTabChangesFocus(true);
   colori_->ImpostaTavolozza(palette());
-  connect(document(), &QTextDocument::contentsChange, this, [this] { ++edizione_; });
-  connect(this, &QPlainTextEdit::textChanged, this, &txtTCP::Modificata);
-  connect(this, &QPlainTextEdit::cursorPositionChanged, this, &txtTCP::SegnaCodiciAlCursore);
+  connect(specchio_, &txtSpecchio::CodiciCambiati, colori_, &frmColori::ColoraDa);
+  connect(this, &QPlainTextEdit::cursorPositionChanged, this, &txtTCP::CursoreMosso);
   connect(this, &QPlainTextEdit::textChanged, this, &txtTCP::SegnaCodiciAlCursore);
-}
-
-// Not toPlainText: it turns the no-break space into a space.
-std::string txtTCP::Ansi() const {
-  return DaSchermo(document()->toRawText());
-}
-
-txtTCP::RigheTesto txtTCP::Righe(int prima, std::size_t massimo) const {
-  RigheTesto righe{.Testo = {}, .Prossima = prima, .Edizione = edizione_};
-  QTextBlock riga = document()->findBlockByNumber(prima);
-  const auto spazio = static_cast<qsizetype>(massimo);
-  while (righe.Prossima == prima || righe.Testo.size() + riga.length() <= spazio) {
-    righe.Testo += riga.text();
-    ++righe.Prossima;
-    riga = riga.next();
-    righe.Ultime = !riga.isValid();
-    if (righe.Ultime) break;
-    righe.Testo += QChar(QChar::ParagraphSeparator);
-  }
-  return righe;
-}
-
-std::string txtTCP::AnsiAPezzi(const std::stop_token& smetti) {
-  constexpr std::size_t Pezzo = 128UL * 1024UL;  // characters: well under a millisecond of the window's
-  std::string ansi;
-  RigheTesto righe;
-  while (!righe.Ultime && !smetti.stop_requested()) {
-    const int da = righe.Prossima;
-    const int edizione = righe.Edizione;
-    QMetaObject::invokeMethod(
-        this, [&] { righe = Righe(da, Pezzo); }, Qt::BlockingQueuedConnection);
-    if (da > 0 && righe.Edizione != edizione) {
-      ansi.clear();
-      righe = {};
-    } else {
-      ansi += DaSchermo(righe.Testo);
-    }
-  }
-  return ansi;
-}
-
-void txtTCP::ImpostaAnsi(std::string_view ansi) {
-  const QSignalBlocker muto(this);
-  setPlainText(PerSchermo(ansi));
-  SegnaCodiciAlCursore();
-}
-
-void txtTCP::CompletaUltimaRiga() {
-  const QSignalBlocker muto(this);
-  const int ancora = textCursor().anchor();
-  const int posizione = textCursor().position();
-  QTextCursor fine(document());
-  fine.movePosition(QTextCursor::End);
-  fine.insertBlock();
-  // A caret at the very end was carried along by the new line.
-  QTextCursor cursore(document());
-  cursore.setPosition(ancora);
-  cursore.setPosition(posizione, QTextCursor::KeepAnchor);
-  setTextCursor(cursore);
-}
-
-void txtTCP::InserisciCodice(std::string_view codice) {
-  QTextCursor cursore = textCursor();
-  cursore.beginEditBlock();
-  cursore.insertText(PerSchermo(codice));
-  // A removal at the end of the step: what is typed next would otherwise be joined to the insertion, and one
-  // undo would take both.
-  cursore.insertText(" ");
-  cursore.deletePreviousChar();
-  cursore.endEditBlock();
-  setTextCursor(cursore);
 }
 
 void txtTCP::ImpostaUso(bool inUso) {
   if (inUso == InUso()) return;
   setReadOnly(!inUso);
   setEnabled(inUso);
+  setUndoRedoEnabled(false);  // the toolkit turns it on: the document undoes
 }
 
 /// Whether an event is one that nothing may come of.
@@ -148,24 +81,15 @@ bool txtTCP::Esclude(QEvent& evento) const {
   return true;
 }
 
-void txtTCP::Seleziona(Selezione selezione) {
-  QTextCursor cursore(document());
-  cursore.setPosition(static_cast<int>(selezione.Inizio));
-  cursore.setPosition(static_cast<int>(selezione.Fine()), QTextCursor::KeepAnchor);
-  setTextCursor(cursore);
-}
-
-Selezione txtTCP::Selezionato() const {
-  const QTextCursor cursore = textCursor();
-  return {.Inizio = static_cast<std::size_t>(cursore.selectionStart()),
-          .Lunghezza = static_cast<std::size_t>(cursore.selectionEnd() - cursore.selectionStart())};
-}
-
 bool txtTCP::event(QEvent* evento) {
   if (Esclude(*evento)) return true;
+  if (evento->type() == QEvent::ShortcutOverride && EDellaFinestra(*static_cast<QKeyEvent*>(evento))) {
+    evento->ignore();
+    return true;
+  }
   // Here and not in keyPressEvent, which never sees the keys that move the focus.
   if (evento->type() == QEvent::KeyPress && !EUnModificatore(static_cast<QKeyEvent*>(evento)->key()))
-    emit Modificata();
+    emit TastoPremuto();
   // Not before it can be seen, as no section can when the program starts: loading a font takes time.
   if (evento->type() == QEvent::Show) setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   return QPlainTextEdit::event(evento);
@@ -173,21 +97,21 @@ bool txtTCP::event(QEvent* evento) {
 
 void txtTCP::focusInEvent(QFocusEvent* evento) {
   QPlainTextEdit::focusInEvent(evento);
+  documento_.InterrompiBattitura();
   if (InUso()) emit Attivata(sezione_);
 }
 
-/// Marks the codes that the caret touches. Looks at the caret's line only.
+void txtTCP::CursoreMosso() {
+  if (!specchio_->AlLavoro()) documento_.InterrompiBattitura();
+  SegnaCodiciAlCursore();
+}
+
+/// Marks the codes that the caret touches.
 void txtTCP::SegnaCodiciAlCursore() {
-  const QTextCursor cursore = textCursor();
-  const QTextBlock riga = cursore.block();
   QList<QTextEdit::ExtraSelection> segni;
-  for (const PosizioneCodice& codice :
-       CodiciAlCursore(Segni(riga), static_cast<std::size_t>(cursore.positionInBlock()))) {
+  for (const Selezione& codice : CodiciAlCursore(comandi_.Testo(), CursoreAttuale().Posto)) {
     QTextEdit::ExtraSelection segno;
-    segno.cursor = QTextCursor(document());
-    segno.cursor.setPosition(riga.position() + static_cast<int>(codice.Inizio));
-    segno.cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor,
-                              static_cast<int>(codice.Lunghezza));
+    segno.cursor = specchio_->InTesto(CursoreSu(codice));
     segno.format.setBackground(colori_->FondoCodiceAttivo());
     segni += segno;
   }

@@ -8,8 +8,6 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QTextBlock>
-#include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
 #include <utility>
@@ -17,7 +15,7 @@
 #include "common/frmTesto.h"
 #include "template/ParoleSezione.h"
 #include "template/txtTCP.h"
-#include "template/txtVeduta.h"
+#include "tokens/Codice.h"
 
 namespace parvik {
 namespace {
@@ -35,38 +33,35 @@ QClipboard* Selezioni() {
 
 /// Lets an entry of the toolkit's context menu do something else.
 template <class Comando>
-void Ricollega(QMenu& menu, const char* nome, txtTCP* editor, Comando comando) {
+void Ricollega(QMenu& menu, const char* nome, bool possibile, txtTCP* editor, Comando comando) {
   auto* voce = menu.findChild<QAction*>(nome, Qt::FindDirectChildrenOnly);
   if (voce == nullptr) return;
   voce->disconnect();
+  voce->setEnabled(possibile);
   QObject::connect(voce, &QAction::triggered, editor, comando);
 }
 
 }  // namespace
 
-/// The position of the character drawn at `punto` of the viewport; behind the end of a line, the line's end.
-int txtTCP::CarattereAlPunto(QPoint punto) const {
+/// The place of the character drawn at `punto` of the viewport; behind the end of a line, the line's end.
+std::size_t txtTCP::CarattereAlPunto(QPoint punto) const {
   QTextCursor cursore = cursorForPosition(punto);
   // The nearest place of the caret is behind the character where its right half was hit.
   if (punto.x() < cursorRect(cursore).left() && !cursore.atBlockStart())
     cursore.movePosition(QTextCursor::PreviousCharacter);
-  return cursore.position();
+  return specchio_->InByte(cursore.position());
 }
 
-std::optional<Selezione> txtTCP::CodiceAlPunto(QPoint punto) const {
-  const int posizione = CarattereAlPunto(punto);
-  const QTextBlock riga = document()->findBlock(posizione);
-  if (posizione == riga.position() + riga.length() - 1) return std::nullopt;  // behind the end: no character
-  const Veduta veduta = VedutaIntorno(*document(), posizione, posizione + 1);
-  const auto codice = CodiceSotto(veduta.Testo, veduta.DaDocumento(posizione));
-  if (!codice) return std::nullopt;
-  return veduta.InDocumento({.Inizio = codice->Inizio, .Lunghezza = codice->Lunghezza});
+/// The same, where there is a character.
+std::optional<std::size_t> txtTCP::ByteAlPunto(QPoint punto) const {
+  const std::size_t posto = CarattereAlPunto(punto);
+  const TestoSezione& testo = comandi_.Testo();
+  if (posto == testo.Riga(testo.RigaDi(posto)).Fine()) return std::nullopt;
+  return posto;
 }
 
 Selezione txtTCP::ParolaAlPunto(QPoint punto) const {
-  const int posizione = CarattereAlPunto(punto);
-  const Veduta veduta = VedutaDiRiga(*document(), posizione);
-  return veduta.InDocumento(ParolaSotto(veduta.Testo, veduta.DaDocumento(posizione)));
+  return ParolaSotto(comandi_.Testo(), CarattereAlPunto(punto));
 }
 
 bool txtTCP::viewportEvent(QEvent* evento) {
@@ -78,12 +73,11 @@ bool txtTCP::viewportEvent(QEvent* evento) {
 }
 
 bool txtTCP::MostraDescrizione(QPoint punto, QPoint globale) {
-  const auto codice = descrizione_ ? CodiceAlPunto(punto) : std::nullopt;
-  if (!codice) return false;
-  QTextCursor cursore(document());
-  cursore.setPosition(static_cast<int>(codice->Inizio));
-  cursore.setPosition(static_cast<int>(codice->Fine()), QTextCursor::KeepAnchor);
-  const std::string testo = DaSchermo(cursore.selectedText());
+  const auto posto = descrizione_ ? ByteAlPunto(punto) : std::nullopt;
+  if (!posto) return false;
+  const Pezzo codice = comandi_.Testo().PezzoDi(*posto);
+  if (codice.Genere != GenerePezzo::Codice) return false;
+  const std::string testo = comandi_.Testo().Byte(codice);
   QToolTip::showText(globale, ComeTestoSemplice(descrizione_(ContenutoDi(testo))), viewport());
   return true;
 }
@@ -106,8 +100,8 @@ bool txtTCP::TrattieniTrascinamento(const QMouseEvent& evento) {
   const int strada = (evento.globalPosition().toPoint() - *gesto_.Presa).manhattanLength();
   if (strada < QApplication::startDragDistance()) return false;
   gesto_.Presa.reset();
-  if (LasciaTogliere(Selezionato(), Pressione::Prima)) return false;
-  gesto_.Trattenuta = Selezionato();
+  if (comandi_.LasciaTogliere(comandi_.Selezionato(), Pressione::Prima)) return false;
+  gesto_.Trattenuta = comandi_.Selezionato();
   return true;
 }
 
@@ -122,31 +116,33 @@ void txtTCP::mouseMoveEvent(QMouseEvent* evento) {
 void txtTCP::EstendiParola(QPoint punto) {
   const Selezione prima = *gesto_.Parola;
   const Selezione ultima = ParolaAlPunto(punto);
-  const bool indietro = ultima.Inizio < prima.Inizio;
-  QTextCursor cursore(document());
-  cursore.setPosition(static_cast<int>(indietro ? prima.Fine() : prima.Inizio));
-  cursore.setPosition(static_cast<int>(indietro ? ultima.Inizio : std::max(prima.Fine(), ultima.Fine())),
-                      QTextCursor::KeepAnchor);
-  setTextCursor(cursore);
+  if (ultima.Inizio < prima.Inizio) {
+    Poni({.Ancora = prima.Fine(), .Posto = ultima.Inizio});
+  } else {
+    Poni({.Ancora = prima.Inizio, .Posto = std::max(prima.Fine(), ultima.Fine())});
+  }
   ensureCursorVisible();
 }
 
 void txtTCP::mouseReleaseEvent(QMouseEvent* evento) {
   const Gesto gesto = std::exchange(gesto_, {});
   if (evento->button() == Qt::MiddleButton && Selezioni() != nullptr)
-    return Deposita(PostoAlPunto(evento->pos()), Selezioni()->text(QClipboard::Selection));
+    return comandi_.Deposita(PostoAlPunto(evento->pos()),
+                             DaAltrove(Selezioni()->text(QClipboard::Selection)));
   QPlainTextEdit::mouseReleaseEvent(evento);
-  if (gesto.Trattenuta) Seleziona(*gesto.Trattenuta);
+  if (gesto.Trattenuta) Poni(CursoreSu(*gesto.Trattenuta));
   if (gesto.Parola) OffriSelezione();
 }
 
 void txtTCP::mouseDoubleClickEvent(QMouseEvent* evento) {
   const bool sinistro = evento->button() == Qt::LeftButton;
-  if (const auto codice = sinistro ? CodiceAlPunto(evento->pos()) : std::nullopt) return ApriCodice(*codice);
+  const auto posto = sinistro ? ByteAlPunto(evento->pos()) : std::nullopt;
+  if (const auto codice = posto ? CodiceSotto(comandi_.Testo(), *posto) : std::nullopt)
+    return comandi_.ApriCodice(*codice);
   QPlainTextEdit::mouseDoubleClickEvent(evento);
   if (!sinistro) return;
   gesto_.Parola = ParolaAlPunto(evento->pos());
-  Seleziona(*gesto_.Parola);
+  Poni(CursoreSu(*gesto_.Parola));
 }
 
 /// To whoever takes the system's selection, as the toolkit does with the selections that it makes itself.
@@ -157,50 +153,33 @@ void txtTCP::OffriSelezione() {
 
 void txtTCP::contextMenuEvent(QContextMenuEvent* evento) {
   QMenu* menu = createStandardContextMenu(evento->pos());
-  Ricollega(*menu, "edit-cut", this, [this] { Taglia(); });
-  Ricollega(*menu, "edit-delete", this, [this] { Elimina(); });
+  const bool scelta = comandi_.Selezionato().Lunghezza > 0;
+  Ricollega(*menu, "edit-undo", documento_.PuoAnnullare(), this, &txtTCP::DaAnnullare);
+  Ricollega(*menu, "edit-redo", documento_.PuoRipetere(), this, &txtTCP::DaRipetere);
+  Ricollega(*menu, "edit-cut", scelta, this, [this] { Taglia(); });
+  Ricollega(*menu, "edit-delete", scelta, this, [this] { Elimina(); });
   for (QAction* voce : menu->actions())
     if (voce->menu() != nullptr) menu->removeAction(voce);  // characters that no template holds
   menu->setAttribute(Qt::WA_DeleteOnClose);
   menu->popup(evento->globalPos());
 }
 
-int txtTCP::PostoAlPunto(QPoint punto) const {
-  const int posto = cursorForPosition(punto).position();
-  const Veduta veduta = VedutaIntorno(*document(), posto, posto);
-  return veduta.InDocumento(FuoriDaiCodici(veduta.Testo, veduta.DaDocumento(posto)));
-}
-
-void txtTCP::Deposita(int posto, const QString& testo) {
-  Seleziona({.Inizio = static_cast<std::size_t>(posto), .Lunghezza = 0});
-  Incolla(testo);
-  ensureCursorVisible();
-}
-
-/// The selection to another place of the same text, in one step to undo.
-void txtTCP::Sposta(int posto, const QString& testo) {
-  QTextCursor via = textCursor();
-  if (posto >= via.selectionStart() && posto <= via.selectionEnd()) return;  // where it is
-  if (!LasciaTogliere(Selezionato(), Pressione::Prima)) return;
-  QTextCursor meta(document());
-  meta.setPosition(posto);
-  via.beginEditBlock();
-  via.removeSelectedText();
-  Deposita(meta.position(), testo);
-  via.endEditBlock();
+std::size_t txtTCP::PostoAlPunto(QPoint punto) const {
+  return FuoriDaiCodici(comandi_.Testo(), specchio_->InByte(cursorForPosition(punto).position()));
 }
 
 void txtTCP::dropEvent(QDropEvent* evento) {
   QDragLeaveEvent finito;
   QPlainTextEdit::dragLeaveEvent(&finito);  // what the toolkit shows while something is dragged over the text
   if (!evento->mimeData()->hasText()) return evento->ignore();
-  const int posto = PostoAlPunto(evento->position().toPoint());
+  const std::size_t posto = PostoAlPunto(evento->position().toPoint());
   const bool suo = evento->source() == viewport() && evento->dropAction() == Qt::MoveAction;
   if (suo) {
-    Sposta(posto, evento->mimeData()->text());
+    comandi_.Sposta(posto);
   } else {
-    Deposita(posto, evento->mimeData()->text());
+    comandi_.Deposita(posto, DaAltrove(evento->mimeData()->text()));
   }
+  ensureCursorVisible();
   evento->acceptProposedAction();
   setFocus(Qt::OtherFocusReason);
   emit Attivata(sezione_);

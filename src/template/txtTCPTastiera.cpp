@@ -1,5 +1,4 @@
-// The section editor's keys, what an input method composes, and the clipboard. Whatever takes text away asks
-// the key rules first.
+// The section editor's keys, what an input method composes, and the clipboard.
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QInputMethodEvent>
@@ -13,7 +12,6 @@
 #include "common/frmTesto.h"
 #include "template/ParoleSezione.h"
 #include "template/txtTCP.h"
-#include "template/txtVeduta.h"
 
 namespace parvik {
 namespace {
@@ -60,7 +58,7 @@ bool ScriveTesto(const QKeyEvent& evento) {
 /// A step of the caret by a word.
 struct PassoDiParola {
   QKeySequence::StandardKey Tasto;
-  std::size_t (*Destinazione)(std::string_view testo, std::size_t cursore);
+  std::size_t (*Destinazione)(const TestoSezione& testo, std::size_t cursore);
   QTextCursor::MoveMode Modo;
 };
 
@@ -70,7 +68,7 @@ constexpr std::array PassiDiParola = {
     PassoDiParola{QKeySequence::SelectNextWord, ParolaSeguente, QTextCursor::KeepAnchor},
     PassoDiParola{QKeySequence::SelectPreviousWord, ParolaPrecedente, QTextCursor::KeepAnchor}};
 
-/// The keys that are left to the toolkit: they move, select, copy and undo. Paste comes back here.
+/// The keys that are left to the toolkit: they move, select and copy. Paste comes back here.
 constexpr std::array TastiDelToolkit = {QKeySequence::MoveToNextChar,
                                         QKeySequence::MoveToPreviousChar,
                                         QKeySequence::MoveToNextLine,
@@ -97,137 +95,38 @@ constexpr std::array TastiDelToolkit = {QKeySequence::MoveToNextChar,
                                         QKeySequence::SelectEndOfDocument,
                                         QKeySequence::SelectAll,
                                         QKeySequence::Copy,
-                                        QKeySequence::Paste,
-                                        QKeySequence::Undo,
-                                        QKeySequence::Redo};
+                                        QKeySequence::Paste};
 
 }  // namespace
 
-EsitoTasto txtTCP::Interroga(Selezione selezione, TastoSezione tasto, Pressione pressione) const {
-  const int inizio = static_cast<int>(selezione.Inizio);
-  const int fine = static_cast<int>(selezione.Fine());
-  const Veduta veduta = VedutaIntorno(*document(), inizio, fine);
-  EsitoTasto esito = PremiTasto(veduta.Testo, veduta.DaDocumento(inizio, fine), tasto, pressione);
-  esito.Nuova = veduta.InDocumento(esito.Nuova);
-  return esito;
-}
-
-/// What it came to.
-AzioneTasto txtTCP::Premi(TastoSezione tasto, Pressione pressione) {
-  const EsitoTasto esito = Interroga(Selezionato(), tasto, pressione);
-  switch (esito.Azione) {
-    case AzioneTasto::Consueta:
-      EseguiConsueta(tasto);
-      break;
-    case AzioneTasto::Nessuna:
-      break;
-    case AzioneTasto::Allarga:
-      Seleziona(esito.Nuova);
-      break;
-    case AzioneTasto::ApriCodice:
-      ApriCodice(esito.Nuova);
-      break;
-    case AzioneTasto::ApriVariabile:
-      emit VariabileDaInserire();
-      break;
-  }
-  return esito.Azione;
-}
-
-/// One character, whatever other keys are down: never a word, which could end inside a code.
-void txtTCP::EseguiConsueta(TastoSezione tasto) {
-  if (tasto == TastoSezione::Backspace) textCursor().deletePreviousChar();
-  if (tasto == TastoSezione::Canc) textCursor().deleteChar();
-  if (tasto == TastoSezione::Togli) textCursor().removeSelectedText();
-  if (tasto == TastoSezione::Spazio) insertPlainText(" ");
-  ensureCursorVisible();
-}
-
-/// Whether a part of the text may go. One that cuts a code may not, and is selected with the whole of it.
-bool txtTCP::LasciaTogliere(Selezione parte, Pressione pressione) {
-  if (parte.Lunghezza == 0) return true;
-  const EsitoTasto esito = Interroga(parte, TastoSezione::Togli, pressione);
-  if (esito.Azione == AzioneTasto::Allarga) Seleziona(esito.Nuova);
-  return esito.Azione == AzioneTasto::Consueta;
-}
-
-void txtTCP::AllargaSelezione() {
-  static_cast<void>(LasciaTogliere(Selezionato(), Pressione::Prima));
-}
-
-void txtTCP::ApriCodice(Selezione codice) {
-  Seleziona(codice);
-  const std::string testo = DaSchermo(textCursor().selectedText());
-  const std::string contenuto(ContenutoDi(testo));
-  if (Riconosci(contenuto) == TipoCodice::Sconosciuto) return;  // opens nothing, and stays selected
-  emit CodiceDaAprire(contenuto);
-  if (Selezionato() == codice) Seleziona({.Inizio = codice.Inizio, .Lunghezza = 0});
-}
-
-/// False when the rules did not let the selection go.
-bool txtTCP::Sostituisci(const QString& testo, Pressione pressione) {
-  if (!LasciaTogliere(Selezionato(), pressione)) return false;
-  insertPlainText(SoloAnsi(testo));
-  return true;
-}
-
-/// Whether more may be typed: the text and the selection are what they would be by typing.
-bool txtTCP::ScriviCarattere(QChar carattere, Pressione pressione) {
-  if (CarattereScartato(carattere.unicode())) return true;
-  if (carattere != u' ') return Sostituisci(carattere, pressione);
-  const AzioneTasto azione = Premi(TastoSezione::Spazio, pressione);
-  return azione == AzioneTasto::Consueta || azione == AzioneTasto::Nessuna;
-}
-
 void txtTCP::Scrivi(const QString& testo, Pressione pressione) {
   if (!InUso()) return;
-  static_cast<void>(
-      std::ranges::all_of(testo, [&](QChar carattere) { return ScriviCarattere(carattere, pressione); }));
+  comandi_.Scrivi(DaSchermo(testo), pressione);
   ensureCursorVisible();
 }
 
 void txtTCP::Incolla(const QString& testo) {
-  if (!InUso()) return;
-  static_cast<void>(Sostituisci(QString(testo).replace("\r\n", "\n").replace('\r', '\n'), Pressione::Prima));
+  if (InUso()) comandi_.Incolla(DaAltrove(testo));
 }
 
 void txtTCP::Elimina() {
-  if (InUso() && textCursor().hasSelection()) Premi(TastoSezione::Togli, Pressione::Prima);
+  if (InUso()) comandi_.Elimina();
 }
 
 void txtTCP::Taglia(Pressione pressione) {
-  if (!InUso() || !textCursor().hasSelection()) return;
-  if (!LasciaTogliere(Selezionato(), pressione)) return;
+  const Selezione scelta = comandi_.Selezionato();
+  if (!InUso() || scelta.Lunghezza == 0 || !comandi_.LasciaTogliere(scelta, pressione)) return;
   copy();
-  EseguiConsueta(TastoSezione::Togli);
-}
-
-/// Without a selection, what the caret's line has behind the caret, or the line's end.
-void txtTCP::CancellaFinoAFineRiga(Pressione pressione) {
-  QTextCursor resto = textCursor();
-  if (!resto.hasSelection()) {
-    resto.movePosition(resto.atBlockEnd() ? QTextCursor::NextCharacter : QTextCursor::EndOfBlock,
-                       QTextCursor::KeepAnchor);
-    pressione = Pressione::Prima;  // no selection that a hand has made
-  }
-  const Selezione parte = {
-      .Inizio = static_cast<std::size_t>(resto.selectionStart()),
-      .Lunghezza = static_cast<std::size_t>(resto.selectionEnd() - resto.selectionStart())};
-  if (!LasciaTogliere(parte, pressione)) return;
-  resto.removeSelectedText();
-  ensureCursorVisible();
+  comandi_.Togli(scelta);
 }
 
 bool txtTCP::MuoviDiParola(const QKeyEvent& evento) {
   const auto passo = std::ranges::find_if(
       PassiDiParola, [&evento](const PassoDiParola& uno) { return evento.matches(uno.Tasto); });
   if (passo == PassiDiParola.end()) return false;
-  QTextCursor cursore = textCursor();
-  const Veduta veduta = VedutaDiRiga(*document(), cursore.position());
-  const std::size_t posto = passo->Destinazione(veduta.Testo, veduta.DaDocumento(cursore.position()));
-  const int ultimo = document()->characterCount() - 1;
-  cursore.setPosition(std::min(veduta.InDocumento(posto), ultimo), passo->Modo);
-  setTextCursor(cursore);
+  const Cursore cursore = CursoreAttuale();
+  const std::size_t posto = passo->Destinazione(comandi_.Testo(), cursore.Posto);
+  Poni({.Ancora = passo->Modo == QTextCursor::KeepAnchor ? cursore.Ancora : posto, .Posto = posto});
   return true;
 }
 
@@ -242,34 +141,39 @@ bool txtTCP::TastoDelToolkit(QKeyEvent& evento) {
 void txtTCP::keyPressEvent(QKeyEvent* evento) {
   const Pressione pressione = PressioneDi(*evento);
   if (const auto tasto = TastoDi(*evento)) {
-    Premi(*tasto, pressione);
+    comandi_.Premi(*tasto, pressione);
   } else if (FinisceRiga(*evento)) {
-    Sostituisci(QStringLiteral("\n"), pressione);
-    ensureCursorVisible();
+    comandi_.VaiACapo(pressione);
   } else if (ScriveTesto(*evento)) {
     Scrivi(evento->text(), pressione);
   } else if (evento->matches(QKeySequence::Cut)) {
     Taglia(pressione);
   } else if (evento->keyCombination() == CancellaFineRiga) {
-    CancellaFinoAFineRiga(pressione);
+    comandi_.CancellaFinoAFineRiga(pressione);
   } else if (!MuoviDiParola(*evento) && !TastoDelToolkit(*evento)) {
-    evento->ignore();  // a Tab too, where there is nowhere to move the focus: templates hold none
+    return evento->ignore();  // a Tab too, where there is nowhere to move the focus: templates hold none
   }
+  ensureCursorVisible();
 }
 
-/// The toolkit takes the selection away as soon as something is composed over it, and what an input method
-/// replaces.
+/// What is composed takes the place of the selection, and of what the input method replaces, from the start:
+/// the toolkit would take both away by itself.
 bool txtTCP::AccettaComposizione(const QInputMethodEvent& evento) {
-  const QTextCursor cursore = textCursor();
   const bool compone = !evento.commitString().isEmpty() ||
-                       evento.preeditString() != cursore.block().layout()->preeditAreaText();
-  if (compone && !LasciaTogliere(Selezionato(), Pressione::Prima)) return false;
+                       evento.preeditString() != textCursor().block().layout()->preeditAreaText();
   const int ultimo = document()->characterCount() - 1;
-  const int da = std::clamp(cursore.position() + evento.replacementStart(), 0, ultimo);
-  const int lungo = std::clamp(evento.replacementLength(), 0, ultimo - da);
-  return LasciaTogliere(
-      {.Inizio = static_cast<std::size_t>(da), .Lunghezza = static_cast<std::size_t>(lungo)},
-      Pressione::Prima);
+  const int da = std::clamp(textCursor().position() + evento.replacementStart(), 0, ultimo);
+  const std::size_t inizio = specchio_->InByte(da);
+  const std::size_t fine = specchio_->InByte(std::clamp(da + evento.replacementLength(), da, ultimo));
+  const Selezione sostituita = {.Inizio = inizio, .Lunghezza = fine - inizio};
+  const Selezione scelta = compone ? comandi_.Selezionato() : Selezione{};
+  for (const Selezione parte : {scelta, sostituita}) {
+    if (!comandi_.LasciaTogliere(parte, Pressione::Prima)) return false;
+    if (parte.Lunghezza == 0) continue;
+    comandi_.Togli(parte);
+    break;  // the other one was said of a text that is no more
+  }
+  return true;
 }
 
 void txtTCP::inputMethodEvent(QInputMethodEvent* evento) {
@@ -277,9 +181,15 @@ void txtTCP::inputMethodEvent(QInputMethodEvent* evento) {
   if (!AccettaComposizione(*evento)) return QGuiApplication::inputMethod()->reset();
   // The base class shows what is being composed; what is finished is typed.
   QInputMethodEvent inCorso(evento->preeditString(), evento->attributes());
-  inCorso.setCommitString(QString(), evento->replacementStart(), evento->replacementLength());
   QPlainTextEdit::inputMethodEvent(&inCorso);
   Scrivi(evento->commitString(), Pressione::Prima);
+}
+
+void txtTCP::FinisciComposizione() {
+  if (textCursor().block().layout()->preeditAreaText().isEmpty()) return;
+  QGuiApplication::inputMethod()->reset();
+  QInputMethodEvent niente;
+  QPlainTextEdit::inputMethodEvent(&niente);
 }
 
 // Not the base class's: it turns the no-break space into a space, and a copy would not be what was copied.

@@ -27,20 +27,7 @@ namespace parvik::prova {
 
 class VistaFinta final : public Vista {
  public:
-  std::string Testo(Sezione sezione) const override { return Testi[Indice(sezione)]; }
-  void ImpostaTesto(Sezione sezione, std::string_view testo) override { Testi[Indice(sezione)] = testo; }
-  void CompletaUltimaRiga(Sezione sezione) override { Testi[Indice(sezione)] += "\r\n"; }
   void Aggiorna() override { ++Aggiornamenti; }
-  InizioTesto Inizio(Sezione sezione, std::size_t massimo) const override {
-    const std::string& testo = Testi[Indice(sezione)];
-    if (testo.size() <= massimo) return {.Testo = testo, .Intero = true};
-    const std::size_t fine =
-        std::max(testo.rfind("\r\n", massimo - std::min<std::size_t>(massimo, 2)), testo.find("\r\n"));
-    return {.Testo = testo.substr(0, fine + 2), .Intero = false};
-  }
-  std::string TestoAPezzi(Sezione sezione, const std::stop_token& smetti) const override {
-    return smetti.stop_requested() ? std::string() : Testo(sezione);
-  }
   void MostraAnteprima(Anteprima anteprima) override { Anteprime.push_back(std::move(anteprima.Testo)); }
   void CompletaAnteprima(Anteprima anteprima) override { Completate.push_back(std::move(anteprima.Testo)); }
   Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override {
@@ -60,16 +47,15 @@ class VistaFinta final : public Vista {
     if (!ConStampante) return Tipografo();
     return Tipografo([this](const std::string& nomeLavoro) { LavoriStampati.push_back(nomeLavoro); });
   }
-  void InserisciCodice(Sezione sezione, std::string_view codice) override {
-    Testi[Indice(sezione)] += codice;
-  }
-  void AllargaSelezione(Sezione sezione) override { Allargate.push_back(sezione); }
+  Cursore CursoreIn(Sezione sezione) const override { return Cursori[Indice(sezione)]; }
+  void ImpostaCursore(Sezione sezione, Cursore cursore) override { Cursori[Indice(sezione)] = cursore; }
+  void Raggiungi(const CursoreSezione& cursore) override { Raggiunti.push_back(cursore); }
   void RicaricaFlagStampe() override { ++RicaricheFlag; }
 
-  TestiSezioni Testi = {"mai scelto", "mai scelto", "mai scelto"};
+  std::array<Cursore, MaxSezioni> Cursori;
+  std::vector<CursoreSezione> Raggiunti;
   int Aggiornamenti = 0;
   int RicaricheFlag = 0;
-  std::vector<Sezione> Allargate;
   std::vector<std::string> Anteprime;
   std::vector<std::string> Completate;
 
@@ -92,7 +78,19 @@ class BancoEditore : public testing::Test {
   BancoEditore() : BancoEditore(Contenuto(Esempio() / "D_IMG" / "CAMPI.TXT")) {}
   explicit BancoEditore(std::string campi)
       : editore_(Dove(dir_.Percorso()), std::move(*Catalogo::CaricaCampi(std::move(campi))), vista_,
-                 interlocutore_) {}
+                 interlocutore_) {
+    for (const Sezione sezione : TutteLeSezioni) Imposta(sezione, "mai scelto");
+  }
+
+  void Imposta(Sezione sezione, std::string_view byte) { editore_.Modello().Imposta(sezione, byte); }
+  void Imposta(const TestiSezioni& testi) {
+    for (const Sezione sezione : TutteLeSezioni) Imposta(sezione, testi[Indice(sezione)]);
+  }
+  void Aggiungi(Sezione sezione, std::string_view byte) { Imposta(sezione, Testo(sezione).append(byte)); }
+  std::string Testo(Sezione sezione) const { return editore_.Modello().Testo(sezione).Byte(); }
+  TestiSezioni TestiOra() const {
+    return {Testo(Sezione::Testata), Testo(Sezione::Corpo), Testo(Sezione::Piede)};
+  }
 
   static Installazione Dove(const std::filesystem::path& dir) {
     Installazione installazione;

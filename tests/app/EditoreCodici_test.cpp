@@ -6,34 +6,30 @@
 namespace parvik::prova {
 namespace {
 
+const std::string CodiceX =
+    "\xAB"
+    "X\xBB";
+
 class EditoreCodici : public BancoEditore {
  protected:
   EditoreCodici() { editore_.ScegliTipo(Fattura); }
 };
 
 TEST_F(EditoreCodici, InsertsIntoTheTestataBeforeAnySectionHadTheFocus) {
-  editore_.InserisciCodice(
-      "\xAB"
-      "X\xBB");
-  EXPECT_EQ(vista_.Testi, (TestiSezioni{"\r\n\xAB"
-                                        "X\xBB",
-                                        "\r\n", "\r\n"}));
+  editore_.InserisciCodici(std::array{CodiceX});
+  EXPECT_EQ(TestiOra(), (TestiSezioni{CodiceX + "\r\n", "\r\n", "\r\n"}));
 }
 
 TEST_F(EditoreCodici, InsertsIntoTheSectionThatLastHadTheFocus) {
   editore_.AttivaSezione(Sezione::Piede);
-  editore_.InserisciCodice(
-      "\xAB"
-      "X\xBB");
-  EXPECT_EQ(vista_.Testi, (TestiSezioni{"\r\n", "\r\n",
-                                        "\r\n\xAB"
-                                        "X\xBB"}));
+  editore_.InserisciCodici(std::array{CodiceX});
+  EXPECT_EQ(TestiOra(), (TestiSezioni{"\r\n", "\r\n", CodiceX + "\r\n"}));
 }
 
 TEST_F(EditoreCodici, AnEmptyCodeMakesTheTemplateModifiedAllTheSame) {
-  EXPECT_FALSE(editore_.Modello().Modificato);
-  editore_.InserisciCodice("");
-  EXPECT_TRUE(editore_.Modello().Modificato);
+  EXPECT_FALSE(editore_.Modello().Stato().Modificato);
+  editore_.InserisciCodici(std::array{std::string()});
+  EXPECT_TRUE(editore_.Modello().Stato().Modificato);
 }
 
 TEST_F(EditoreCodici, OffersTheActiveSectionsRecordsWithoutTheEmptySlot) {
@@ -47,30 +43,32 @@ TEST_F(EditoreCodici, OffersTheActiveSectionsRecordsWithoutTheEmptySlot) {
 }
 
 TEST_F(EditoreCodici, CountsTheBodyAndCompletesItsLastLine) {
-  vista_.Testi[1] = "uno\r\ndue";
+  Imposta(Sezione::Corpo, "uno\r\ndue");
   EXPECT_EQ(editore_.ContaRighe(Sezione::Corpo), std::int16_t{2});
-  EXPECT_EQ(vista_.Testi[1], "uno\r\ndue\r\n");
+  EXPECT_EQ(Testo(Sezione::Corpo), "uno\r\ndue\r\n");
 }
 
 TEST_F(EditoreCodici, ABodyWithTooManyLinesIsSaidAndNotCounted) {
-  for (int i = 0; i < 32768; ++i) vista_.Testi[1] += "\r\n";
+  std::string righe;
+  for (int i = 0; i < 32768; ++i) righe += "\r\n";
+  Imposta(Sezione::Corpo, righe);
   interlocutore_.Rispondera(Risposta::Ok);
   EXPECT_EQ(editore_.ContaRighe(Sezione::Corpo), std::nullopt);
   EXPECT_EQ(interlocutore_.Messaggi.front().Testo, "Si è verificato l'errore: 6 Overflow");
 }
 
 TEST_F(EditoreCodici, BodySettingsThatChangeMakeTheTemplateModified) {
-  ImpostazioniCorpo corpo = editore_.Modello().Corpo;
+  ImpostazioniCorpo corpo = editore_.Modello().Stato().Corpo;
   editore_.ImpostaCorpo(corpo);
-  EXPECT_FALSE(editore_.Modello().Modificato);
+  EXPECT_FALSE(editore_.Modello().Stato().Modificato);
   corpo.RigheCorpo = 12;
   editore_.ImpostaCorpo(corpo);
-  EXPECT_TRUE(editore_.Modello().Modificato);
-  EXPECT_EQ(editore_.Modello().Corpo, corpo);
+  EXPECT_TRUE(editore_.Modello().Stato().Modificato);
+  EXPECT_EQ(editore_.Modello().Stato().Corpo, corpo);
 }
 
 TEST_F(EditoreCodici, ATotalBeyond16BitsIsSaidAndNotShown) {
-  ImpostazioniCorpo corpo = editore_.Modello().Corpo;
+  ImpostazioniCorpo corpo = editore_.Modello().Stato().Corpo;
   corpo.RigheCorpo = 32767;
   editore_.ImpostaCorpo(corpo);
   interlocutore_.Rispondera(Risposta::Ok);

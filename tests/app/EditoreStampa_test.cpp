@@ -13,8 +13,7 @@ class Stampa : public BancoEditore {
  protected:
   Stampa() {
     editore_.ScegliTipo(Listino);
-    vista_.Testi[0] = "Listino «V1;5»\r\n«S;GR»fine\r\n";
-    for (std::string& testo : vista_.Testi) testo = Byte(testo);
+    Imposta({Byte("Listino «V1;5»\r\n«S;GR»fine\r\n"), "mai scelto", "mai scelto"});
     vista_.Anteprime.clear();
   }
 
@@ -40,7 +39,7 @@ class Stampa : public BancoEditore {
 constexpr const char* TestoReso = "Listino $$$$$\r\nfine\r\n";
 
 TEST_F(Stampa, AnEmptyTemplateAsksForNoDestination) {
-  vista_.Testi[0] = "\r\n";
+  Imposta(Sezione::Testata, "\r\n");
   StampaSu(Destinazione::Anteprima);
   EXPECT_EQ(vista_.RichiesteDestinazione, 0);
   EXPECT_THAT(vista_.Anteprime, IsEmpty());
@@ -117,7 +116,7 @@ TEST_F(Stampa, ThePrintJobHasTheNameOfTheFile) {
 
 TEST_F(Stampa, APreviewThatIsGivenUpIsNotPrinted) {
   editore_.CommutaAnteprima();
-  vista_.Testi[0] = std::string(5'000'000, 'x') + "\r\n";
+  Imposta(Sezione::Testata, std::string(5'000'000, 'x') + "\r\n");
   vista_.ConStampante = true;
   vista_.Attesa = VistaFinta::ComeAttende::Smette;
   StampaSu(Destinazione::Stampante);
@@ -219,11 +218,11 @@ TEST_F(Stampa, ATextFileWithFewerRightsThanBeforeIsTold) {
 TEST_F(Stampa, PrintingDoesNotModifyTheTemplate) {
   StampaSuFile(dir_ / "uscita.txt");
   StampaSu(Destinazione::Anteprima);
-  EXPECT_FALSE(editore_.Modello().Modificato);
+  EXPECT_FALSE(editore_.Modello().Stato().Modificato);
 }
 
 TEST_F(Stampa, ALargePreviewShowsItsBeginningFirstAndIsThenCompleted) {
-  for (int i = 0; i < 20; ++i) vista_.Testi[0] += vista_.Testi[0];  // some 25 MB
+  for (int i = 0; i < 20; ++i) Aggiungi(Sezione::Testata, Testo(Sezione::Testata));  // some 25 MB
   StampaSu(Destinazione::Anteprima);
   ASSERT_EQ(vista_.Anteprime.size(), 1U);
   ASSERT_EQ(vista_.Completate.size(), 1U);
@@ -233,18 +232,22 @@ TEST_F(Stampa, ALargePreviewShowsItsBeginningFirstAndIsThenCompleted) {
   EXPECT_FALSE(vista_.Anteprime[0].ends_with("--- Fine file ---"));
 }
 
+std::string TanteVolte(std::string_view riga) {
+  std::string testo;
+  for (int i = 0; i < 500'000; ++i) testo += riga;
+  return testo;
+}
+
 /// Three sections, of which one is far longer than what is rendered at once.
 class StampaLunga : public Stampa, public testing::WithParamInterface<Sezione> {
  protected:
   StampaLunga() {
     editore_.ScegliTipo(Fattura);
     editore_.ImpostaCorpo({.RigheCorpo = 4, .LineeCorpo = 2, .FlagSbarra = "", .FlagAccorpa = ""});
-    vista_.Testi = {"testa\r\n", "corpo\r\nuno\r\n", "piede\r\n"};
+    Imposta({"testa\r\n", "corpo\r\nuno\r\n", "piede\r\n"});
     vista_.Anteprime.clear();
   }
-  void Allunga(std::string_view riga) {
-    for (int i = 0; i < 500'000; ++i) vista_.Testi[Indice(GetParam())] += riga;
-  }
+  void Allunga(std::string_view riga) { Aggiungi(GetParam(), TanteVolte(riga)); }
 };
 
 TEST_P(StampaLunga, WhatIsShownFirstIsTheBeginningOfTheWholePreview) {
@@ -259,7 +262,7 @@ TEST_P(StampaLunga, WhatIsShownFirstIsTheBeginningOfTheWholePreview) {
 }
 
 TEST_P(StampaLunga, ACodeThatIsNeverClosedLeavesNoLineThatIsNotInTheWholePreview) {
-  vista_.Testi[Indice(GetParam())] += Byte("prima\r\n«mai chiuso\r\n");
+  Aggiungi(GetParam(), Byte("prima\r\n«mai chiuso\r\n"));
   Allunga("dentro\r\n");
   StampaSu(Destinazione::Anteprima);
   ASSERT_EQ(vista_.Completate.size(), 1U);
@@ -271,15 +274,14 @@ INSTANTIATE_TEST_SUITE_P(Sezioni, StampaLunga, testing::ValuesIn(TutteLeSezioni)
                          [](const auto& caso) { return std::string(NomiSezioni[Indice(caso.param)]); });
 
 TEST_F(Stampa, ALargeTemplateIsTakenOverWholeForTheTextFile) {
-  vista_.Testi[0].clear();
-  for (int i = 0; i < 500'000; ++i) vista_.Testi[0] += "riga\r\n";
+  Imposta(Sezione::Testata, TanteVolte("riga\r\n"));
   const std::filesystem::path file = dir_ / "uscita.txt";
   StampaSuFile(file);
-  EXPECT_EQ(Contenuto(file), vista_.Testi[0]);
+  EXPECT_EQ(Contenuto(file), Testo(Sezione::Testata));
 }
 
 TEST_F(Stampa, ALargePreviewThatIsGivenUpKeepsItsBeginning) {
-  for (int i = 0; i < 20; ++i) vista_.Testi[0] += vista_.Testi[0];
+  for (int i = 0; i < 20; ++i) Aggiungi(Sezione::Testata, Testo(Sezione::Testata));
   vista_.Attesa = VistaFinta::ComeAttende::Smette;
   StampaSu(Destinazione::Anteprima);
   EXPECT_EQ(vista_.Anteprime.size(), 1U);
@@ -288,7 +290,7 @@ TEST_F(Stampa, ALargePreviewThatIsGivenUpKeepsItsBeginning) {
 }
 
 TEST_F(Stampa, APreviewThatRunsOutOfMemorySaysSo) {
-  for (int i = 0; i < 20; ++i) vista_.Testi[0] += vista_.Testi[0];
+  for (int i = 0; i < 20; ++i) Aggiungi(Sezione::Testata, Testo(Sezione::Testata));
   vista_.Attesa = VistaFinta::ComeAttende::SenzaMemoria;
   interlocutore_.Rispondera(Risposta::Ok);
   StampaSu(Destinazione::Anteprima);

@@ -16,8 +16,8 @@ TEST_F(EditoreTest, StartsWithoutATypeAndLeavesTheWindowAlone) {
   EXPECT_FALSE(editore_.TipoScelto());
   EXPECT_FALSE(editore_.TreSezioni());
   EXPECT_FALSE(editore_.AnteVisibile());
-  EXPECT_FALSE(editore_.Modello().Modificato);
-  EXPECT_EQ("", editore_.Modello().NomeFile);
+  EXPECT_FALSE(editore_.Modello().Stato().Modificato);
+  EXPECT_EQ("", editore_.Modello().Stato().NomeFile);
   EXPECT_FALSE(editore_.PerMenu().TipoScelto);
   EXPECT_FALSE(editore_.PerMenu().TreSezioni);
   EXPECT_TRUE(editore_.Flag().Righe().empty());
@@ -27,20 +27,20 @@ TEST_F(EditoreTest, StartsWithoutATypeAndLeavesTheWindowAlone) {
 TEST_F(EditoreTest, ShowsThreeSectionsOfOneEmptyLineForATypeOfThree) {
   editore_.ScegliTipo(Fattura);
   EXPECT_EQ("Ordavia - FATT*.IMG", editore_.Titolo());
-  EXPECT_EQ((TestiSezioni{"\r\n", "\r\n", "\r\n"}), vista_.Testi);
+  EXPECT_EQ((TestiSezioni{"\r\n", "\r\n", "\r\n"}), TestiOra());
   EXPECT_TRUE(editore_.TipoScelto());
   EXPECT_TRUE(editore_.TreSezioni());
   EXPECT_TRUE(editore_.PerMenu().TipoScelto);
   EXPECT_TRUE(editore_.PerMenu().TreSezioni);
-  EXPECT_EQ((ImpostazioniCorpo{23, 1, "", ""}), editore_.Modello().Corpo);
-  EXPECT_FALSE(editore_.Modello().Modificato);
+  EXPECT_EQ((ImpostazioniCorpo{23, 1, "", ""}), editore_.Modello().Stato().Corpo);
+  EXPECT_FALSE(editore_.Modello().Stato().Modificato);
   EXPECT_GT(vista_.Aggiornamenti, 0);
 }
 
 TEST_F(EditoreTest, FillsOnlyTheTestataForATypeOfOne) {
   editore_.ScegliTipo(Listino);
   EXPECT_EQ("Ordavia - LIST*.IMG", editore_.Titolo());
-  EXPECT_EQ((TestiSezioni{"\r\n", "mai scelto", "mai scelto"}), vista_.Testi);
+  EXPECT_EQ((TestiSezioni{"\r\n", "mai scelto", "mai scelto"}), TestiOra());
   EXPECT_TRUE(editore_.TipoScelto());
   EXPECT_FALSE(editore_.TreSezioni());
   EXPECT_FALSE(editore_.PerMenu().TreSezioni);
@@ -62,9 +62,9 @@ TEST_F(EditoreTest, LoadsThePrintFlagsOfTheType) {
 TEST_F(EditoreTest, BecomesModifiedByAnEditAndUnmodifiedByTheChoiceOfAType) {
   editore_.ScegliTipo(Fattura);
   editore_.SegnaModificato();
-  EXPECT_TRUE(editore_.Modello().Modificato);
+  EXPECT_TRUE(editore_.Modello().Stato().Modificato);
   editore_.ScegliTipo(Listino);
-  EXPECT_FALSE(editore_.Modello().Modificato);
+  EXPECT_FALSE(editore_.Modello().Stato().Modificato);
 }
 
 TEST_F(EditoreTest, GoesBackToNoTypeWithNewAndKeepsTextsNameAndCheckMark) {
@@ -72,7 +72,7 @@ TEST_F(EditoreTest, GoesBackToNoTypeWithNewAndKeepsTextsNameAndCheckMark) {
   interlocutore_.Scegliera(Esempio() / "D_IMG" / "FATT01.IMG");
   editore_.Apri();
   editore_.CommutaAnteprima();
-  const TestiSezioni testi = vista_.Testi;
+  const TestiSezioni testi = TestiOra();
   vista_.Aggiornamenti = 0;
   editore_.Nuovo();
   EXPECT_EQ("Ordavia", editore_.Titolo());
@@ -80,17 +80,17 @@ TEST_F(EditoreTest, GoesBackToNoTypeWithNewAndKeepsTextsNameAndCheckMark) {
   EXPECT_TRUE(editore_.AnteSpuntata());
   EXPECT_FALSE(editore_.AnteVisibile());
   EXPECT_TRUE(editore_.Flag().Righe().empty());
-  EXPECT_EQ(testi, vista_.Testi);
-  EXPECT_EQ(Esempio() / "D_IMG" / "FATT01.IMG", editore_.Modello().NomeFile);
+  EXPECT_EQ(testi, TestiOra());
+  EXPECT_EQ(Esempio() / "D_IMG" / "FATT01.IMG", editore_.Modello().Stato().NomeFile);
   EXPECT_GT(vista_.Aggiornamenti, 0);
 }
 
 TEST_F(EditoreTest, FillsTheSectionsAnewWithTheNextChoiceAfterNew) {
   editore_.ScegliTipo(Fattura);
-  vista_.Testi = {"a\r\n", "b\r\n", "c\r\n"};
+  Imposta({"a\r\n", "b\r\n", "c\r\n"});
   editore_.Nuovo();
   editore_.ScegliTipo(Fattura);
-  EXPECT_EQ((TestiSezioni{"\r\n", "\r\n", "\r\n"}), vista_.Testi);
+  EXPECT_EQ((TestiSezioni{"\r\n", "\r\n", "\r\n"}), TestiOra());
   EXPECT_TRUE(editore_.AnteSpuntata());
 }
 
@@ -103,13 +103,13 @@ TEST_F(EditoreTest, OpensATemplateTurnsThePreviewOffAndClearsThePrintFlags) {
   EXPECT_FALSE(editore_.AnteSpuntata());
   EXPECT_FALSE(editore_.AnteVisibile());
   EXPECT_FALSE(editore_.Flag().Vero(0));
-  EXPECT_FALSE(editore_.Modello().Modificato);
-  EXPECT_NE("\r\n", vista_.Testi[0]);
+  EXPECT_FALSE(editore_.Modello().Stato().Modificato);
+  EXPECT_NE("\r\n", Testo(Sezione::Testata));
 }
 
 TEST_F(EditoreTest, RendersWhenThePreviewIsTurnedOnAndOnlyThen) {
   editore_.ScegliTipo(Listino);
-  vista_.Testi[0] = "uno\r\n";
+  Imposta(Sezione::Testata, "uno\r\n");
   editore_.CommutaAnteprima();
   EXPECT_FALSE(editore_.AnteSpuntata());
   EXPECT_TRUE(vista_.Anteprime.empty());
@@ -128,18 +128,18 @@ TEST_F(EditoreTest, SavesWhatItOpenedByteByByte) {
   Crea(FileNuovo(), "sciupato");
   editore_.Salva();
   EXPECT_EQ(originale, Contenuto(FileNuovo()));
-  EXPECT_FALSE(editore_.Modello().Modificato);
+  EXPECT_FALSE(editore_.Modello().Stato().Modificato);
 }
 
 TEST_F(EditoreTest, TakesTheCaptionAndTheTextsOfTheFileThatSaveAsMade) {
   editore_.ScegliTipo(Fattura);
-  vista_.Testi = {"abc", "c\r\n", "p\r\n"};
+  Imposta({"abc", "c\r\n", "p\r\n"});
   editore_.SegnaModificato();
   interlocutore_.Scegliera(FileNuovo());
   editore_.SalvaConNome();
   EXPECT_EQ("Ordavia - NUOVO001.IMG", editore_.Titolo());
-  EXPECT_EQ((TestiSezioni{"abc\r\n\r\n", "c\r\n", "p\r\n"}), vista_.Testi);
-  EXPECT_FALSE(editore_.Modello().Modificato);
+  EXPECT_EQ((TestiSezioni{"abc\r\n\r\n", "c\r\n", "p\r\n"}), TestiOra());
+  EXPECT_FALSE(editore_.Modello().Stato().Modificato);
   EXPECT_TRUE(editore_.AnteSpuntata());
 }
 

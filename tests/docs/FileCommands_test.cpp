@@ -14,15 +14,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view Pagina = "file-commands.md";
 
-class SezioniInMemoria final : public Sezioni {
- public:
-  std::string Testo(Sezione sezione) const override { return Testi[Indice(sezione)]; }
-  void ImpostaTesto(Sezione sezione, std::string_view testo) override { Testi[Indice(sezione)] = testo; }
-  void CompletaUltimaRiga(Sezione sezione) override { Testi[Indice(sezione)] += "\r\n"; }
-
-  TestiSezioni Testi = {"\r\n", "\r\n", "\r\n"};
-};
-
 class ContornoAnnotato final : public Contorno {
  public:
   void ImpostaTitolo(std::string titolo) override { Titolo = std::move(titolo); }
@@ -44,21 +35,24 @@ TipoDoc Tipo(std::int16_t numSezioni, std::string titolo = "FATT*.IMG") {
 
 /// A template of one section with everything that its commands touch.
 struct Banco {
+  Banco() {
+    for (const Sezione sezione : TutteLeSezioni) Modello.Imposta(sezione, "\r\n");
+  }
+
   Documento Modello;
-  SezioniInMemoria Testi;
   InterlocutoreScritto Persona;
   ContornoAnnotato Attorno;
   CartellaTemporanea Cartella;
-  ComandiFile Comandi{Modello, Testi, Persona, Attorno, Cartella.Percorso()};
+  ComandiFile Comandi{Modello, Persona, Attorno, Cartella.Percorso()};
 };
 
 /// Sets the template and the script up so that saving ends as the example says.
 void Prepara(Banco& banco, const RigaEsempio& riga) {
   const std::string salvataggio = riga.Testo(3);
-  banco.Modello.Modificato = true;
+  banco.Modello.Stato().Modificato = true;
   if (riga.Si(1))
-    banco.Modello.NomeFile = banco.Cartella / (salvataggio == "fails" ? "manca/A.IMG" : "A.IMG");
-  if (salvataggio != "nothing to save") banco.Testi.Testi[0] = "t\r\n";
+    banco.Modello.Stato().NomeFile = banco.Cartella / (salvataggio == "fails" ? "manca/A.IMG" : "A.IMG");
+  banco.Modello.Imposta(Sezione::Testata, salvataggio == "nothing to save" ? "\r\n" : "t\r\n");
   const std::string risposta = riga.Testo(2);
   banco.Persona.Rispondera(risposta == "Sì"   ? Risposta::Si
                            : risposta == "No" ? Risposta::No
@@ -103,11 +97,11 @@ TEST(FileCommandsPage, TellsWhichFileATypedNameMeans) {
     if (const std::string file = riga.Testo(0); !file.empty()) Crea(banco.Cartella / file, "altro\r\n");
     banco.Persona.Scegliera(banco.Cartella / riga.Testo(1));
     banco.Comandi.SalvaConNome(Tipo(1));
-    EXPECT_EQ(banco.Modello.NomeFile, banco.Cartella / riga.Testo(2)) << riga.Posto();
+    EXPECT_EQ(banco.Modello.Stato().NomeFile, banco.Cartella / riga.Testo(2)) << riga.Posto();
     EXPECT_EQ(Contenuto(banco.Cartella / riga.Testo(2)), "\r\n") << riga.Posto();
     banco.Persona.Scegliera(banco.Cartella / riga.Testo(1));
     banco.Comandi.Apri(Tipo(1));
-    EXPECT_EQ(banco.Modello.NomeFile, banco.Cartella / riga.Testo(2)) << riga.Posto() << ": opened";
+    EXPECT_EQ(banco.Modello.Stato().NomeFile, banco.Cartella / riga.Testo(2)) << riga.Posto() << ": opened";
   }
 }
 
@@ -140,12 +134,12 @@ void PreparaFile(Banco& banco, const std::string& stato) {
     banco.Persona.Scegliera(file);
     banco.Comandi.Apri(Tipo(stato.starts_with("could") ? 3 : 1));
   }
-  banco.Testi.Testi[0] = "nuovo\r\n";
+  banco.Modello.Imposta(Sezione::Testata, "nuovo\r\n");
   if (stato.find("New") != std::string::npos) banco.Comandi.Nuovo(Tipo(1));
   if (stato.ends_with("saved")) {
     banco.Comandi.Salva(Tipo(1));
     fs::remove(banco.Cartella / "A.IMG~");
-    banco.Testi.Testi[0] = "piu' nuovo\r\n";
+    banco.Modello.Imposta(Sezione::Testata, "piu' nuovo\r\n");
   }
   if (stato.ends_with("changed by somebody else")) Crea(file, "cambiato\r\n");
   if (stato.ends_with("taken away")) fs::remove(file);
@@ -163,7 +157,7 @@ TEST(FileCommandsPage, TellsWhatIsKeptOfAFileThatIsReplaced) {
     } else {
       banco.Comandi.Salva(Tipo(1));
     }
-    EXPECT_EQ(Contenuto(file), banco.Testi.Testi[0]) << riga.Posto();
+    EXPECT_EQ(Contenuto(file), banco.Modello.Testo(Sezione::Testata).Byte()) << riga.Posto();
     EXPECT_EQ(fs::exists(banco.Cartella / "A.IMG~"), riga.Si(2)) << riga.Posto();
     if (riga.Si(2)) {
       EXPECT_EQ(Contenuto(banco.Cartella / "A.IMG~"), prima) << riga.Posto();
@@ -174,7 +168,8 @@ TEST(FileCommandsPage, TellsWhatIsKeptOfAFileThatIsReplaced) {
 TEST(FileCommandsPage, TellsWhenThereIsNothingToSave) {
   for (const RigaEsempio& riga : TabellaEsempi(Pagina, "empty", 5)) {
     Banco banco;
-    banco.Testi.Testi = {riga.Byte(1), riga.Byte(2), riga.Byte(3)};
+    for (const Sezione sezione : TutteLeSezioni)
+      banco.Modello.Imposta(sezione, riga.Byte(1 + Indice(sezione)));
     EXPECT_EQ(banco.Comandi.VerificaStampa(Tipo(static_cast<std::int16_t>(riga.Numero(0)))), riga.Si(4))
         << riga.Posto();
   }

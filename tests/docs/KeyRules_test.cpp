@@ -42,7 +42,7 @@ TastoSezione Tasto(std::string_view nome) {
   return TastoSezione::Spazio;
 }
 
-std::string Detto(const std::string& testo, const EsitoTasto& esito) {
+std::string Detto(const TestoSezione& testo, const EsitoTasto& esito) {
   switch (esito.Azione) {
     case AzioneTasto::Consueta:
       return "usual";
@@ -67,7 +67,7 @@ TEST(KeyRulesPage, TellsWhatTheKeysDo) {
   }
 }
 
-Selezione DiParola(const std::string& testo, std::size_t cursore, const std::string& tasto) {
+Selezione DiParola(const TestoSezione& testo, std::size_t cursore, const std::string& tasto) {
   if (tasto == "Ctrl+Right") return {.Inizio = ParolaSeguente(testo, cursore), .Lunghezza = 0};
   if (tasto == "Ctrl+Left") return {.Inizio = ParolaPrecedente(testo, cursore), .Lunghezza = 0};
   EXPECT_EQ(tasto, "double click");

@@ -23,8 +23,8 @@ class ComandoSalvaGuasti : public BancoComandi {
     std::filesystem::permissions(dirImg_ / "A.IMG", std::filesystem::perms{0644});
     interlocutore_.Scegliera(dirImg_ / "A.IMG");
     comandi_.Apri(tre_);
-    sezioni_.Testi = {"nuova\r\n", "c\r\n", "p\r\n"};
-    documento_.Modificato = true;
+    Imposta({"nuova\r\n", "c\r\n", "p\r\n"});
+    documento_.Stato().Modificato = true;
     interlocutore_.Messaggi.clear();
   }
   /// Saves under the faults; the calls that were made.
@@ -41,7 +41,7 @@ class ComandoSalvaGuasti : public BancoComandi {
   /// What a save that reports an error, and one that reports none, must have left.
   void AttendiEsito(bool fallito, NumeroErrore numero) {
     const std::string byte = Contenuto(dirImg_ / "A.IMG");
-    EXPECT_EQ(fallito, documento_.Modificato);
+    EXPECT_EQ(fallito, documento_.Stato().Modificato);
     if (fallito) {
       AttendiMessaggi({Errore(numero)});
       EXPECT_TRUE(byte == Vecchio || byte == Nuovo) << byte;
@@ -49,8 +49,8 @@ class ComandoSalvaGuasti : public BancoComandi {
       if (!SoloAvvisato()) AttendiMessaggi({});
       EXPECT_EQ(Nuovo, byte);
     }
-    EXPECT_EQ((TestiSezioni{"nuova\r\n", "c\r\n", "p\r\n"}), sezioni_.Testi);
-    EXPECT_EQ(dirImg_ / "A.IMG", documento_.NomeFile);
+    EXPECT_EQ((TestiSezioni{"nuova\r\n", "c\r\n", "p\r\n"}), TestiOra());
+    EXPECT_EQ(dirImg_ / "A.IMG", documento_.Stato().NomeFile);
   }
   /// The template is there to be saved when all is well again.
   void AttendiSalvataggioSeguente() {
@@ -58,7 +58,7 @@ class ComandoSalvaGuasti : public BancoComandi {
     comandi_.Salva(tre_);
     AttendiMessaggi({});
     EXPECT_EQ(Nuovo, Contenuto(dirImg_ / "A.IMG"));
-    EXPECT_FALSE(documento_.Modificato);
+    EXPECT_FALSE(documento_.Stato().Modificato);
     EXPECT_EQ(Elenco{"A.IMG"}, Nomi(dirImg_.Percorso()));
   }
 
@@ -107,7 +107,7 @@ TEST_F(ComandoSalvaGuasti, ANewContentThatWasWrittenButIsNotSafeIsStillThisDocum
   AttendiEsito(true, DaErrno(EIO));
   ASSERT_EQ(Nuovo, Contenuto(dirImg_ / "A.IMG"));
   interlocutore_.Messaggi.clear();
-  sezioni_.Testi[0] = "altra\r\n";
+  Imposta(Sezione::Testata, "altra\r\n");
   comandi_.Salva(tre_);
   AttendiMessaggi({});
   EXPECT_EQ("altra", Contenuto(dirImg_ / "A.IMG").substr(0, 5));

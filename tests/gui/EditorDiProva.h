@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QTest>
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -16,21 +17,26 @@ namespace parvik::prova {
 /// An editor on a drawn text, and what it drew back.
 class EditorDiProva {
  public:
-  explicit EditorDiProva(const char* disegno) : editor_(Sezione::Testata, nullptr) {
+  explicit EditorDiProva(const char* disegno) {
     const ConSelezione caso(disegno);
-    editor_.setPlainText(PerSchermo(caso.Testo).replace(u'\u240A', u'\n'));
+    modello_.Imposta(Sezione::Testata, caso.Testo.Byte());
     Seleziona(caso.Selezionato);
     QObject::connect(&editor_, &txtTCP::CodiceDaAprire, &editor_,
                      [this](const std::string& contenuto) { Aperti.push_back(contenuto); });
     QObject::connect(&editor_, &txtTCP::VariabileDaInserire, &editor_, [this] { ++Variabili; });
   }
 
-  void Seleziona(Selezione selezione) {
-    QTextCursor cursore(editor_.document());
-    cursore.setPosition(static_cast<int>(selezione.Inizio));
-    cursore.setPosition(static_cast<int>(selezione.Fine()), QTextCursor::KeepAnchor);
-    editor_.setTextCursor(cursore);
+  void Seleziona(Selezione selezione) { editor_.Poni(CursoreSu(selezione)); }
+  /// As a dialog's OK does it.
+  void Inserisci(const char* codice) {
+    const Selezione scelta = editor_.CursoreAttuale().Selezionato();
+    modello_.Applica(
+        Sezione::Testata,
+        {.Dove = scelta.Inizio, .Tolti = scelta.Lunghezza, .Messi = ConSelezione(codice).Testo.Byte()},
+        GenereModifica::Intera, editor_.CursoreAttuale());
   }
+  void Annulla() { editor_.Poni(modello_.Annulla().Dentro); }
+  void Ripeti() { editor_.Poni(modello_.Ripeti().Dentro); }
   EditorDiProva& Premi(Qt::Key tasto, Qt::KeyboardModifiers con = {}) {
     QTest::keyClick(&editor_, tasto, con);
     return *this;
@@ -57,16 +63,18 @@ class EditorDiProva {
     const int larghezza = editor_.fontMetrics().horizontalAdvance(u'M');
     return {davanti.left() + static_cast<int>(larghezza * parte), davanti.center().y()};
   }
-  /// A line end is a blank.
+  /// What the widget shows, as bytes. A line end is a blank.
   std::string Testo() const {
-    return DaSchermo(editor_.document()->toRawText().replace(QChar(0x2029), u' '));
+    return DaSchermo(editor_.document()->toRawText().replace(QChar(QChar::ParagraphSeparator), u' '));
   }
+  /// What the document says.
+  const TestoSezione& NelModello() const { return modello_.Testo(Sezione::Testata); }
+  Documento& Modello() { return modello_; }
+  /// The document's text with the widget's selection. A line end is a blank.
   std::string Disegno() const {
-    const QTextCursor cursore = editor_.textCursor();
-    const Selezione selezione{
-        .Inizio = static_cast<std::size_t>(cursore.selectionStart()),
-        .Lunghezza = static_cast<std::size_t>(cursore.selectionEnd() - cursore.selectionStart())};
-    return prova::Scritto(Testo(), selezione);
+    std::string disegno = prova::Scritto(NelModello(), editor_.CursoreAttuale().Selezionato());
+    std::ranges::replace(disegno, '\n', ' ');
+    return disegno;
   }
   txtTCP& Widget() { return editor_; }
 
@@ -74,7 +82,8 @@ class EditorDiProva {
   int Variabili = 0;
 
  private:
-  txtTCP editor_;
+  Documento modello_;
+  txtTCP editor_{modello_, Sezione::Testata, nullptr};
 };
 
 }  // namespace parvik::prova

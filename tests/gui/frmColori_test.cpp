@@ -1,6 +1,7 @@
 #include "template/frmColori.h"
 
 #include <gtest/gtest.h>
+#include <rapidcheck.h>
 
 #include <QApplication>
 #include <QPalette>
@@ -17,7 +18,9 @@
 #include <vector>
 
 #include "Finestra.h"
+#include "common/frmTesto.h"
 #include "supporto/ConNome.h"
+#include "template/txtTCP.h"
 
 namespace parvik {
 namespace {
@@ -93,8 +96,9 @@ class OgniTavolozza : public testing::TestWithParam<Tinta> {
 
   QColor Base() const { return GetParam().Tavolozza.color(QPalette::Base); }
 
-  QTextDocument documento_;
-  frmColori colori_{&documento_};
+  Documento modello_;
+  txtTCP editor_{modello_, Sezione::Testata, nullptr};
+  frmColori& colori_ = *editor_.document()->findChild<frmColori*>();
 };
 
 class TavolozzaUsuale : public OgniTavolozza {};
@@ -140,10 +144,22 @@ INSTANTIATE_TEST_SUITE_P(Usuali, OgniTavolozza, testing::ValuesIn(Usuali), NomeD
 INSTANTIATE_TEST_SUITE_P(Insolite, OgniTavolozza, testing::ValuesIn(Insolite), NomeDi);
 INSTANTIATE_TEST_SUITE_P(Usuali, TavolozzaUsuale, testing::ValuesIn(Usuali), NomeDi);
 
-/// A document as an editor has it: without a layout nothing is ever drawn, and nothing coloured.
-class DocumentoMostrato : public QTextDocument {
+/// A section on the screen: without a layout nothing is ever drawn, and nothing coloured.
+class SezioneMostrata {
  public:
-  DocumentoMostrato() { documentLayout(); }
+  explicit SezioneMostrata(const QString& testo = {}) {
+    editor_.document()->documentLayout();
+    modello_.Imposta(Sezione::Testata, DaSchermo(testo));
+  }
+  QTextDocument& Testo() { return *editor_.document(); }
+  QTextBlock Riga(int numero) { return Testo().findBlockByNumber(numero); }
+  frmColori& Colori() { return *Testo().findChild<frmColori*>(); }
+  Documento& Modello() { return modello_; }
+  txtTCP& Editor() { return editor_; }
+
+ private:
+  Documento modello_;
+  txtTCP editor_{modello_, Sezione::Testata, nullptr};
 };
 
 /// The coloured pieces of a line, as "text=kind", separated by blanks.
@@ -169,10 +185,8 @@ struct Caso {
 class RigaColorata : public testing::TestWithParam<Caso> {};
 
 TEST_P(RigaColorata, HasEachWholeCodeInTheColourOfItsKind) {
-  DocumentoMostrato documento;
-  const frmColori colori(&documento);
-  documento.setPlainText(GetParam().Riga);
-  EXPECT_EQ(Colorati(documento.firstBlock(), colori), GetParam().Atteso);
+  SezioneMostrata sezione(GetParam().Riga);
+  EXPECT_EQ(Colorati(sezione.Riga(0), sezione.Colori()), GetParam().Atteso);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -189,101 +203,126 @@ INSTANTIATE_TEST_SUITE_P(
         Caso{"the_wrong_way_round", "»«", ""}, Caso{"unclosed_after_a_code", "«P1» «V8", "«P1»=pagina"},
         Caso{"closing_after_a_code", "«P1»»", "«P1»=pagina"},
         Caso{"a_code_reaches_to_the_next_closing", "«V1«P1»»", "«V1«P1»=variabile"},
-        Caso{"beyond_the_code_page", QStringLiteral("\U0001F600\u4E2D«P1»"), "«P1»=pagina"},
-        Caso{"control_characters_in_front", QStringLiteral("\u2400\u240D\u240A«P1»"), "«P1»=pagina"},
-        Caso{"two_lines_in_a_block", QStringLiteral("x\u2028«P1»\u2028«F3S»"), "«P1»=pagina «F3S»=flag"},
-        Caso{"broken_by_a_line_in_a_block", QStringLiteral("«P\u20281»"), ""}),
+        Caso{"control_characters_in_front", QStringLiteral("\u2400\u2401\u240A«P1»"), "«P1»=pagina"}),
     [](const auto& caso) { return std::string(caso.param.Nome); });
 
 TEST(FrmColori, ColoursOnlyTheTextAndNeverTheBackground) {
-  DocumentoMostrato documento;
-  const frmColori colori(&documento);
-  documento.setPlainText("«V8;10R»");
+  SezioneMostrata sezione("«V8;10R»");
   QTextCharFormat atteso;
-  atteso.setForeground(colori.Colore(TipoCodice::Variabile));
-  ASSERT_EQ(documento.firstBlock().layout()->formats().size(), 1);
-  EXPECT_EQ(documento.firstBlock().layout()->formats().first().format, atteso);
+  atteso.setForeground(sezione.Colori().Colore(TipoCodice::Variabile));
+  ASSERT_EQ(sezione.Riga(0).layout()->formats().size(), 1);
+  EXPECT_EQ(sezione.Riga(0).layout()->formats().first().format, atteso);
 }
 
-TEST(FrmColori, ACodeDoesNotReachOverALineEnd) {
-  DocumentoMostrato documento;
-  const frmColori colori(&documento);
-  documento.setPlainText("«V8\n10R» «P1»");
-  EXPECT_EQ(Colorati(documento.firstBlock(), colori), "");
-  EXPECT_EQ(Colorati(documento.lastBlock(), colori), "«P1»=pagina");
+/// The coloured pieces of all lines.
+std::vector<std::string> Righe(SezioneMostrata& sezione) {
+  std::vector<std::string> righe;
+  for (QTextBlock riga = sezione.Riga(0); riga.isValid(); riga = riga.next())
+    righe.push_back(Colorati(riga, sezione.Colori()));
+  return righe;
 }
 
-TEST(FrmColori, ADelimiterTypedOrRemovedColoursTheLineAnew) {
-  DocumentoMostrato documento;
-  const frmColori colori(&documento);
-  documento.setPlainText("«P1");
-  QTextCursor cursore(&documento);
-  cursore.movePosition(QTextCursor::End);
-  cursore.insertText("»");
-  EXPECT_EQ(Colorati(documento.firstBlock(), colori), "«P1»=pagina");
-  cursore.deletePreviousChar();
-  EXPECT_EQ(Colorati(documento.firstBlock(), colori), "");
+using VettoreRighe = std::vector<std::string>;
+
+TEST(FrmColori, ACodeReachesOverLineEndsUpToTheNextClosingDelimiter) {
+  SezioneMostrata sezione("«V8\n\n10R» «P1»\nfine");
+  EXPECT_EQ(Righe(sezione), (VettoreRighe{"«V8=variabile", "", "10R»=variabile «P1»=pagina", ""}));
+}
+
+TEST(FrmColori, AClosingDelimiterFurtherOnColoursTheLinesInFrontOfItToo) {
+  SezioneMostrata sezione("a «P1\nb\nc");
+  EXPECT_EQ(Righe(sezione), (VettoreRighe{"", "", ""}));
+  sezione.Editor().moveCursor(QTextCursor::End);
+  sezione.Editor().Incolla("»");
+  EXPECT_EQ(Righe(sezione), (VettoreRighe{"«P1=pagina", "b=pagina", "c»=pagina"}));
+  QTest::keyClick(&sezione.Editor(), Qt::Key_A);
+  QTest::keyClick(&sezione.Editor(), Qt::Key_Backspace);
+  sezione.Editor().Poni(
+      CursoreSu({.Inizio = sezione.Modello().Testo(Sezione::Testata).Dimensione() - 1, .Lunghezza = 1}));
+  sezione.Modello().Applica(Sezione::Testata, {.Dove = 11, .Tolti = 1, .Messi = ""}, GenereModifica::Intera,
+                            {});
+  EXPECT_EQ(Righe(sezione), (VettoreRighe{"", "", ""}));
+}
+
+TEST(FrmColori, TheKindOfACodeOfSeveralLinesIsTheSameInAllOfThem) {
+  SezioneMostrata sezione("«P1\nb\nc»");
+  sezione.Modello().Applica(Sezione::Testata, {.Dove = 1, .Tolti = 1, .Messi = "F"}, GenereModifica::Intera,
+                            {});
+  EXPECT_EQ(Righe(sezione), (VettoreRighe{"«F1=flag", "b=flag", "c»=flag"}));
+}
+
+TEST(FrmColori, AnyEditLeavesTheColoursOfATextOpenedAnew) {
+  EXPECT_TRUE(rc::check([] {
+    const auto pezzo = [] {
+      return *rc::gen::element<std::string>("\xABV1\xBB", "\xAB", "\xBB", "\r\n", "P", "a");
+    };
+    SezioneMostrata sezione;
+    for (int passo = 0; passo < 20; ++passo) {
+      const TestoSezione& testo = sezione.Modello().Testo(Sezione::Testata);
+      const auto posto = [&testo] {
+        const Selezione riga = testo.Riga(*rc::gen::inRange<std::size_t>(0, testo.Righe()));
+        return riga.Inizio + *rc::gen::inRange<std::size_t>(0, riga.Lunghezza + 1);
+      };
+      const Selezione via = *rc::gen::inRange(0, 3) == 0 ? Cursore{posto(), posto()}.Selezionato()
+                                                         : Selezione{.Inizio = posto()};
+      sezione.Modello().Applica(Sezione::Testata,
+                                {.Dove = via.Inizio, .Tolti = via.Lunghezza, .Messi = pezzo()},
+                                GenereModifica::Intera, {});
+      SezioneMostrata nuova(PerSchermo(testo.Byte()));
+      RC_ASSERT(Righe(sezione) == Righe(nuova));
+    }
+  }));
 }
 
 TEST(FrmColori, AKeyPressColoursItsOwnLineAndNoOther) {
-  DocumentoMostrato documento;
-  const frmColori colori(&documento);
-  documento.setPlainText("uno\n«P1»\n«F3S»");
+  SezioneMostrata sezione("uno\n«P1»\n«F3S»");
   // Colours that no highlighter gives: whoever colours these lines again takes them away.
   QList<QList<QTextLayout::FormatRange>> segni;
-  for (QTextBlock riga = documento.firstBlock().next(); riga.isValid(); riga = riga.next()) {
+  for (QTextBlock riga = sezione.Riga(1); riga.isValid(); riga = riga.next()) {
     QTextLayout::FormatRange segno{.start = 0, .length = 1, .format = {}};
     segno.format.setFontStrikeOut(true);
     riga.layout()->setFormats({segno});
     segni.append(riga.layout()->formats());
   }
-  documento.markContentsDirty(0, 0);  // else the marks would count as part of the next edit
-  QTextCursor cursore(&documento);
-  cursore.insertText("«");
-  cursore.insertText("P1»");
-  EXPECT_EQ(Colorati(documento.firstBlock(), colori), "«P1»=pagina");
-  EXPECT_EQ(documento.findBlockByNumber(1).layout()->formats(), segni.at(0));
-  EXPECT_EQ(documento.findBlockByNumber(2).layout()->formats(), segni.at(1));
+  sezione.Testo().markContentsDirty(0, 0);  // else the marks would count as part of the next edit
+  sezione.Editor().Incolla("«P1»");
+  QTest::keyClick(&sezione.Editor(), Qt::Key_X);
+  EXPECT_EQ(Colorati(sezione.Riga(0), sezione.Colori()), "«P1»=pagina");
+  EXPECT_EQ(sezione.Riga(1).layout()->formats(), segni.at(0));
+  EXPECT_EQ(sezione.Riga(2).layout()->formats(), segni.at(1));
 }
 
 TEST(FrmColori, AnotherPaletteColoursTheWholeTextAnew) {
-  DocumentoMostrato documento;
-  frmColori colori(&documento);
-  documento.setPlainText("«P1»\n«F3S»");
-  const QColor prima = colori.Colore(TipoCodice::Pagina);
-  colori.ImpostaTavolozza(Scura());
-  EXPECT_NE(colori.Colore(TipoCodice::Pagina), prima);
-  EXPECT_EQ(Colorati(documento.firstBlock(), colori), "«P1»=pagina");
-  EXPECT_EQ(Colorati(documento.lastBlock(), colori), "«F3S»=flag");
+  SezioneMostrata sezione("«P1»\n«F3S»");
+  const QColor prima = sezione.Colori().Colore(TipoCodice::Pagina);
+  sezione.Colori().ImpostaTavolozza(Scura());
+  EXPECT_NE(sezione.Colori().Colore(TipoCodice::Pagina), prima);
+  EXPECT_EQ(Righe(sezione), (VettoreRighe{"«P1»=pagina", "«F3S»=flag"}));
 }
 
 TEST(FrmColori, ColouringIsNoEdit) {
-  QPlainTextEdit editor;
-  editor.setPlainText("«P1»\n");
-  const QSignalSpy spia(&editor, &QPlainTextEdit::textChanged);
-  auto* colori = new frmColori(editor.document());
+  SezioneMostrata sezione("«P1»\n");
+  const QSignalSpy spia(&sezione.Editor(), &QPlainTextEdit::textChanged);
   QApplication::processEvents();
-  colori->ImpostaTavolozza(Scura());
+  sezione.Colori().ImpostaTavolozza(Scura());
   QApplication::processEvents();
-  EXPECT_EQ(Colorati(editor.document()->firstBlock(), *colori), "«P1»=pagina");
+  EXPECT_EQ(Colorati(sezione.Riga(0), sezione.Colori()), "«P1»=pagina");
   EXPECT_EQ(spia.count(), 0);
-  EXPECT_FALSE(editor.document()->isModified());
-  EXPECT_FALSE(editor.document()->isUndoAvailable());
+  EXPECT_FALSE(sezione.Modello().Stato().Modificato);
+  EXPECT_FALSE(sezione.Modello().PuoAnnullare());
 }
 
 TEST(FrmColori, UndoTakesBackTheEditAndNotTheColours) {
-  QPlainTextEdit editor;
-  auto* colori = new frmColori(editor.document());
-  editor.setPlainText("«P1»");
-  editor.moveCursor(QTextCursor::End);
-  editor.insertPlainText("«F3S»");
-  EXPECT_EQ(Colorati(editor.document()->firstBlock(), *colori), "«P1»=pagina «F3S»=flag");
-  editor.undo();
-  EXPECT_EQ(Colorati(editor.document()->firstBlock(), *colori), "«P1»=pagina");
-  EXPECT_FALSE(editor.document()->isUndoAvailable());
-  colori->ImpostaTavolozza(Scura());
-  editor.redo();
-  EXPECT_EQ(Colorati(editor.document()->firstBlock(), *colori), "«P1»=pagina «F3S»=flag");
+  SezioneMostrata sezione("«P1»");
+  sezione.Editor().moveCursor(QTextCursor::End);
+  sezione.Editor().Incolla("«F3S»");
+  EXPECT_EQ(Colorati(sezione.Riga(0), sezione.Colori()), "«P1»=pagina «F3S»=flag");
+  sezione.Modello().Annulla();
+  EXPECT_EQ(Colorati(sezione.Riga(0), sezione.Colori()), "«P1»=pagina");
+  EXPECT_FALSE(sezione.Modello().PuoAnnullare());
+  sezione.Colori().ImpostaTavolozza(Scura());
+  sezione.Modello().Ripeti();
+  EXPECT_EQ(Colorati(sezione.Riga(0), sezione.Colori()), "«P1»=pagina «F3S»=flag");
 }
 
 }  // namespace

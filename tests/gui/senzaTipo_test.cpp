@@ -184,7 +184,9 @@ TEST_P(SenzaTipo, NoSignalThatTheWindowListensToDoesAnything) {
     emit sezione->CodiceDaAprire("V1;2L");
     emit sezione->CodiceDaAprire("S;NORMALE");
     emit sezione->VariabileDaInserire();
-    emit sezione->Modificata();
+    emit sezione->TastoPremuto();
+    emit sezione->DaAnnullare();
+    emit sezione->DaRipetere();
     QFocusEvent focus(QEvent::FocusIn);
     QApplication::sendEvent(sezione, &focus);
   }
@@ -206,7 +208,7 @@ TEST(SenzaTipoUnaSezione, TheSectionsThatATypeDoesNotHaveTakeNothingEither) {
   finestra.Scegli(12);
   const QString corpo = finestra.Sezione(1).toPlainText();
   QTest::keyClick(&finestra.Sezione(1), Qt::Key_A);
-  emit static_cast<txtTCP&>(finestra.Sezione(1)).Modificata();
+  emit static_cast<txtTCP&>(finestra.Sezione(1)).TastoPremuto();
   emit static_cast<txtTCP&>(finestra.Sezione(1)).Attivata(Sezione::Corpo);
   EXPECT_EQ(finestra.Sezione(1).toPlainText(), corpo);
   EXPECT_TRUE(finestra->close()) << "not modified";

@@ -1,4 +1,6 @@
 // The section editor under the key rules: real keys sent to the real widget.
+#include "supporto/Tasti.h"
+
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 
@@ -26,7 +28,7 @@ TEST(Tasti, BackspaceDeletesASelectedCode) {
 TEST(Tasti, BackspaceOnASelectionWithoutTheOpeningDelimiterLooksTheCodeUp) {
   Editor editor("x«[ABC»]y");
   editor.Premi(Qt::Key_Backspace);
-  EXPECT_EQ(editor.Testo(), ConSelezione("x«ABC»y").Testo);
+  EXPECT_EQ(editor.Testo(), ConSelezione("x«ABC»y").Testo.Byte());
 }
 
 TEST(Tasti, AFullStopCannotBeTyped) {
@@ -38,7 +40,7 @@ TEST(Tasti, AFullStopCannotBeTyped) {
 
 TEST(Tasti, ACodeBringsItsFullStopIn) {
   Editor editor("a|b");
-  editor.Widget().InserisciCodice(ConSelezione("«V8;9R;.0,2;0»").Testo);
+  editor.Inserisci("«V8;9R;.0,2;0»");
   EXPECT_EQ(editor.Disegno(), "a«V8;9R;.0,2;0»|b");
 }
 
@@ -52,7 +54,7 @@ TEST(Tasti, ASpaceInsideACodeOpensTheCodeAndElsewhereIsTyped) {
 
 TEST(Tasti, PressingLeftIsToldAsAnEdit) {
   Editor editor("ab|c");
-  const QSignalSpy spia(&editor.Widget(), &txtTCP::Modificata);
+  const QSignalSpy spia(&editor.Widget(), &txtTCP::TastoPremuto);
   editor.Premi(Qt::Key_Left);
   EXPECT_EQ(spia.count(), 1);
   EXPECT_EQ(editor.Disegno(), "a|bc");
@@ -60,21 +62,21 @@ TEST(Tasti, PressingLeftIsToldAsAnEdit) {
 
 TEST(Tasti, InsertingACodePutsTheCaretBehindItAndReplacesTheSelection) {
   Editor senza("ab|cd");
-  senza.Widget().InserisciCodice(ConSelezione("«X»").Testo);
+  senza.Inserisci("«X»");
   EXPECT_EQ(senza.Disegno(), "ab«X»|cd");
   Editor con("a[bc]d");
-  con.Widget().InserisciCodice(ConSelezione("«X»").Testo);
+  con.Inserisci("«X»");
   EXPECT_EQ(con.Disegno(), "a«X»|d");
 }
 
 TEST(Tasti, AnInsertedCodeIsOneStepToUndoAndNeverHalfOfIt) {
   Editor editor("a[bc]d");
   editor.Scrivi("xy");
-  editor.Widget().InserisciCodice(ConSelezione("«V1;2L»").Testo);
+  editor.Inserisci("«V1;2L»");
   editor.Scrivi("z");
-  editor.Widget().undo();
-  EXPECT_EQ(editor.Testo(), ConSelezione("axy«V1;2L»d").Testo);
-  editor.Widget().undo();
+  editor.Annulla();
+  EXPECT_EQ(editor.Testo(), ConSelezione("axy«V1;2L»d").Testo.Byte());
+  editor.Annulla();
   EXPECT_EQ(editor.Testo(), "axyd");
 }
 
@@ -96,7 +98,7 @@ TEST(Tasti, ACodeOfUnknownKindStaysSelectedAndASecondKeyDeletesIt) {
 TEST(Tasti, WhatTheDialogGivesTakesThePlaceOfTheCode) {
   Editor editor("a«V1|;2L»b");
   QObject::connect(&editor.Widget(), &txtTCP::CodiceDaAprire, &editor.Widget(),
-                   [&editor] { editor.Widget().InserisciCodice(ConSelezione("«V2;9R»").Testo); });
+                   [&editor] { editor.Inserisci("«V2;9R»"); });
   editor.Premi(Qt::Key_F4);
   EXPECT_EQ(editor.Disegno(), "a«V2;9R»|b");
 }
@@ -134,7 +136,7 @@ TEST(Tasti, HalfACodeInTheSelectionGrowsToTheWholeBeforeItIsDeleted) {
 
 TEST(Tasti, TabMovesTheFocusAndTypesNothing) {
   Editor editor("a|b");
-  const QSignalSpy spia(&editor.Widget(), &txtTCP::Modificata);
+  const QSignalSpy spia(&editor.Widget(), &txtTCP::TastoPremuto);
   EXPECT_EQ(editor.Premi(Qt::Key_Tab).Disegno(), "a|b");
   EXPECT_EQ(spia.count(), 1);
 }
@@ -180,7 +182,7 @@ std::vector<std::string> Segnati(Editor& editor) {
 
 TEST(Tasti, TheCodeUnderTheCaretIsMarkedAsAUnit) {
   Editor editor("ab «V1|;2L» cd");
-  EXPECT_EQ(Segnati(editor), std::vector{ConSelezione("«V1;2L»").Testo});
+  EXPECT_EQ(Segnati(editor), std::vector{ConSelezione("«V1;2L»").Testo.Byte()});
   editor.Premi(Qt::Key_Home);
   EXPECT_TRUE(Segnati(editor).empty());
 }
@@ -188,52 +190,16 @@ TEST(Tasti, TheCodeUnderTheCaretIsMarkedAsAUnit) {
 TEST(Tasti, ACodeIsMarkedWithTheCaretDirectlyInFrontOfItOrBehindItToo) {
   for (const char* disegno : {"ab|«V1;2L»cd", "ab«V1;2L»|cd", "ab«|V1;2L»cd", "ab«V1;2L|»cd"}) {
     Editor editor(disegno);
-    EXPECT_EQ(Segnati(editor), std::vector{ConSelezione("«V1;2L»").Testo}) << disegno;
+    EXPECT_EQ(Segnati(editor), std::vector{ConSelezione("«V1;2L»").Testo.Byte()}) << disegno;
   }
   for (const char* disegno : {"a|b«V1;2L»cd", "ab«V1;2L»c|d"}) {
     Editor editor(disegno);
     EXPECT_TRUE(Segnati(editor).empty()) << disegno;
   }
   Editor fra("«V1»|«V2»");
-  EXPECT_EQ(Segnati(fra), (std::vector{ConSelezione("«V1»").Testo, ConSelezione("«V2»").Testo}));
+  EXPECT_EQ(Segnati(fra),
+            (std::vector{ConSelezione("«V1»").Testo.Byte(), ConSelezione("«V2»").Testo.Byte()}));
 }
-
-/// The rules' own idea of an editor: a text, a selection, and dialogs that are always cancelled.
-struct Copia {
-  std::string Testo;
-  Selezione Scelta;
-
-  void Scrivi(char c) {
-    const EsitoTasto esito = PremiTasto(Testo, Scelta, TastoSezione::Togli);
-    if (esito.Azione == AzioneTasto::Allarga) {
-      Scelta = esito.Nuova;
-      return;
-    }
-    Testo.replace(Scelta.Inizio, Scelta.Lunghezza, 1, c);
-    Scelta = {.Inizio = Scelta.Inizio + 1, .Lunghezza = 0};
-  }
-  void Premi(TastoSezione tasto) {
-    const EsitoTasto esito = PremiTasto(Testo, Scelta, tasto);
-    if (esito.Azione == AzioneTasto::Allarga) Scelta = esito.Nuova;
-    if (esito.Azione == AzioneTasto::ApriCodice) Apri(esito.Nuova);
-    if (esito.Azione == AzioneTasto::Consueta) Consueta(tasto);
-  }
-  void Apri(Selezione codice) {
-    const std::string_view contenuto =
-        ContenutoDi(std::string_view(Testo).substr(codice.Inizio, codice.Lunghezza));
-    const bool nessuno = Riconosci(contenuto) == TipoCodice::Sconosciuto;
-    Scelta = {.Inizio = codice.Inizio, .Lunghezza = nessuno ? codice.Lunghezza : 0};
-  }
-  void Consueta(TastoSezione tasto) {
-    if (tasto == TastoSezione::Spazio) return Scrivi(' ');
-    if (tasto == TastoSezione::Togli && Scelta.Lunghezza == 0) return;
-    if (Scelta.Lunghezza == 0 && tasto == TastoSezione::Backspace)
-      Scelta = {.Inizio = Scelta.Inizio - 1, .Lunghezza = 1};
-    if (Scelta.Lunghezza == 0 && Scelta.Inizio < Testo.size()) Scelta.Lunghezza = 1;
-    Testo.erase(Scelta.Inizio, Scelta.Lunghezza);
-    Scelta.Lunghezza = 0;
-  }
-};
 
 struct Passo {
   Qt::Key Tasto;
@@ -243,27 +209,25 @@ struct Passo {
 
 TEST(TastiProprieta, WidgetAndRulesAgreeAtEveryStep) {
   EXPECT_TRUE(rc::check([] {
-    Copia copia;
+    std::string disegno;
     for (const int pezzo : *rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 8))) {
       const char* const pezzi[] = {"«V1;2L»", "«XY»", "«»", "\n", "«", "»", "ab", " "};
-      copia.Testo += ConSelezione(pezzi[pezzo]).Testo;
+      disegno += pezzi[pezzo];
     }
-    Editor editor("|");
-    editor.Widget().setPlainText(PerSchermo(copia.Testo).replace(u'\u240A', u'\n'));
-    const auto disegno = [&copia] {
-      std::string testo = copia.Testo;
-      std::ranges::replace(testo, '\n', ' ');
-      return prova::Scritto(testo, copia.Scelta);
-    };
+    Editor editor(disegno.c_str());
+    prova::BancoSezione banco(editor.NelModello());
     for (int passo = 0; passo < 40; ++passo) {
-      const auto lunghezza = static_cast<int>(copia.Testo.size());
       if (*rc::gen::inRange(0, 3) == 0) {
-        copia.Scelta.Inizio = static_cast<std::size_t>(*rc::gen::inRange(0, lunghezza + 1));
-        const int resto = lunghezza - static_cast<int>(copia.Scelta.Inizio);
-        copia.Scelta.Lunghezza = static_cast<std::size_t>(*rc::gen::inRange(0, resto + 1));
-        editor.Seleziona(copia.Scelta);
+        const TestoSezione& testo = banco.Testo();
+        const auto posto = [&testo] {
+          const Selezione riga = testo.Riga(*rc::gen::inRange<std::size_t>(0, testo.Righe()));
+          return riga.Inizio + *rc::gen::inRange<std::size_t>(0, riga.Lunghezza + 1);
+        };
+        const Cursore cursore{.Ancora = posto(), .Posto = posto()};
+        editor.Widget().Poni(cursore);
+        banco.Veduta().Poni(cursore);
       }
-      const int scelta = *rc::gen::inRange(0, 7);
+      const int scelta = *rc::gen::inRange(0, 8);
       if (scelta < 5) {
         const Passo passi[] = {{Qt::Key_Backspace, TastoSezione::Backspace},
                                {Qt::Key_Delete, TastoSezione::Canc},
@@ -271,12 +235,17 @@ TEST(TastiProprieta, WidgetAndRulesAgreeAtEveryStep) {
                                {Qt::Key_Space, TastoSezione::Spazio},
                                {Qt::Key_X, TastoSezione::Togli, Qt::ControlModifier}};
         editor.Premi(passi[scelta].Tasto, passi[scelta].Con);
-        copia.Premi(passi[scelta].Regola);
-      } else {
+        banco.Comandi().Premi(passi[scelta].Regola, Pressione::Prima);
+      } else if (scelta < 7) {
         editor.Scrivi(scelta == 5 ? "q" : ".");
-        if (scelta == 5) copia.Scrivi('q');
+        banco.Comandi().Scrivi(scelta == 5 ? "q" : ".", Pressione::Prima);
+      } else {
+        editor.Premi(Qt::Key_Return);
+        banco.Comandi().VaiACapo(Pressione::Prima);
       }
-      RC_ASSERT(editor.Disegno() == disegno());
+      RC_ASSERT(editor.NelModello() == banco.Testo());
+      RC_ASSERT(editor.Widget().CursoreAttuale().Selezionato() == banco.Selezionato());
+      RC_ASSERT(DaSchermo(editor.Widget().document()->toRawText()) == banco.Testo().Byte());
     }
   }));
 }

@@ -88,7 +88,7 @@ TEST(Togliere, WhatGrewIsNotOnTheClipboardAndWhatWasCutIs) {
   editor.Premi(Qt::Key_X, Qt::ControlModifier);
   EXPECT_EQ(QApplication::clipboard()->text(), "prima");
   editor.Premi(Qt::Key_X, Qt::ControlModifier);
-  EXPECT_EQ(DaSchermo(QApplication::clipboard()->text()), ConSelezione("ab«V1;2L»").Testo);
+  EXPECT_EQ(DaSchermo(QApplication::clipboard()->text()), ConSelezione("ab«V1;2L»").Testo.Byte());
 }
 
 TEST(Togliere, CtrlKTakesTheRestOfTheLineAndThenItsEnd) {

@@ -35,7 +35,7 @@ class TxtDisposizione : public testing::Test {
   TxtDisposizione() {
     std::string testo;
     for (int i = 0; i < 40; ++i) testo += "riga \xABV" + std::to_string(i) + "\xBB fine \xABS;GR\xBB\r\n";
-    editor_.ImpostaAnsi(testo);
+    modello_.Imposta(Sezione::Testata, testo);
     editor_.resize(500, 300);
     editor_.show();
     editor_.activateWindow();
@@ -65,7 +65,14 @@ class TxtDisposizione : public testing::Test {
     EXPECT_TRUE(schermo.convertToFormat(QImage::Format_RGB32) == vero.convertToFormat(QImage::Format_RGB32));
   }
 
-  txtTCP editor_{Sezione::Testata, nullptr};
+  void InserisciCodice(const char* codice) {
+    const Selezione scelta = editor_.CursoreAttuale().Selezionato();
+    modello_.Applica(Sezione::Testata, {.Dove = scelta.Inizio, .Tolti = scelta.Lunghezza, .Messi = codice},
+                     GenereModifica::Intera, editor_.CursoreAttuale());
+  }
+
+  Documento modello_;
+  txtTCP editor_{modello_, Sezione::Testata, nullptr};
 };
 
 TEST_F(TxtDisposizione, AKeyInAColouredLineRepaintsThatLineOnly) {
@@ -85,10 +92,10 @@ TEST_F(TxtDisposizione, EveryKindOfChangeIsSeenOnTheScreenAtOnce) {
       [&] { QTest::keyClick(&editor_, Qt::Key_Backspace); },
       [&] { QTest::keyClick(&editor_, Qt::Key_Delete); },
       [&] { editor_.Incolla("uno\n\xC2\xABV7\xC2\xBB due\ntre"); },
-      [&] { editor_.InserisciCodice("\xABV9\xBB"); },
-      [&] { editor_.undo(); },
-      [&] { editor_.undo(); },
-      [&] { editor_.redo(); },
+      [&] { InserisciCodice("\xABV9\xBB"); },
+      [&] { modello_.Annulla(); },
+      [&] { modello_.Annulla(); },
+      [&] { modello_.Ripeti(); },
       [&] {
         editor_.moveCursor(QTextCursor::Down, QTextCursor::KeepAnchor);
         editor_.moveCursor(QTextCursor::Down, QTextCursor::KeepAnchor);
@@ -96,9 +103,9 @@ TEST_F(TxtDisposizione, EveryKindOfChangeIsSeenOnTheScreenAtOnce) {
       },
       [&] { editor_.selectAll(); },
       [&] { editor_.Elimina(); },
-      [&] { editor_.undo(); },
-      [&] { editor_.CompletaUltimaRiga(); },
-      [&] { editor_.ImpostaAnsi("altro \xABV1\xBB\r\n"); },
+      [&] { modello_.Annulla(); },
+      [&] { modello_.CompletaUltimaRiga(Sezione::Testata); },
+      [&] { modello_.Imposta(Sezione::Testata, "altro \xABV1\xBB\r\n"); },
   };
   VaiA(3, 5);
   AttendiSchermoVero();

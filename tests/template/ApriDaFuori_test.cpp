@@ -21,17 +21,17 @@ class ApriDaFuori : public BancoComandi {
   }
 
   void AttendiNienteCambiato() {
-    EXPECT_EQ((TestiSezioni{"t\r\n", "c\r\n", "p\r\n"}), sezioni_.Testi);
+    EXPECT_EQ((TestiSezioni{"t\r\n", "c\r\n", "p\r\n"}), TestiOra());
     EXPECT_TRUE(contorno_.Fatti.empty());
-    EXPECT_EQ("prima.img", documento_.NomeFile);
+    EXPECT_EQ("prima.img", documento_.Stato().NomeFile);
   }
 };
 
 TEST_F(ApriDaFuori, DoesWhatOpenDoesWithTheChosenFile) {
   comandi_.ApriDaFuori(tre_, dirImg_ / "MODELLO1.IMG");
-  EXPECT_EQ((TestiSezioni{"n\r\n", "m\r\n", "o\r\n"}), sezioni_.Testi);
-  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.NomeFile);
-  EXPECT_FALSE(documento_.Modificato);
+  EXPECT_EQ((TestiSezioni{"n\r\n", "m\r\n", "o\r\n"}), TestiOra());
+  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.Stato().NomeFile);
+  EXPECT_FALSE(documento_.Stato().Modificato);
   EXPECT_EQ((std::vector<std::string>{"anteprima spenta", "flag azzerati", "titolo Ordavia - MODELLO1.IMG"}),
             contorno_.Fatti);
   AttendiMessaggi({});
@@ -39,22 +39,22 @@ TEST_F(ApriDaFuori, DoesWhatOpenDoesWithTheChosenFile) {
 
 TEST_F(ApriDaFuori, FindsTheFileThatANameWithoutExtensionMeans) {
   comandi_.ApriDaFuori(tre_, dirImg_ / "modello1");
-  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.NomeFile);
+  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.Stato().NomeFile);
 }
 
 TEST_F(ApriDaFuori, TellsOfAFileThatIsNotThereAndChangesNothing) {
-  documento_.NomeFile = "prima.img";
-  documento_.Modificato = true;  // and does not even ask about it
+  documento_.Stato().NomeFile = "prima.img";
+  documento_.Stato().Modificato = true;  // and does not even ask about it
   interlocutore_.Rispondera(Risposta::Ok);
   comandi_.ApriDaFuori(tre_, dirImg_ / "MANCA.IMG");
   AttendiMessaggi({Errore(NumeroErrore::FileNonTrovato, dirImg_ / "MANCA.IMG")});
   AttendiNienteCambiato();
-  EXPECT_TRUE(documento_.Modificato);
+  EXPECT_TRUE(documento_.Stato().Modificato);
 }
 
 TEST_F(ApriDaFuori, AsksAboutAModifiedTemplateFirst) {
-  documento_.NomeFile = "prima.img";
-  documento_.Modificato = true;
+  documento_.Stato().NomeFile = "prima.img";
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Annulla);
   comandi_.ApriDaFuori(tre_, dirImg_ / "MODELLO1.IMG");
   AttendiMessaggi({Domanda()});
@@ -67,11 +67,11 @@ TEST_F(ApriDaFuori, TellsThatTheFileEndsTooSoonAndShowsWhatThereIs) {
   interlocutore_.Rispondera(Risposta::Ok);
   comandi_.ApriDaFuori(tre_, corto);
   AttendiMessaggi({Errore(NumeroErrore::InputOltreFine, corto)});
-  EXPECT_EQ((TestiSezioni{"n\r\n", "m\r\n", ""}), sezioni_.Testi);
+  EXPECT_EQ((TestiSezioni{"n\r\n", "m\r\n", ""}), TestiOra());
 }
 
 TEST_F(ApriDaFuori, TellsOfAFileTooLargeForAWindow) {
-  documento_.NomeFile = "prima.img";
+  documento_.Stato().NomeFile = "prima.img";
   const std::filesystem::path grande = dirImg_ / "GRANDE.IMG";
   Crea(grande, "");
   std::filesystem::resize_file(grande, (128ULL << 20U) + 1);

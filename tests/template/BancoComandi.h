@@ -16,21 +16,20 @@
 
 namespace parvik::prova {
 
-class SezioniFinte final : public Sezioni {
+/// Keeps what happened to the document's texts, but for what the user did.
+class UditoreFinto final : public AscoltatoreDocumento {
  public:
-  std::string Testo(Sezione sezione) const override { return Testi[Indice(sezione)]; }
-  void ImpostaTesto(Sezione sezione, std::string_view testo) override {
-    Testi[Indice(sezione)] = testo;
-    Impostate.push_back(sezione);
+  explicit UditoreFinto(Documento& documento) : ascolto_(documento.Ascolta(*this)) {}
+  void Modificata(const CambiamentoTesto& cambiamento) override {
+    if (cambiamento.DelProgramma) DelProgramma.push_back(cambiamento.Dove);
   }
-  void CompletaUltimaRiga(Sezione sezione) override {
-    Testi[Indice(sezione)] += "\r\n";
-    Completate.push_back(sezione);
-  }
+  void Sostituita(Sezione sezione) override { Sostituite.push_back(sezione); }
 
-  TestiSezioni Testi;
-  std::vector<Sezione> Impostate;
-  std::vector<Sezione> Completate;
+  std::vector<Sezione> DelProgramma;
+  std::vector<Sezione> Sostituite;
+
+ private:
+  Documento::Ascolto ascolto_;
 };
 
 /// Keeps what happened around the commands, in its order.
@@ -46,17 +45,29 @@ class ContornoFinto final : public Contorno {
 
 class BancoComandi : public testing::Test {
  protected:
-  BancoComandi() : comandi_(documento_, sezioni_, interlocutore_, contorno_, dirImg_.Percorso()) {
+  BancoComandi() : comandi_(documento_, interlocutore_, contorno_, dirImg_.Percorso()) {
     tre_.Titolo = "FATT*.IMG";
     tre_.NumSezioni = 3;
     una_.Titolo = "LIST*.IMG";
     una_.NumSezioni = 1;
-    sezioni_.Testi = {"t\r\n", "c\r\n", "p\r\n"};
-    documento_.Corpo = ImpostazioniPredefinite();
+    Imposta({"t\r\n", "c\r\n", "p\r\n"});
+    documento_.Stato().Corpo = ImpostazioniPredefinite();
   }
 
-  /// The file that `sezioni_` make, as they stand at the beginning, under the type with three sections.
+  /// The file that the sections make, as they stand at the beginning, under the type with three sections.
   static std::string FileIniziale() { return "t\r\n" + Marcatore("23;1;") + "c\r\np\r\n"; }
+
+  void Imposta(const TestiSezioni& testi) {
+    for (const Sezione sezione : TutteLeSezioni) Imposta(sezione, testi[Indice(sezione)]);
+  }
+  void Imposta(Sezione sezione, std::string_view byte) {
+    documento_.Imposta(sezione, byte);
+    uditore_.Sostituite.clear();
+  }
+  std::string Testo(Sezione sezione) const { return documento_.Testo(sezione).Byte(); }
+  TestiSezioni TestiOra() const {
+    return {Testo(Sezione::Testata), Testo(Sezione::Corpo), Testo(Sezione::Piede)};
+  }
 
   /// A file that can be named, but not written or made: a folder of it is missing.
   std::filesystem::path FileImpossibile() const { return dirImg_ / "manca/a.img"; }
@@ -99,7 +110,7 @@ class BancoComandi : public testing::Test {
 
   CartellaTemporanea dirImg_;
   Documento documento_;
-  SezioniFinte sezioni_;
+  UditoreFinto uditore_{documento_};
   InterlocutoreScritto interlocutore_;
   ContornoFinto contorno_;
   ComandiFile comandi_;

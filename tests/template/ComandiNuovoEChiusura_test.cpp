@@ -13,24 +13,24 @@ using Elenco = std::vector<std::string>;
 class ComandoNuovo : public BancoComandi {
  protected:
   void AttendiRipartenza() const {
-    EXPECT_FALSE(documento_.Modificato);
+    EXPECT_FALSE(documento_.Stato().Modificato);
     EXPECT_EQ(Elenco{"senza tipo"}, contorno_.Fatti);
   }
 };
 class PuoChiudere : public BancoComandi {};
 
 TEST_F(ComandoNuovo, AsksNothingAboutAnUnmodifiedTemplateAndKeepsTextsAndName) {
-  documento_.NomeFile = dirImg_ / "A.IMG";
+  documento_.Stato().NomeFile = dirImg_ / "A.IMG";
   comandi_.Nuovo(tre_);
   AttendiRipartenza();
   AttendiMessaggi({});
-  EXPECT_EQ(dirImg_ / "A.IMG", documento_.NomeFile);
-  EXPECT_EQ((TestiSezioni{"t\r\n", "c\r\n", "p\r\n"}), sezioni_.Testi);
+  EXPECT_EQ(dirImg_ / "A.IMG", documento_.Stato().NomeFile);
+  EXPECT_EQ((TestiSezioni{"t\r\n", "c\r\n", "p\r\n"}), TestiOra());
 }
 
 TEST_F(ComandoNuovo, GoesOnThoughTheQuestionIsCancelled) {
-  documento_.NomeFile = dirImg_ / "A.IMG";
-  documento_.Modificato = true;
+  documento_.Stato().NomeFile = dirImg_ / "A.IMG";
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Annulla);
   comandi_.Nuovo(tre_);
   AttendiMessaggi({Domanda()});
@@ -39,8 +39,8 @@ TEST_F(ComandoNuovo, GoesOnThoughTheQuestionIsCancelled) {
 }
 
 TEST_F(ComandoNuovo, DoesNotSaveWhenTheAnswerIsNo) {
-  documento_.NomeFile = dirImg_ / "A.IMG";
-  documento_.Modificato = true;
+  documento_.Stato().NomeFile = dirImg_ / "A.IMG";
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::No);
   comandi_.Nuovo(tre_);
   AttendiRipartenza();
@@ -48,8 +48,8 @@ TEST_F(ComandoNuovo, DoesNotSaveWhenTheAnswerIsNo) {
 }
 
 TEST_F(ComandoNuovo, SavesWhenTheAnswerIsYes) {
-  documento_.NomeFile = dirImg_ / "A.IMG";
-  documento_.Modificato = true;
+  documento_.Stato().NomeFile = dirImg_ / "A.IMG";
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Si);
   comandi_.Nuovo(tre_);
   AttendiRipartenza();
@@ -57,7 +57,7 @@ TEST_F(ComandoNuovo, SavesWhenTheAnswerIsYes) {
 }
 
 TEST_F(ComandoNuovo, GoesOnThoughSaveAsIsGivenUp) {
-  documento_.Modificato = true;
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Si);
   interlocutore_.Scegliera({});
   comandi_.Nuovo(tre_);
@@ -65,8 +65,8 @@ TEST_F(ComandoNuovo, GoesOnThoughSaveAsIsGivenUp) {
 }
 
 TEST_F(ComandoNuovo, GoesOnThoughTheWriteFails) {
-  documento_.NomeFile = FileImpossibile();
-  documento_.Modificato = true;
+  documento_.Stato().NomeFile = FileImpossibile();
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Si);
   interlocutore_.Rispondera(Risposta::Ok);
   comandi_.Nuovo(tre_);
@@ -80,32 +80,32 @@ TEST_F(PuoChiudere, AsksNothingAboutAnUnmodifiedTemplate) {
 }
 
 TEST_F(PuoChiudere, KeepsTheWindowAndItsTextWhenTheQuestionIsCancelled) {
-  documento_.Modificato = true;
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Annulla);
   EXPECT_FALSE(comandi_.PuoChiudere(tre_));
   AttendiMessaggi({Domanda()});
-  EXPECT_TRUE(documento_.Modificato);
-  EXPECT_EQ((TestiSezioni{"t\r\n", "c\r\n", "p\r\n"}), sezioni_.Testi);
+  EXPECT_TRUE(documento_.Stato().Modificato);
+  EXPECT_EQ((TestiSezioni{"t\r\n", "c\r\n", "p\r\n"}), TestiOra());
 }
 
 TEST_F(PuoChiudere, ClosesWithoutSavingWhenTheAnswerIsNo) {
-  documento_.NomeFile = dirImg_ / "A.IMG";
-  documento_.Modificato = true;
+  documento_.Stato().NomeFile = dirImg_ / "A.IMG";
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::No);
   EXPECT_TRUE(comandi_.PuoChiudere(tre_));
   EXPECT_EQ(Elenco{}, Nomi(dirImg_.Percorso()));
 }
 
 TEST_F(PuoChiudere, ClosesAfterSavingWhenTheAnswerIsYes) {
-  documento_.NomeFile = dirImg_ / "A.IMG";
-  documento_.Modificato = true;
+  documento_.Stato().NomeFile = dirImg_ / "A.IMG";
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Si);
   EXPECT_TRUE(comandi_.PuoChiudere(tre_));
   EXPECT_EQ(FileIniziale(), Contenuto(dirImg_ / "A.IMG"));
 }
 
 TEST_F(PuoChiudere, ClosesAfterSavingUnderANewName) {
-  documento_.Modificato = true;
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Si);
   interlocutore_.Scegliera(dirImg_ / "A.IMG");
   EXPECT_TRUE(comandi_.PuoChiudere(tre_));
@@ -113,25 +113,25 @@ TEST_F(PuoChiudere, ClosesAfterSavingUnderANewName) {
 }
 
 TEST_F(PuoChiudere, KeepsTheWindowWhenTheAnswerWasYesAndSaveAsIsGivenUp) {
-  documento_.Modificato = true;
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Si);
   interlocutore_.Scegliera({});
   EXPECT_FALSE(comandi_.PuoChiudere(tre_));
-  EXPECT_TRUE(documento_.Modificato);
+  EXPECT_TRUE(documento_.Stato().Modificato);
 }
 
 TEST_F(PuoChiudere, KeepsTheWindowWhenTheAnswerWasYesAndTheWriteFails) {
-  documento_.NomeFile = FileImpossibile();
-  documento_.Modificato = true;
+  documento_.Stato().NomeFile = FileImpossibile();
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Si);
   interlocutore_.Rispondera(Risposta::Ok);
   EXPECT_FALSE(comandi_.PuoChiudere(tre_));
   AttendiMessaggi({Domanda(), Errore(NumeroErrore::PercorsoNonTrovato)});
-  EXPECT_TRUE(documento_.Modificato);
+  EXPECT_TRUE(documento_.Stato().Modificato);
 }
 
 TEST_F(PuoChiudere, KeepsTheWindowWhenTheAnswerWasYesAndSaveAsFails) {
-  documento_.Modificato = true;
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Si);
   interlocutore_.Scegliera(FileImpossibile());
   EXPECT_FALSE(comandi_.PuoChiudere(tre_));
@@ -139,8 +139,8 @@ TEST_F(PuoChiudere, KeepsTheWindowWhenTheAnswerWasYesAndSaveAsFails) {
 }
 
 TEST_F(PuoChiudere, ClosesWhenTheAnswerWasYesAndThereIsNothingToSave) {
-  documento_.Modificato = true;
-  sezioni_.Testi = {"\r\n", "\r\n", "\r\n"};
+  documento_.Stato().Modificato = true;
+  Imposta({"\r\n", "\r\n", "\r\n"});
   interlocutore_.Rispondera(Risposta::Si);
   EXPECT_TRUE(comandi_.PuoChiudere(tre_));
 }

@@ -23,10 +23,10 @@ class ComandoApri : public BancoComandi {
 TEST_F(ComandoApri, ReadsTheChosenFileAndShowsItsName) {
   interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
   comandi_.Apri(tre_);
-  EXPECT_EQ(Aperti(), sezioni_.Testi);
-  EXPECT_EQ((ImpostazioniCorpo{7, 1, "C", "S"}), documento_.Corpo);
-  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.NomeFile);
-  EXPECT_FALSE(documento_.Modificato);
+  EXPECT_EQ(Aperti(), TestiOra());
+  EXPECT_EQ((ImpostazioniCorpo{7, 1, "C", "S"}), documento_.Stato().Corpo);
+  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.Stato().NomeFile);
+  EXPECT_FALSE(documento_.Stato().Modificato);
   EXPECT_EQ((Testi{"anteprima spenta", "flag azzerati", "titolo Ordavia - MODELLO1.IMG"}), contorno_.Fatti);
 }
 
@@ -64,20 +64,20 @@ TEST_F(ComandoApri, GivesThePatternAsUtf8) {
 }
 
 TEST_F(ComandoApri, ForgetsTheFileNameAndNothingElseWhenTheChoiceIsGivenUp) {
-  documento_.NomeFile = "prima.img";
+  documento_.Stato().NomeFile = "prima.img";
   interlocutore_.Scegliera({});
   comandi_.Apri(tre_);
-  EXPECT_EQ("", documento_.NomeFile);
-  EXPECT_EQ(Iniziali(), sezioni_.Testi);
+  EXPECT_EQ("", documento_.Stato().NomeFile);
+  EXPECT_EQ(Iniziali(), TestiOra());
   EXPECT_EQ(Testi{}, contorno_.Fatti);
 }
 
 TEST_F(ComandoApri, StaysModifiedWhenTheChoiceIsGivenUp) {
-  documento_.Modificato = true;
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::No);
   interlocutore_.Scegliera({});
   comandi_.Apri(tre_);
-  EXPECT_TRUE(documento_.Modificato);
+  EXPECT_TRUE(documento_.Stato().Modificato);
 }
 
 TEST_F(ComandoApri, AsksNothingAboutAnUnmodifiedTemplate) {
@@ -87,102 +87,102 @@ TEST_F(ComandoApri, AsksNothingAboutAnUnmodifiedTemplate) {
 }
 
 TEST_F(ComandoApri, DoesNothingWhenTheQuestionIsCancelled) {
-  documento_.Modificato = true;
-  documento_.NomeFile = dirImg_ / "prima.img";
+  documento_.Stato().Modificato = true;
+  documento_.Stato().NomeFile = dirImg_ / "prima.img";
   interlocutore_.Rispondera(Risposta::Annulla);
   comandi_.Apri(tre_);
   AttendiMessaggi({Domanda()});
-  EXPECT_EQ(dirImg_ / "prima.img", documento_.NomeFile);
-  EXPECT_TRUE(documento_.Modificato);
-  EXPECT_EQ(Iniziali(), sezioni_.Testi);
+  EXPECT_EQ(dirImg_ / "prima.img", documento_.Stato().NomeFile);
+  EXPECT_TRUE(documento_.Stato().Modificato);
+  EXPECT_EQ(Iniziali(), TestiOra());
   EXPECT_EQ(Testi{}, contorno_.Fatti);
 }
 
 TEST_F(ComandoApri, OpensWithoutSavingWhenTheAnswerIsNo) {
-  documento_.Modificato = true;
-  documento_.NomeFile = dirImg_ / "prima.img";
+  documento_.Stato().Modificato = true;
+  documento_.Stato().NomeFile = dirImg_ / "prima.img";
   interlocutore_.Rispondera(Risposta::No);
   interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
   comandi_.Apri(tre_);
   EXPECT_EQ(Testi{"MODELLO1.IMG"}, Nomi(dirImg_.Percorso()));
-  EXPECT_EQ(Aperti(), sezioni_.Testi);
-  EXPECT_FALSE(documento_.Modificato);
+  EXPECT_EQ(Aperti(), TestiOra());
+  EXPECT_FALSE(documento_.Stato().Modificato);
 }
 
 TEST_F(ComandoApri, SavesFirstWhenTheAnswerIsYes) {
-  documento_.Modificato = true;
-  documento_.NomeFile = dirImg_ / "prima.img";
+  documento_.Stato().Modificato = true;
+  documento_.Stato().NomeFile = dirImg_ / "prima.img";
   interlocutore_.Rispondera(Risposta::Si);
   interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
   comandi_.Apri(tre_);
   EXPECT_EQ(FileIniziale(), Contenuto(dirImg_ / "prima.img"));
-  EXPECT_EQ(Aperti(), sezioni_.Testi);
-  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.NomeFile);
+  EXPECT_EQ(Aperti(), TestiOra());
+  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.Stato().NomeFile);
 }
 
 TEST_F(ComandoApri, SavesANamelessTemplateUnderANameFirstWhenTheAnswerIsYes) {
-  documento_.Modificato = true;
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Si);
   interlocutore_.Scegliera(dirImg_ / "nuovo.img");
   interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
   comandi_.Apri(tre_);
   EXPECT_EQ(FileIniziale(), Contenuto(dirImg_ / "nuovo.img"));
-  EXPECT_EQ(Aperti(), sezioni_.Testi);
+  EXPECT_EQ(Aperti(), TestiOra());
 }
 
 TEST_F(ComandoApri, DoesNothingWhenTheAnswerWasYesAndSaveAsWasGivenUp) {
-  documento_.Modificato = true;
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Si);
   interlocutore_.Scegliera({});
   comandi_.Apri(tre_);
   EXPECT_EQ(1U, interlocutore_.Richieste.size());
-  EXPECT_TRUE(documento_.Modificato);
-  EXPECT_EQ(Iniziali(), sezioni_.Testi);
+  EXPECT_TRUE(documento_.Stato().Modificato);
+  EXPECT_EQ(Iniziali(), TestiOra());
 }
 
 TEST_F(ComandoApri, DoesNothingWhenTheAnswerWasYesAndTheWriteFailed) {
-  documento_.Modificato = true;
-  documento_.NomeFile = FileImpossibile();
+  documento_.Stato().Modificato = true;
+  documento_.Stato().NomeFile = FileImpossibile();
   interlocutore_.Rispondera(Risposta::Si);
   interlocutore_.Rispondera(Risposta::Ok);
   comandi_.Apri(tre_);
   AttendiMessaggi({Domanda(), Errore(NumeroErrore::PercorsoNonTrovato)});
-  EXPECT_EQ(FileImpossibile(), documento_.NomeFile);
-  EXPECT_TRUE(documento_.Modificato);
+  EXPECT_EQ(FileImpossibile(), documento_.Stato().NomeFile);
+  EXPECT_TRUE(documento_.Stato().Modificato);
 }
 
 TEST_F(ComandoApri, GoesOnWhenTheAnswerWasYesAndThereIsNothingToSave) {
-  documento_.Modificato = true;
-  sezioni_.Testi = {"\r\n", "\r\n", "\r\n"};
+  documento_.Stato().Modificato = true;
+  Imposta({"\r\n", "\r\n", "\r\n"});
   interlocutore_.Rispondera(Risposta::Si);
   interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
   comandi_.Apri(tre_);
-  EXPECT_EQ(Aperti(), sezioni_.Testi);
-  EXPECT_FALSE(documento_.Modificato);
+  EXPECT_EQ(Aperti(), TestiOra());
+  EXPECT_FALSE(documento_.Stato().Modificato);
 }
 
 TEST_F(ComandoApri, IsSilentAboutAMissingFileWhoseNameItKeeps) {
-  documento_.Modificato = true;
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::No);
   interlocutore_.Scegliera(dirImg_ / "MANCA001.IMG");
   comandi_.Apri(tre_);
   AttendiMessaggi({Domanda()});
-  EXPECT_EQ(dirImg_ / "MANCA001.IMG", documento_.NomeFile);
-  EXPECT_EQ(Iniziali(), sezioni_.Testi);
-  EXPECT_FALSE(documento_.Modificato);
+  EXPECT_EQ(dirImg_ / "MANCA001.IMG", documento_.Stato().NomeFile);
+  EXPECT_EQ(Iniziali(), TestiOra());
+  EXPECT_FALSE(documento_.Stato().Modificato);
   EXPECT_EQ((Testi{"anteprima spenta", "flag azzerati", "titolo Ordavia - MANCA001.IMG"}), contorno_.Fatti);
 }
 
 TEST_F(ComandoApri, OpensAFileOf128MiBAndRefusesAGreaterOneBeforeAnythingChanges) {
   constexpr std::uintmax_t massimo = 128U << 20U;
   std::filesystem::resize_file(dirImg_ / "MODELLO1.IMG", massimo + 1);
-  documento_.NomeFile = dirImg_ / "prima.img";
+  documento_.Stato().NomeFile = dirImg_ / "prima.img";
   interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
   interlocutore_.Rispondera(Risposta::Ok);
   comandi_.Apri(tre_);
   AttendiMessaggi({Errore(NumeroErrore::MemoriaEsaurita)});
-  EXPECT_EQ(Iniziali(), sezioni_.Testi);
-  EXPECT_EQ(dirImg_ / "prima.img", documento_.NomeFile);
+  EXPECT_EQ(Iniziali(), TestiOra());
+  EXPECT_EQ(dirImg_ / "prima.img", documento_.Stato().NomeFile);
   EXPECT_EQ(Testi{}, contorno_.Fatti);
 
   interlocutore_.Messaggi.clear();
@@ -190,8 +190,8 @@ TEST_F(ComandoApri, OpensAFileOf128MiBAndRefusesAGreaterOneBeforeAnythingChanges
   interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
   comandi_.Apri(tre_);
   AttendiMessaggi({});
-  EXPECT_EQ(Aperti()[0], sezioni_.Testi[0]);
-  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.NomeFile);
+  EXPECT_EQ(Aperti()[0], Testo(Sezione::Testata));
+  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.Stato().NomeFile);
 }
 
 TEST_F(ComandoApri, ShowsWhatCouldBeReadOfAFileThatEndsTooEarly) {
@@ -199,12 +199,12 @@ TEST_F(ComandoApri, ShowsWhatCouldBeReadOfAFileThatEndsTooEarly) {
   interlocutore_.Scegliera(dirImg_ / "CORTO.IMG");
   comandi_.Apri(tre_);
   AttendiMessaggi({});
-  EXPECT_EQ((TestiSezioni{"n\r\n", "m\r\n", ""}), sezioni_.Testi);
-  EXPECT_EQ((ImpostazioniCorpo{7, 5, "", ""}), documento_.Corpo);
+  EXPECT_EQ((TestiSezioni{"n\r\n", "m\r\n", ""}), TestiOra());
+  EXPECT_EQ((ImpostazioniCorpo{7, 5, "", ""}), documento_.Stato().Corpo);
 }
 
 TEST_F(ComandoApri, LeavesThePrintFlagsAloneWhenTheTestataIsEmpty) {
-  sezioni_.Testi[0] = "";
+  Imposta(Sezione::Testata, "");
   interlocutore_.Scegliera(dirImg_ / "MODELLO1.IMG");
   comandi_.Apri(tre_);
   EXPECT_EQ((Testi{"anteprima spenta", "titolo Ordavia - MODELLO1.IMG"}), contorno_.Fatti);
@@ -214,24 +214,24 @@ TEST_F(ComandoApri, TouchesOnlyTheTestataUnderATypeOfOneSection) {
   Crea(dirImg_ / "LISTINO1.IMG", "uno\r\n" + CodiceFile("V1") + "\r\n");
   interlocutore_.Scegliera(dirImg_ / "LISTINO1.IMG");
   comandi_.Apri(una_);
-  EXPECT_EQ((TestiSezioni{"uno\r\n" + Codice("V1") + "\r\n", "c\r\n", "p\r\n"}), sezioni_.Testi);
-  EXPECT_EQ(std::vector<Sezione>{Sezione::Testata}, sezioni_.Impostate);
-  EXPECT_EQ(ImpostazioniPredefinite(), documento_.Corpo);
+  EXPECT_EQ((TestiSezioni{"uno\r\n" + Codice("V1") + "\r\n", "c\r\n", "p\r\n"}), TestiOra());
+  EXPECT_EQ(std::vector<Sezione>{Sezione::Testata}, uditore_.Sostituite);
+  EXPECT_EQ(ImpostazioniPredefinite(), documento_.Stato().Corpo);
 }
 
 TEST_F(ComandoApri, CompletesANameTypedWithoutItsExtension) {
   Crea(dirImg_ / "uno.img", "uno\r\n");
   interlocutore_.Scegliera(dirImg_ / "uno");
   comandi_.Apri(una_);
-  EXPECT_EQ(dirImg_ / "uno.img", documento_.NomeFile);
-  EXPECT_EQ("uno\r\n", sezioni_.Testi[0]);
+  EXPECT_EQ(dirImg_ / "uno.img", documento_.Stato().NomeFile);
+  EXPECT_EQ("uno\r\n", Testo(Sezione::Testata));
 }
 
 TEST_F(ComandoApri, FindsTheCompletedNameInAnyCase) {
   interlocutore_.Scegliera(dirImg_ / "modello1");
   comandi_.Apri(tre_);
-  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.NomeFile);
-  EXPECT_EQ(Aperti(), sezioni_.Testi);
+  EXPECT_EQ(dirImg_ / "MODELLO1.IMG", documento_.Stato().NomeFile);
+  EXPECT_EQ(Aperti(), TestiOra());
 }
 
 TEST_F(ComandoApri, PrefersAFileThatBearsTheNameAsItWasTyped) {
@@ -239,8 +239,8 @@ TEST_F(ComandoApri, PrefersAFileThatBearsTheNameAsItWasTyped) {
   Crea(dirImg_ / "uno.img", "con\r\n");
   interlocutore_.Scegliera(dirImg_ / "uno");
   comandi_.Apri(una_);
-  EXPECT_EQ(dirImg_ / "uno", documento_.NomeFile);
-  EXPECT_EQ("senza\r\n", sezioni_.Testi[0]);
+  EXPECT_EQ(dirImg_ / "uno", documento_.Stato().NomeFile);
+  EXPECT_EQ("senza\r\n", Testo(Sezione::Testata));
 }
 
 TEST_F(ComandoApri, ShowsTheLastTwelveCharactersOfTheWholePath) {

@@ -21,7 +21,7 @@ class CopiaPrimaDiSalvare : public BancoComandi {
   }
   /// A file with what the sections hold.
   void Salva(std::string_view testata = "t\r\n") {
-    sezioni_.Testi = {std::string(testata), "c\r\n", "p\r\n"};
+    Imposta({std::string(testata), "c\r\n", "p\r\n"});
     comandi_.Salva(tre_);
   }
   /// That this is all there is: the file, and what was kept of it.
@@ -58,7 +58,7 @@ TEST_F(CopiaPrimaDiSalvare, KeepsTheFileThatNewLeftTheNameOf) {
   comandi_.Nuovo(tre_);
   Salva();
   EXPECT_EQ("t\r\n" + Marcatore("7;1;CS") + "c\r\np\r\n", Contenuto(File));
-  EXPECT_FALSE(documento_.Modificato);
+  EXPECT_FALSE(documento_.Stato().Modificato);
   AttendiTenuto(Vecchio);
 }
 
@@ -72,8 +72,8 @@ TEST_F(CopiaPrimaDiSalvare, KeepsItOnceAndNotWhatItWroteAfterwards) {
 
 TEST_F(CopiaPrimaDiSalvare, KeepsWhatNewJustSaved) {
   Apri();
-  documento_.Modificato = true;
-  sezioni_.Testi[0] = "salvato\r\n";
+  documento_.Stato().Modificato = true;
+  Imposta(Sezione::Testata, "salvato\r\n");
   interlocutore_.Rispondera(Risposta::Si);
   comandi_.Nuovo(tre_);
   const std::string salvato = Contenuto(File);
@@ -100,7 +100,7 @@ TEST_F(CopiaPrimaDiSalvare, KeepsOnlyTheNewest) {
 TEST_F(CopiaPrimaDiSalvare, KeepsNothingWhereTheFileHasTheBytesThatAreSaved) {
   Apri();
   Crea(File, FileIniziale());
-  documento_.Corpo = ImpostazioniPredefinite();
+  documento_.Stato().Corpo = ImpostazioniPredefinite();
   Salva();
   EXPECT_EQ(FileIniziale(), Contenuto(File));
   AttendiNullaTenuto();
@@ -135,7 +135,7 @@ TEST_F(CopiaPrimaDiSalvare, KeepsTheFileThatSaveAsReplaces) {
 
 TEST_F(CopiaPrimaDiSalvare, KeepsNothingWhenSaveAsChoosesTheFileThatWasOpened) {
   Apri();
-  sezioni_.Testi[0] = "altro\r\n";
+  Imposta(Sezione::Testata, "altro\r\n");
   interlocutore_.Scegliera(File);
   comandi_.SalvaConNome(tre_);
   AttendiNullaTenuto();
@@ -152,24 +152,24 @@ TEST_F(CopiaPrimaDiSalvare, FailsRatherThanReplaceWhatItCannotKeep) {
   Crea(dirImg_ / "A.IMG~" / "dentro", "");  // a folder has the name of the copy
   Apri();
   comandi_.Nuovo(tre_);
-  documento_.Modificato = true;
+  documento_.Stato().Modificato = true;
   interlocutore_.Rispondera(Risposta::Ok);
   Salva();
   AttendiMessaggi({Errore(NumeroErrore::AccessoPercorsoFile)});
   EXPECT_EQ(Vecchio, Contenuto(File));
-  EXPECT_TRUE(documento_.Modificato);
+  EXPECT_TRUE(documento_.Stato().Modificato);
   EXPECT_EQ((Elenco{"A.IMG", "A.IMG~"}), Nomi(dirImg_.Percorso()));
 }
 
 TEST_F(CopiaPrimaDiSalvare, SaveAsIsSilentWhenItCannotKeepAFile) {
   Crea(dirImg_ / "A.IMG~" / "dentro", "");
   interlocutore_.Scegliera(File);
-  documento_.Modificato = true;
+  documento_.Stato().Modificato = true;
   comandi_.SalvaConNome(tre_);
   AttendiMessaggi({});
   EXPECT_EQ(Vecchio, Contenuto(File));
-  EXPECT_TRUE(documento_.Modificato);
-  EXPECT_EQ("", documento_.NomeFile);
+  EXPECT_TRUE(documento_.Stato().Modificato);
+  EXPECT_EQ("", documento_.Stato().NomeFile);
 }
 
 TEST_F(CopiaPrimaDiSalvare, GivesTheCopyTheRightsOfTheFile) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "supporto/TestoConSelezione.h"
+#include "template/TastiSezione.h"
 
 namespace parvik {
 namespace {
@@ -81,15 +82,17 @@ TEST(ParolaSotto, DoesNotReachIntoACode) {
 
 TEST(ParoleProprieta, NoStepEndsInsideACodeAndEachGetsOn) {
   EXPECT_TRUE(rc::check([] {
-    std::string testo;
+    std::string disegno;
     for (const int pezzo : *rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 7))) {
       const char* const pezzi[] = {"«V1;2L»", "«a\nb»", "«»", "\n", "»", "ab", " ;"};
-      testo += ConSelezione(pezzi[pezzo]).Testo;
+      disegno += pezzi[pezzo];
     }
-    const auto cursore = static_cast<std::size_t>(*rc::gen::inRange(0, static_cast<int>(testo.size()) + 1));
+    const TestoSezione testo = ConSelezione(disegno).Testo;
+    const Selezione riga = testo.Riga(*rc::gen::inRange<std::size_t>(0, testo.Righe()));
+    const std::size_t cursore = riga.Inizio + *rc::gen::inRange<std::size_t>(0, riga.Lunghezza + 1);
     const std::size_t avanti = ParolaSeguente(testo, cursore);
     const std::size_t indietro = ParolaPrecedente(testo, cursore);
-    RC_ASSERT(avanti > cursore || cursore == testo.size());
+    RC_ASSERT(avanti > cursore || cursore == testo.Dimensione());
     RC_ASSERT(indietro < cursore || cursore == 0);
     RC_ASSERT(!CodiceIntorno(testo, avanti));
     RC_ASSERT(!CodiceIntorno(testo, indietro));

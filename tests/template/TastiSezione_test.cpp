@@ -15,9 +15,9 @@
 namespace parvik {
 namespace {
 
+using prova::BancoSezione;
 using prova::Codici;
 using prova::ConSelezione;
-using prova::Obbedisci;
 using prova::Scritto;
 
 /// What became of the text and the selection, and in words what else happened.
@@ -136,14 +136,14 @@ TEST(TastoAssistito, OpensNoDialogAndTakesASelectionAway) {
 std::vector<std::string> AlCursore(const char* disegno) {
   const ConSelezione caso(disegno);
   std::vector<std::string> codici;
-  for (const PosizioneCodice& codice : CodiciAlCursore(caso.Testo, caso.Selezionato.Inizio))
-    codici.push_back(caso.Testo.substr(codice.Inizio, codice.Lunghezza));
+  for (const Selezione& codice : CodiciAlCursore(caso.Testo, caso.Selezionato.Inizio))
+    codici.push_back(caso.Testo.Byte(codice));
   return codici;
 }
 
 TEST(CodiciAlCursore, AreTheOneAroundItOrTheOnesBesideIt) {
-  const std::string uno = ConSelezione("«V1»").Testo;
-  const std::string due = ConSelezione("«V2»").Testo;
+  const std::string uno = ConSelezione("«V1»").Testo.Byte();
+  const std::string due = ConSelezione("«V2»").Testo.Byte();
   using Lista = std::vector<std::string>;
   EXPECT_EQ(AlCursore("a|b«V1»"), Lista{});
   EXPECT_EQ(AlCursore("ab|«V1»c"), Lista{uno});
@@ -164,7 +164,7 @@ TEST(CodiceSotto, CoversTheDelimitersAndNothingBesideThem) {
   const ConSelezione caso("a«V1»b");
   EXPECT_EQ(CodiceSotto(caso.Testo, 0), std::nullopt);
   for (std::size_t i = 1; i <= 4; ++i) {
-    EXPECT_EQ(CodiceSotto(caso.Testo, i), (PosizioneCodice{.Inizio = 1, .Lunghezza = 4})) << i;
+    EXPECT_EQ(CodiceSotto(caso.Testo, i), (Selezione{.Inizio = 1, .Lunghezza = 4})) << i;
   }
   EXPECT_EQ(CodiceSotto(caso.Testo, 5), std::nullopt);
   EXPECT_EQ(CodiceSotto(caso.Testo, 6), std::nullopt);
@@ -176,27 +176,35 @@ TEST(CarattereScartato, IsTheFullStopOnly) {
   EXPECT_FALSE(CarattereScartato(U' '));
 }
 
+/// Any part of a text that cuts no line end, a caret twice in three times.
+Selezione UnaSelezione(const TestoSezione& testo) {
+  const auto posto = [&testo] {
+    const auto riga = *rc::gen::inRange<std::size_t>(0, testo.Righe());
+    const Selezione tutta = testo.Riga(riga);
+    return tutta.Inizio + *rc::gen::inRange<std::size_t>(0, tutta.Lunghezza + 1);
+  };
+  const std::size_t uno = posto();
+  const std::size_t altro = *rc::gen::inRange(0, 3) == 0 ? posto() : uno;
+  return Cursore{.Ancora = uno, .Posto = altro}.Selezionato();
+}
+
 TEST(TastiSezioneProprieta, NoSequenceOfKeysThatRemoveLeavesHalfACode) {
   EXPECT_TRUE(rc::check([] {
-    std::string testo;
-    for (const int pezzo : *rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 6))) {
-      testo += ConSelezione(pezzo < 2 ? "«V1;2L»" : pezzo == 2 ? "«»" : pezzo == 3 ? "\n" : "ab").Testo;
-    }
-    const std::vector<std::string> prima = Codici(testo);
+    std::string disegno;
+    for (const int pezzo : *rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 6)))
+      disegno += pezzo < 2 ? "«V1;2L»" : pezzo == 2 ? "«»" : pezzo == 3 ? "\n" : "ab";
+    BancoSezione banco(ConSelezione(disegno).Testo);
+    const std::vector<std::string> prima = Codici(banco.Testo());
     for (int passo = 0; passo < 30; ++passo) {
-      const auto lunghezza = static_cast<int>(testo.size());
-      Selezione selezione;
-      selezione.Inizio = static_cast<std::size_t>(*rc::gen::inRange(0, lunghezza + 1));
-      const int resto = lunghezza - static_cast<int>(selezione.Inizio);
-      selezione.Lunghezza = static_cast<std::size_t>(
-          *rc::gen::weightedOneOf<int>({{2, rc::gen::just(0)}, {1, rc::gen::inRange(0, resto + 1)}}));
       const TastoSezione tasto = *rc::gen::element(Backspace, Canc, Togli);
-      Obbedisci(testo, selezione, tasto);
-      Obbedisci(testo, selezione, tasto);
+      banco.Seleziona(UnaSelezione(banco.Testo()));
+      banco.Comandi().Premi(tasto, Pressione::Prima);
+      banco.Comandi().Premi(tasto, Pressione::Prima);
       // Every delimiter still belongs to a whole code, and every code is one of those that were there.
-      const std::vector<std::string> ora = Codici(testo);
-      RC_ASSERT(std::ranges::count(testo, DelimApertura) == static_cast<std::ptrdiff_t>(ora.size()));
-      RC_ASSERT(std::ranges::count(testo, DelimChiusura) == static_cast<std::ptrdiff_t>(ora.size()));
+      const std::vector<std::string> ora = Codici(banco.Testo());
+      const std::string byte = banco.Testo().Byte();
+      RC_ASSERT(std::ranges::count(byte, DelimApertura) == static_cast<std::ptrdiff_t>(ora.size()));
+      RC_ASSERT(std::ranges::count(byte, DelimChiusura) == static_cast<std::ptrdiff_t>(ora.size()));
       for (const std::string& codice : ora) RC_ASSERT(std::ranges::count(prima, codice) > 0);
     }
   }));
@@ -204,18 +212,19 @@ TEST(TastiSezioneProprieta, NoSequenceOfKeysThatRemoveLeavesHalfACode) {
 
 TEST(TastiSezioneProprieta, OnlyTheTextUpToTheNextDelimitersMatters) {
   EXPECT_TRUE(rc::check([] {
-    const auto lettere =
-        rc::gen::container<std::string>(rc::gen::element('a', '\n', DelimApertura, DelimChiusura));
-    const std::string testo = *lettere;
-    const auto lunghezza = static_cast<int>(testo.size());
-    const auto inizio = static_cast<std::size_t>(*rc::gen::inRange(0, lunghezza + 1));
-    const auto fine = static_cast<std::size_t>(*rc::gen::inRange(static_cast<int>(inizio), lunghezza + 1));
+    const auto lettere = rc::gen::container<std::string>(rc::gen::element('a', DelimApertura, DelimChiusura));
+    const TestoSezione testo(*lettere + "\r\n" + *lettere);
+    const std::string byte = testo.Byte();
+    const Selezione selezione = UnaSelezione(testo);
+    const std::size_t inizio = selezione.Inizio;
+    const std::size_t fine = selezione.Fine();
     const TastoSezione tasto = *rc::gen::element(Backspace, Canc, F4, Spazio);
     const std::size_t davanti =
-        std::string_view(testo).substr(0, inizio == 0 ? 0 : inizio - 1).find_last_of("\xAB\xBB");
-    const std::size_t dietro = testo.find(DelimChiusura, fine);
+        std::string_view(byte).substr(0, inizio == 0 ? 0 : inizio - 1).find_last_of("\xAB\xBB");
+    const std::size_t dietro = byte.find(DelimChiusura, fine);
     const std::size_t da = davanti == std::string::npos ? 0 : davanti;
-    const std::string parte = testo.substr(da, dietro == std::string::npos ? dietro : dietro + 1 - da);
+    const TestoSezione parte(
+        std::string_view(byte).substr(da, dietro == std::string::npos ? dietro : dietro + 1 - da));
     const EsitoTasto intero = PremiTasto(testo, {.Inizio = inizio, .Lunghezza = fine - inizio}, tasto);
     EsitoTasto ridotto = PremiTasto(parte, {.Inizio = inizio - da, .Lunghezza = fine - inizio}, tasto);
     if (ridotto.Azione == AzioneTasto::Allarga || ridotto.Azione == AzioneTasto::ApriCodice)

@@ -1,0 +1,228 @@
+#include "template/AlberoTesto.h"
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <span>
+#include <utility>
+#include <vector>
+
+#include "common/Precondizione.h"
+
+namespace parvik {
+
+/// A block of bytes, or parts that all have the same height.
+struct NodoTesto {
+  std::string Byte;
+  std::vector<RamoTesto> Rami;  // of a block none
+
+  bool Blocco() const { return Rami.empty(); }
+};
+
+namespace {
+
+using Rami = std::vector<RamoTesto>;
+
+constexpr std::size_t MassimoBlocco = 2048;  // bytes
+constexpr std::size_t MassimoRami = 32;
+constexpr const char* NelTesto = "the place lies in the text";
+
+MisuraTesto Misura(std::string_view byte) {
+  MisuraTesto misura{.Byte = byte.size()};
+  for (std::size_t i = 0; i < NumSegni; ++i)
+    misura.Segni[i] = static_cast<std::size_t>(std::ranges::count(byte, ByteDi(static_cast<Segno>(i))));
+  return misura;
+}
+
+RamoTesto Blocco(std::string_view byte) {
+  return {.Nodo = std::make_shared<const NodoTesto>(NodoTesto{.Byte = std::string(byte), .Rami = {}}),
+          .Misura = Misura(byte)};
+}
+
+RamoTesto Nodo(std::span<const RamoTesto> rami) {
+  MisuraTesto misura;
+  for (const RamoTesto& ramo : rami) misura += ramo.Misura;
+  return {
+      .Nodo = std::make_shared<const NodoTesto>(NodoTesto{.Byte = {}, .Rami = {rami.begin(), rami.end()}}),
+      .Misura = misura};
+}
+
+/// Calls `fai` with the beginning and the end of each of the parts, all about as long, that `quanti` have to
+/// be cut into to be none longer than `massimo`.
+template <class Azione>
+void PerParti(std::size_t quanti, std::size_t massimo, Azione fai) {
+  const std::size_t parti = (quanti + massimo - 1) / massimo;
+  for (std::size_t i = 0; i < parti; ++i) fai(i * quanti / parti, (i + 1) * quanti / parti);
+}
+
+Rami Blocchi(std::string_view byte) {
+  Rami blocchi;
+  PerParti(byte.size(), MassimoBlocco,
+           [&](std::size_t da, std::size_t a) { blocchi.push_back(Blocco(byte.substr(da, a - da))); });
+  return blocchi;
+}
+
+/// One height up.
+Rami Nodi(const Rami& rami) {
+  Rami nodi;
+  PerParti(rami.size(), MassimoRami,
+           [&](std::size_t da, std::size_t a) { nodi.push_back(Nodo(std::span(rami).subspan(da, a - da))); });
+  return nodi;
+}
+
+/// The part of a node in which a place lies, and where it begins. Between two parts it is the left one's.
+struct Ramo {
+  std::size_t Quale = 0;
+  std::size_t Inizio = 0;
+};
+
+Ramo RamoDi(const NodoTesto& nodo, std::size_t posto, Ramo da = {}) {
+  while (posto > da.Inizio + nodo.Rami[da.Quale].Misura.Byte) da.Inizio += nodo.Rami[da.Quale++].Misura.Byte;
+  return da;
+}
+
+/// Two neighbours of the same height as one, where they are small; nullopt where they are not.
+std::optional<RamoTesto> Unione(const RamoTesto& uno, const RamoTesto& altro) {
+  const NodoTesto& prima = *uno.Nodo;
+  const NodoTesto& dopo = *altro.Nodo;
+  if (prima.Blocco()) {
+    if (prima.Byte.size() + dopo.Byte.size() > MassimoBlocco / 2) return std::nullopt;
+    return Blocco(prima.Byte + dopo.Byte);
+  }
+  if (prima.Rami.size() + dopo.Rami.size() > MassimoRami / 2) return std::nullopt;
+  Rami rami = prima.Rami;
+  std::ranges::copy(dopo.Rami, std::back_inserter(rami));
+  return Nodo(rami);
+}
+
+/// Adds a part, or lets the last one take it in.
+void Aggiungi(Rami& rami, const RamoTesto& ramo) {
+  const auto unione = rami.empty() ? std::nullopt : Unione(rami.back(), ramo);
+  if (unione) {
+    rami.back() = *unione;
+  } else {
+    rami.push_back(ramo);
+  }
+}
+
+/// What comes in the place of a part, of the same height: as many parts as it takes, or none.
+Rami Sostituisci(const NodoTesto& nodo, std::size_t da, std::size_t a, std::string_view messi) {
+  if (nodo.Blocco()) {
+    const std::string_view byte = nodo.Byte;
+    return Blocchi(std::string(byte.substr(0, da)).append(messi).append(byte.substr(a)));
+  }
+  const Ramo primo = RamoDi(nodo, da);
+  const Ramo ultimo = RamoDi(nodo, a, primo);
+  const RamoTesto& ramoPrimo = nodo.Rami[primo.Quale];
+  const bool uno = primo.Quale == ultimo.Quale;
+  Rami nuovi =
+      Sostituisci(*ramoPrimo.Nodo, da - primo.Inizio, uno ? a - primo.Inizio : ramoPrimo.Misura.Byte, messi);
+  if (!uno)
+    std::ranges::copy(Sostituisci(*nodo.Rami[ultimo.Quale].Nodo, 0, a - ultimo.Inizio, {}),
+                      std::back_inserter(nuovi));
+  Rami rami(nodo.Rami.begin(), nodo.Rami.begin() + static_cast<std::ptrdiff_t>(primo.Quale));
+  for (const RamoTesto& nuovo : nuovi) Aggiungi(rami, nuovo);
+  std::span<const RamoTesto> resto = std::span(nodo.Rami).subspan(ultimo.Quale + 1);
+  if (!resto.empty()) {
+    Aggiungi(rami, resto.front());
+    std::ranges::copy(resto.subspan(1), std::back_inserter(rami));
+  }
+  return Nodi(rami);
+}
+
+/// The whole tree over parts of the same height.
+RamoTesto Radice(Rami rami) {
+  if (rami.empty()) return Blocco({});
+  while (rami.size() > 1) rami = Nodi(rami);
+  RamoTesto radice = rami.front();
+  while (radice.Nodo->Rami.size() == 1) radice = RamoTesto(radice.Nodo->Rami.front());
+  return radice;
+}
+
+bool Percorri(const NodoTesto& nodo, std::size_t da, std::size_t a,
+              const std::function<bool(std::string_view)>& visitatore) {
+  if (nodo.Blocco()) return visitatore(std::string_view(nodo.Byte).substr(da, a - da));
+  for (Ramo ramo = RamoDi(nodo, da); ramo.Quale < nodo.Rami.size() && ramo.Inizio < a;) {
+    const RamoTesto& questo = nodo.Rami[ramo.Quale++];
+    const std::size_t inizio = std::max(da, ramo.Inizio) - ramo.Inizio;
+    const std::size_t fine = std::min(a - ramo.Inizio, questo.Misura.Byte);
+    if (inizio < fine && !Percorri(*questo.Nodo, inizio, fine, visitatore)) return false;
+    ramo.Inizio += questo.Misura.Byte;
+  }
+  return true;
+}
+
+}  // namespace
+
+MisuraTesto& MisuraTesto::operator+=(const MisuraTesto& altra) {
+  Byte += altra.Byte;
+  std::ranges::transform(Segni, altra.Segni, Segni.begin(), std::plus());
+  return *this;
+}
+
+AlberoTesto::AlberoTesto(std::string_view byte) : radice_(Radice(Blocchi(byte))) {}
+
+char AlberoTesto::operator[](std::size_t posto) const {
+  PARVIK_ESIGE(posto < Dimensione(), NelTesto);
+  const NodoTesto* nodo = radice_.Nodo.get();
+  while (!nodo->Blocco()) {
+    const Ramo ramo = RamoDi(*nodo, posto + 1);
+    posto -= ramo.Inizio;
+    nodo = nodo->Rami[ramo.Quale].Nodo.get();
+  }
+  return nodo->Byte[posto];
+}
+
+void AlberoTesto::Visita(std::size_t da, std::size_t a,
+                         const std::function<bool(std::string_view)>& visitatore) const {
+  PARVIK_ESIGE(da <= a && a <= Dimensione(), NelTesto);
+  if (da < a) Percorri(*radice_.Nodo, da, a, visitatore);
+}
+
+std::string AlberoTesto::Byte(std::size_t da, std::size_t a) const {
+  std::string byte;
+  byte.reserve(a - da);
+  Visita(da, a, [&byte](std::string_view pezzo) {
+    byte.append(pezzo);
+    return true;
+  });
+  return byte;
+}
+
+std::size_t AlberoTesto::Conta(Segno segno, std::size_t posto) const {
+  PARVIK_ESIGE(posto <= Dimensione(), NelTesto);
+  std::size_t quanti = 0;
+  const NodoTesto* nodo = radice_.Nodo.get();
+  while (!nodo->Blocco()) {
+    const Ramo ramo = RamoDi(*nodo, posto);
+    for (std::size_t i = 0; i < ramo.Quale; ++i) quanti += nodo->Rami[i].Misura.Di(segno);
+    posto -= ramo.Inizio;
+    nodo = nodo->Rami[ramo.Quale].Nodo.get();
+  }
+  const std::string_view davanti = std::string_view(nodo->Byte).substr(0, posto);
+  return quanti + static_cast<std::size_t>(std::ranges::count(davanti, ByteDi(segno)));
+}
+
+std::size_t AlberoTesto::Trova(Segno segno, std::size_t quale) const {
+  if (quale >= Misura().Di(segno)) return Dimensione();
+  std::size_t inizio = 0;
+  const NodoTesto* nodo = radice_.Nodo.get();
+  while (!nodo->Blocco()) {
+    auto ramo = nodo->Rami.begin();
+    for (; quale >= ramo->Misura.Di(segno); ++ramo) {
+      quale -= ramo->Misura.Di(segno);
+      inizio += ramo->Misura.Byte;
+    }
+    nodo = ramo->Nodo.get();
+  }
+  std::size_t posto = nodo->Byte.find(ByteDi(segno));
+  for (; quale > 0; --quale) posto = nodo->Byte.find(ByteDi(segno), posto + 1);
+  return inizio + posto;
+}
+
+AlberoTesto AlberoTesto::Con(std::size_t da, std::size_t a, std::string_view messi) const {
+  PARVIK_ESIGE(da <= a && a <= Dimensione(), NelTesto);
+  return AlberoTesto(Radice(Sostituisci(*radice_.Nodo, da, a, messi)));
+}
+
+}  // namespace parvik

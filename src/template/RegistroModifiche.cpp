@@ -1,0 +1,79 @@
+#include "template/RegistroModifiche.h"
+
+#include <utility>
+
+#include "common/Precondizione.h"
+
+namespace parvik {
+namespace {
+
+/// Joins a change to the last one of a step, whose neighbour it is.
+void Unisci(Variazione& ultima, const Variazione& nuova) {
+  if (nuova.Posto + nuova.Tolti.size() == ultima.Posto && nuova.Messi.empty()) {  // backwards
+    ultima.Tolti.insert(0, nuova.Tolti);
+    ultima.Posto = nuova.Posto;
+  } else {
+    ultima.Tolti += nuova.Tolti;
+    ultima.Messi += nuova.Messi;
+  }
+}
+
+}  // namespace
+
+/// Whether a change belongs to the run of typing, or of taking away, that the last step is.
+bool RegistroModifiche::Prosegue(const Variazione& variazione, GenereModifica genere) const {
+  if (interrotto_ || fatti_ == 0 || genere == GenereModifica::Intera) return false;
+  const Passo& passo = passi_[fatti_ - 1];
+  const Variazione& ultima = passo.Variazioni.back();
+  if (passo.Genere != genere || ultima.Dove != variazione.Dove) return false;
+  if (genere == GenereModifica::Battuta)
+    return variazione.Tolti.empty() && variazione.Posto == ultima.Posto + ultima.Messi.size();
+  return variazione.Posto == ultima.Posto || variazione.Posto + variazione.Tolti.size() == ultima.Posto;
+}
+
+void RegistroModifiche::Annota(Variazione variazione, GenereModifica genere, Cursore prima) {
+  passi_.resize(fatti_);
+  if (iniziato_) {
+    passi_.back().Variazioni.push_back(std::move(variazione));
+    return;
+  }
+  if (aperti_ == 0 && Prosegue(variazione, genere))
+    return Unisci(passi_.back().Variazioni.back(), variazione);
+  passi_.push_back({.Variazioni = {}, .Genere = genere, .Prima = prima});
+  passi_.back().Variazioni.push_back(std::move(variazione));
+  fatti_ = passi_.size();
+  iniziato_ = aperti_ > 0;
+  interrotto_ = false;
+}
+
+void RegistroModifiche::Apri() {
+  ++aperti_;
+}
+
+void RegistroModifiche::Chiudi() {
+  PARVIK_ESIGE(aperti_ > 0, "a step is open");
+  if (--aperti_ > 0) return;
+  if (iniziato_) interrotto_ = true;
+  iniziato_ = false;
+}
+
+const Passo& RegistroModifiche::Annulla() {
+  PARVIK_ESIGE(PuoAnnullare() && aperti_ == 0, "there is a step to undo");
+  interrotto_ = true;
+  return passi_[--fatti_];
+}
+
+const Passo& RegistroModifiche::Ripeti() {
+  PARVIK_ESIGE(PuoRipetere() && aperti_ == 0, "there is a step to redo");
+  interrotto_ = true;
+  return passi_[fatti_++];
+}
+
+void RegistroModifiche::Dimentica() {
+  passi_.clear();
+  fatti_ = 0;
+  iniziato_ = false;
+  interrotto_ = true;
+}
+
+}  // namespace parvik
