@@ -8,7 +8,7 @@ build=${1:-build/dev}
 processors=$(nproc)
 failed=0
 
-if [ ! -f "$build/compile_commands.json" ] || [ ! -f "$build/src/generati/app/Versione.h" ]; then
+if [ ! -f "$build/compile_commands.json" ] || [ ! -f "$build/src/generati/start/Versione.h" ]; then
   echo "check-static.sh: build $build first" >&2
   exit 2
 fi

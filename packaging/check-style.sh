@@ -19,10 +19,16 @@ found=$(grep -lP '\r|\t| +$' $files CMakeLists.txt cmake/*.cmake README.md CHANG
 found=$(grep -lP '\r| +$' docs/*.md || true)
 [ -z "$found" ] || complain "carriage return or trailing blank in: $found"
 
-# Windows are the files named frm*, those named after their control, and main.
-core=$(echo "$files" | grep '^src/' | grep -vE '/(frm|txt|lbl|ric)[A-Z][A-Za-z]*\.(h|cpp)$|^src/app/main\.cpp$')
+# Windows are the files named frm* (forms), qt* (what else knows Qt), those named after their control, and main.
+core=$(echo "$files" | grep '^src/' | grep -vE '/(frm|qt|txt|lbl|ric)[A-Z][A-Za-z]*\.(h|cpp)$|^src/app/main\.cpp$')
 # shellcheck disable=SC2086
-found=$(grep -lE '#include [<"](Q[A-Z]|frm|ui_|[a-z]+/(frm|txt|lbl|ric)[A-Z])' $core || true)
+found=$(grep -lE '#include [<"](Q[A-Z]|frm|ui_|[a-z]+/(frm|qt|txt|lbl|ric)[A-Z])' $core || true)
 [ -z "$found" ] || complain "Qt or a window included in the core: $found"
+
+# A form is a dialog or the main window: what else knows Qt has another mark.
+for header in src/*/frm*.h; do
+  grep -qE '^class frm[A-Za-z]+( final)? : public (QDialog|QMainWindow|frm[A-Za-z]+)\b' "$header" ||
+    complain "no form: $header"
+done
 
 exit $failed

@@ -12,7 +12,7 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "app/Avvio.h"
+#include "start/Avvio.h"
 
 namespace parvik::bench {
 

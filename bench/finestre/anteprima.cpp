@@ -10,7 +10,7 @@
 
 #include "Dati.h"
 #include "Resoconto.h"
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 #include "finestre/Banco.h"
 
 namespace parvik::bench {

@@ -1,6 +1,6 @@
 #include "app/frmAbout.h"
 
-#include "app/Versione.h"
+#include "start/Versione.h"
 #include "ui_frmAbout.h"
 
 namespace parvik {

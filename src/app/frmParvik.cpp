@@ -5,17 +5,17 @@
 #include <cmath>
 #include <utility>
 
-#include "app/CartelleProgramma.h"
 #include "app/frmAbout.h"
-#include "app/frmDivisore.h"
-#include "common/frmAttesa.h"
-#include "common/frmSchermo.h"
-#include "common/frmTastiInCoda.h"
-#include "common/frmTastiRipetuti.h"
-#include "common/frmTesto.h"
+#include "app/qtDivisore.h"
+#include "common/qtAttesa.h"
+#include "common/qtSchermo.h"
+#include "common/qtTastiInCoda.h"
+#include "common/qtTastiRipetuti.h"
+#include "common/qtTesto.h"
 #include "output/frmDestStampa.h"
-#include "output/frmStampa.h"
+#include "output/qtStampa.h"
 #include "output/ricAccessibile.h"
+#include "start/CartelleProgramma.h"
 #include "template/txtAccessibile.h"
 
 namespace parvik {
@@ -55,8 +55,8 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
       editore_(std::move(dati.Dove), std::move(dati.Campi), *this, interlocutore),
       maschere_(editore_, *this) {
   setObjectName("frmParvik");
-  new frmTastiInCoda(this);
-  new frmTastiRipetuti(this);
+  new qtTastiInCoda(this);
+  new qtTastiRipetuti(this);
   CreaControlli();
   CreaMenu();
   CollegaMenu();
@@ -83,10 +83,10 @@ void frmParvik::CreaControlli() {
 }
 
 void frmParvik::CreaDivisore() {
-  auto* divisore = new frmDivisore(anteprima_, this);
+  auto* divisore = new qtDivisore(anteprima_, this);
   for (txtTCP* sezione : sezioni_) divisore->Osserva(sezione);
   for (lblTCP* etichetta : etichette_) divisore->Osserva(etichetta);
-  connect(divisore, &frmDivisore::Spostato, this, &frmParvik::SpostaDivisore);
+  connect(divisore, &qtDivisore::Spostato, this, &frmParvik::SpostaDivisore);
 }
 
 void frmParvik::CreaSezione(Sezione sezione) {

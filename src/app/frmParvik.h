@@ -9,15 +9,15 @@
 #include <string>
 #include <string_view>
 
-#include "app/Avvio.h"
-#include "app/Disposizione.h"
-#include "app/Editore.h"
-#include "app/frmMaschere.h"
 #include "app/lblTCP.h"
+#include "app/qtMaschere.h"
+#include "editor/Disposizione.h"
+#include "editor/Editore.h"
 #include "output/frmSettaFlag.h"
 #include "output/frmTotRighe.h"
 #include "output/lblRighe.h"
 #include "output/ricAnte.h"
+#include "start/Avvio.h"
 #include "template/txtTCP.h"
 
 namespace parvik {
@@ -93,7 +93,7 @@ class frmParvik final : public QMainWindow, private Vista {
   frmSettaFlag* settaFlag_ = nullptr;    // made when it is first shown
   std::filesystem::path dirProgramma_;   // where the print module is looked for from
   Editore editore_;
-  frmMaschere maschere_;
+  qtMaschere maschere_;
 };
 
 }  // namespace parvik

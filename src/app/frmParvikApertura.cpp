@@ -1,17 +1,17 @@
 // How the main window comes to a document type and a template: from the menu, the command line, a dropped
 // file.
-#include "app/frmApertura.h"
 #include "app/frmParvik.h"
+#include "app/qtApertura.h"
 #include "catalogue/frmScelta.h"
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 
 namespace parvik {
 
 void frmParvik::CreaApertura() {
-  auto* apertura = new frmApertura(this);
+  auto* apertura = new qtApertura(this);
   apertura->Osserva(*this);
   for (txtTCP* sezione : sezioni_) apertura->Osserva(*sezione->viewport());
-  connect(apertura, &frmApertura::Depositato, this,
+  connect(apertura, &qtApertura::Depositato, this,
           [this](const QString& file) { ApriDaFuori(file.toStdString()); });
 }
 

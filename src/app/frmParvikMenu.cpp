@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
-#include "app/Menu.h"
 #include "app/frmParvik.h"
+#include "editor/Menu.h"
 
 namespace parvik {
 namespace {

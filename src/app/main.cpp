@@ -9,20 +9,20 @@
 #include <optional>
 #include <string>
 
-#include "app/Argomenti.h"
-#include "app/Avvio.h"
-#include "app/CartelleProgramma.h"
-#include "app/CopiaEsempio.h"
-#include "app/Versione.h"
-#include "app/frmAvvio.h"
 #include "app/frmParvik.h"
-#include "app/frmSegnali.h"
+#include "app/qtAvvio.h"
+#include "app/qtSegnali.h"
 #include "catalogue/TrovaTipo.h"
 #include "common/Processo.h"
 #include "common/SegnaliFine.h"
 #include "common/TestoMostrabile.h"
-#include "common/frmDialoghi.h"
-#include "common/frmItaliano.h"
+#include "common/qtDialoghi.h"
+#include "common/qtItaliano.h"
+#include "editor/Argomenti.h"
+#include "editor/CopiaEsempio.h"
+#include "start/Avvio.h"
+#include "start/CartelleProgramma.h"
+#include "start/Versione.h"
 
 namespace {
 
@@ -59,7 +59,7 @@ std::optional<parvik::DatiAvvio> AvviaConSegnali(const parvik::Ambiente& ambient
                                                  const parvik::SegnaliFine& segnali,
                                                  parvik::Interlocutore& interlocutore) {
   bool finita = false;
-  const parvik::frmSegnali fine(segnali, EXIT_FAILURE, [&finita] { return finita = true; });
+  const parvik::qtSegnali fine(segnali, EXIT_FAILURE, [&finita] { return finita = true; });
   auto dati = parvik::Avvia(ambiente, interlocutore);
   return finita ? std::nullopt : std::move(dati);
 }
@@ -83,7 +83,7 @@ int main(int argc, char** argv) {
   QGuiApplication::setDesktopFileName("org.ordavia.parvik32");
   if (!parvik::ParlaItaliano(*programma))
     std::cerr << "parvik32: manca la traduzione italiana di Qt (qtbase_it)\n";
-  parvik::frmDialoghi dialoghi;
+  parvik::qtDialoghi dialoghi;
   auto dati = AvviaConSegnali(ambiente, segnali, dialoghi);
   if (!dati) return EXIT_FAILURE;
   std::optional<std::size_t> tipo;
@@ -94,8 +94,7 @@ int main(int argc, char** argv) {
   }
   parvik::frmParvik finestra(std::move(*dati), dialoghi);
   dialoghi.ImpostaPadre(&finestra);
-  const parvik::frmSegnali fineSessione(segnali, EXIT_SUCCESS,
-                                        [&finestra] { return finestra.PuoChiudere(); });
+  const parvik::qtSegnali fineSessione(segnali, EXIT_SUCCESS, [&finestra] { return finestra.PuoChiudere(); });
   finestra.show();
   if (tipo || letti->File)
     QTimer::singleShot(0, &finestra, [&finestra, tipo, &letti] { finestra.Comincia(tipo, letti->File); });

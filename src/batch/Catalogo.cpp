@@ -5,10 +5,10 @@
 #include <system_error>
 #include <utility>
 
-#include "app/Avvio.h"
-#include "app/Installazione.h"
 #include "batch/Messaggi.h"
 #include "catalogue/TrovaTipo.h"
+#include "start/Avvio.h"
+#include "start/Installazione.h"
 
 namespace parvik::batch {
 namespace {

@@ -8,10 +8,10 @@
 #include <string_view>
 #include <vector>
 
-#include "app/Versione.h"
 #include "batch/Messaggi.h"
 #include "batch/Parole.h"
 #include "common/TestoMostrabile.h"
+#include "start/Versione.h"
 
 namespace parvik::batch {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <QDialog>
 
-#include "common/frmPulsanti.h"
+#include "common/qtPulsanti.h"
 
 namespace parvik {
 
@@ -20,11 +20,11 @@ class frmModale : public QDialog {
  protected:
   void closeEvent(QCloseEvent* evento) override;
 
-  frmPulsanti& Tasti() { return tasti_; }
+  qtPulsanti& Tasti() { return tasti_; }
 
  private:
   Chiusura chiusura_;
-  frmPulsanti tasti_{*this};
+  qtPulsanti tasti_{*this};
 };
 
 }  // namespace parvik

@@ -3,7 +3,7 @@
 #include <QEvent>
 #include <QKeyEvent>
 
-#include "output/frmIcone.h"
+#include "output/qtIcone.h"
 #include "ui_frmDestStampa.h"
 
 namespace parvik {

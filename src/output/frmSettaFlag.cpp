@@ -4,7 +4,7 @@
 #include <QFontDatabase>
 #include <QScrollBar>
 
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 #include "output/FlagPerStampe.h"
 #include "ui_frmSettaFlag.h"
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 #include "output/ricAnte.h"
 
 namespace parvik {

@@ -11,7 +11,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 #include "output/ricAnte.h"
 
 namespace parvik {

@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "output/TestoAnteprima.h"
-#include "output/frmStampante.h"
+#include "output/qtStampante.h"
 #include "template/TastiSezione.h"
 
 namespace parvik {

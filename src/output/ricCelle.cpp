@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "common/Windows1252.h"
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 
 namespace parvik {
 namespace {

@@ -1,8 +1,8 @@
 #include "template/frmComando.h"
 
 #include "common/NumeroLeniente.h"
-#include "common/frmCampi.h"
-#include "common/frmTesto.h"
+#include "common/qtCampi.h"
+#include "common/qtTesto.h"
 #include "ui_frmComando.h"
 
 namespace parvik {

@@ -6,7 +6,7 @@
 #include <QTextDocument>
 #include <algorithm>
 
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 
 namespace parvik {
 namespace {

@@ -56,13 +56,13 @@ txtTCP::txtTCP(Documento& documento, Sezione sezione, QWidget* padre)
     : QPlainTextEdit(padre), documento_(documento), sezione_(sezione), comandi_(documento, sezione, *this) {
   setDocument(NuovoDocumento(this));
   specchio_ = new txtSpecchio(documento, sezione, *this);  // in front of the colours: it knows the text first
-  colori_ = new frmColori(document(), *specchio_);
+  colori_ = new qtColori(document(), *specchio_);
   setObjectName(QStringLiteral("txtTCP_%1").arg(Indice(sezione)));
   setAccessibleName(NomiAccessibili[Indice(sezione)]);
   setLineWrapMode(NoWrap);
   setTabChangesFocus(true);
   colori_->ImpostaTavolozza(palette());
-  connect(specchio_, &txtSpecchio::CodiciCambiati, colori_, &frmColori::ColoraDa);
+  connect(specchio_, &txtSpecchio::CodiciCambiati, colori_, &qtColori::ColoraDa);
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, &txtTCP::CursoreMosso);
   connect(this, &QPlainTextEdit::textChanged, this, &txtTCP::SegnaCodiciAlCursore);
 }

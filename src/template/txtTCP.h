@@ -10,7 +10,7 @@
 
 #include "common/Sezione.h"
 #include "template/ComandiSezione.h"
-#include "template/frmColori.h"
+#include "template/qtColori.h"
 #include "template/txtSpecchio.h"
 
 namespace parvik {
@@ -111,7 +111,7 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   Sezione sezione_;
   ComandiSezione comandi_;
   txtSpecchio* specchio_ = nullptr;
-  frmColori* colori_ = nullptr;
+  qtColori* colori_ = nullptr;
   Descrizione descrizione_;
   Gesto gesto_;
 };

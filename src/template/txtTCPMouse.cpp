@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 #include "template/ParoleSezione.h"
 #include "template/txtTCP.h"
 #include "tokens/Codice.h"

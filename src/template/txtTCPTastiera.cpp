@@ -9,7 +9,7 @@
 #include <QTextLayout>
 #include <algorithm>
 
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 #include "template/ParoleSezione.h"
 #include "template/txtTCP.h"
 

@@ -1,7 +1,7 @@
 #include "tokens/frmCostante.h"
 
-#include "common/frmCampi.h"
-#include "common/frmTesto.h"
+#include "common/qtCampi.h"
+#include "common/qtTesto.h"
 #include "tokens/CodiceCostante.h"
 #include "ui_frmCostante.h"
 

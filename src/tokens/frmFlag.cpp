@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "common/NumeroLeniente.h"
-#include "common/frmCampi.h"
-#include "common/frmTesto.h"
+#include "common/qtCampi.h"
+#include "common/qtTesto.h"
 #include "tokens/CodiceFlag.h"
 #include "ui_frmFlag.h"
 

@@ -1,7 +1,7 @@
 #include "tokens/frmLingua.h"
 
-#include "common/frmCampi.h"
-#include "common/frmTesto.h"
+#include "common/qtCampi.h"
+#include "common/qtTesto.h"
 #include "ui_frmLingua.h"
 
 namespace parvik {

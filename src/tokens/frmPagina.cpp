@@ -1,7 +1,7 @@
 #include "tokens/frmPagina.h"
 
-#include "common/frmCampi.h"
-#include "common/frmTesto.h"
+#include "common/qtCampi.h"
+#include "common/qtTesto.h"
 #include "tokens/CodicePagina.h"
 #include "ui_frmPagina.h"
 

@@ -2,8 +2,8 @@
 
 #include <QEvent>
 
-#include "common/frmCampi.h"
-#include "common/frmTesto.h"
+#include "common/qtCampi.h"
+#include "common/qtTesto.h"
 #include "ui_frmStile.h"
 
 namespace parvik {

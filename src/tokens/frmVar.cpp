@@ -4,8 +4,8 @@
 #include <QScopedValueRollback>
 
 #include "common/NumeroLeniente.h"
-#include "common/frmCampi.h"
-#include "common/frmTesto.h"
+#include "common/qtCampi.h"
+#include "common/qtTesto.h"
 #include "tokens/CodiceVariabile.h"
 #include "tokens/TrovaVoce.h"
 #include "tokens/ValoreCampo.h"

@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "app/Avvio.h"
 #include "batch/Esecuzione.h"
 #include "batch/Esempi.h"
 #include "common/FileDiProva.h"
+#include "start/Avvio.h"
 
 namespace parvik::prova {
 namespace {

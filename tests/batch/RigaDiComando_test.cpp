@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/Versione.h"
 #include "batch/Esecuzione.h"
 #include "batch/Esempi.h"
+#include "start/Versione.h"
 #include "supporto/ConNome.h"
 
 namespace parvik::prova {

@@ -9,7 +9,7 @@
 #include "CartaStampata.h"
 #include "ColonneStampate.h"
 #include "Finestra.h"
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 #include "output/ricAnte.h"
 
 namespace parvik {

@@ -3,9 +3,9 @@
 
 #include <regex>
 
-#include "app/Installazione.h"
 #include "common/ProfiloHost.h"
 #include "docs/Pagine.h"
+#include "start/Installazione.h"
 #include "supporto/Cartelle.h"
 
 namespace parvik::prova {

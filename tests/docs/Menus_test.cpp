@@ -1,9 +1,9 @@
 // docs/menus.md
 #include <gtest/gtest.h>
 
-#include "app/Disposizione.h"
-#include "app/Menu.h"
 #include "docs/Pagine.h"
+#include "editor/Disposizione.h"
+#include "editor/Menu.h"
 
 namespace parvik::prova {
 namespace {

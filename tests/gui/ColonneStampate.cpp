@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 
 namespace parvik::prova {
 namespace {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "Finestra.h"
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 #include "supporto/TestoConSelezione.h"
 #include "template/txtTCP.h"
 

@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 
 namespace parvik::prova {
 

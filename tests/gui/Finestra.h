@@ -10,7 +10,7 @@
 #include <ostream>
 
 #include "app/frmParvik.h"
-#include "common/frmDialoghi.h"
+#include "common/qtDialoghi.h"
 #include "supporto/Cartelle.h"
 #include "supporto/InterlocutoreScritto.h"
 
@@ -37,7 +37,7 @@ class Finestra {
   /// Installs a copy of the example with the print module, starts, and shows the window.
   Finestra() : Finestra(nullptr) {}
   /// The same, with the program's own boxes in the place of the scripted person.
-  explicit Finestra(frmDialoghi& dialoghi) : Finestra(&dialoghi) { dialoghi.ImpostaPadre(finestra_.get()); }
+  explicit Finestra(qtDialoghi& dialoghi) : Finestra(&dialoghi) { dialoghi.ImpostaPadre(finestra_.get()); }
 
   InterlocutoreScritto& Persona() { return persona_; }
   std::filesystem::path Cartella() const { return cartella_.Percorso() / "VELKOR"; }

@@ -9,9 +9,9 @@
 
 #include "Finestra.h"
 #include "Regia.h"
-#include "app/frmSegnali.h"
+#include "app/qtSegnali.h"
 #include "common/SegnaliFine.h"
-#include "common/frmDialoghi.h"
+#include "common/qtDialoghi.h"
 
 namespace parvik::prova {
 
@@ -76,9 +76,9 @@ class Scena {
 
   int segnale_;
   SegnaliFine segnali_;
-  frmDialoghi dialoghi_;
+  qtDialoghi dialoghi_;
   Finestra finestra_{dialoghi_};
-  frmSegnali fine_{segnali_, EXIT_SUCCESS, [this] { return finestra_->PuoChiudere(); }};
+  qtSegnali fine_{segnali_, EXIT_SUCCESS, [this] { return finestra_->PuoChiudere(); }};
   Regia regia_;
   std::string nome_;
   std::string prima_;

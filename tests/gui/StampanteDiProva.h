@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QPdfWriter>
 
-#include "output/frmStampante.h"
+#include "output/qtStampante.h"
 #include "supporto/Cartelle.h"
 
 namespace parvik::prova {

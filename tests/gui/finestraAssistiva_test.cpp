@@ -5,7 +5,7 @@
 #include <QTest>
 
 #include "Finestra.h"
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 
 namespace parvik {
 namespace {

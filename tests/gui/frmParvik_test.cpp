@@ -7,7 +7,7 @@
 #include <QTest>
 
 #include "Finestra.h"
-#include "app/Menu.h"
+#include "editor/Menu.h"
 
 namespace parvik {
 namespace {

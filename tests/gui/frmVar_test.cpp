@@ -15,7 +15,7 @@
 #include <QTest>
 
 #include "Finestra.h"
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 #include "tokens/Codice.h"
 #include "tokens/CodiceVariabile.h"
 

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "common/frmItaliano.h"
+#include "common/qtItaliano.h"
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);

@@ -7,7 +7,7 @@
 #include <filesystem>
 
 #include "Finestra.h"
-#include "output/frmStampa.h"
+#include "output/qtStampa.h"
 #include "supporto/ConNome.h"
 
 namespace parvik {

@@ -10,7 +10,7 @@
 #include <set>
 
 #include "Finestra.h"
-#include "app/Menu.h"
+#include "editor/Menu.h"
 
 namespace parvik {
 namespace {

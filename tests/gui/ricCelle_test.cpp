@@ -5,7 +5,7 @@
 #include <QImage>
 
 #include "PannelloDiProva.h"
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 
 namespace parvik {
 namespace {

@@ -12,7 +12,7 @@
 #include <QToolTip>
 
 #include "Finestra.h"
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 #include "output/frmSettaFlag.h"
 #include "template/txtTCP.h"
 

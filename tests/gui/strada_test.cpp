@@ -4,7 +4,7 @@
 #include <QTest>
 
 #include "Finestra.h"
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 #include "supporto/ConNome.h"
 
 namespace parvik {

@@ -6,7 +6,7 @@
 #include <QTest>
 
 #include "Finestra.h"
-#include "common/frmTesto.h"
+#include "common/qtTesto.h"
 #include "tokens/Pezzi.h"
 
 namespace parvik {

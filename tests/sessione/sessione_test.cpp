@@ -10,7 +10,7 @@
 #include <string>
 
 #include "Finestra.h"
-#include "app/frmSegnali.h"
+#include "app/qtSegnali.h"
 #include "common/SegnaliFine.h"
 
 namespace parvik {
@@ -57,7 +57,7 @@ class Sessione : public testing::Test {
 
   SegnaliFine segnali_;
   Finestra finestra_;
-  frmSegnali fine_{segnali_, EXIT_SUCCESS, [this] { return finestra_->PuoChiudere(); }};
+  qtSegnali fine_{segnali_, EXIT_SUCCESS, [this] { return finestra_->PuoChiudere(); }};
   std::string prima_;
 };
 

@@ -1,0 +1,115 @@
+#include "common/qtTesto.h"
+
+#include <QRegularExpression>
+#include <array>
+#include <unordered_map>
+
+#include "common/Delimitatori.h"
+#include "common/Windows1252.h"
+
+namespace parvik {
+namespace {
+
+constexpr char16_t ImmaginiControllo = 0x2400;  // the pictures of the control characters, in their order
+constexpr char16_t ImmagineCancellazione = 0x2421;
+
+/// A byte's character on the screen.
+constexpr char16_t Immagine(unsigned int byte, char16_t unicode) {
+  switch (byte) {
+    case 0x7F:
+      return ImmagineCancellazione;
+    case 0x81:
+      return 0x2341;  // boxes with different strokes
+    case 0x8D:
+      return 0x2342;
+    case 0x8F:
+      return 0x2343;
+    case 0x90:
+      return 0x2344;
+    case 0x9D:
+      return 0x2347;
+    default:
+      return byte < 0x20 ? static_cast<char16_t>(ImmaginiControllo + byte) : unicode;
+  }
+}
+
+const std::array<char16_t, 256>& Immagini() {
+  static const auto tabella = [] {
+    std::array<char16_t, 256> immagini = {};
+    for (std::size_t i = 0; i < immagini.size(); ++i) {
+      immagini[i] = Immagine(static_cast<unsigned int>(i), UnicodeDiAnsi[i]);
+    }
+    return immagini;
+  }();
+  return tabella;
+}
+
+const std::unordered_map<char16_t, char>& Byte() {
+  static const auto tabella = [] {
+    std::unordered_map<char16_t, char> inversa;
+    for (std::size_t i = 0; i < Immagini().size(); ++i) {
+      const char byte = static_cast<char>(static_cast<unsigned char>(i));
+      inversa.emplace(Immagini()[i], byte);
+      inversa.emplace(UnicodeDiAnsi[i], byte);  // as it may be typed or pasted
+    }
+    return inversa;
+  }();
+  return tabella;
+}
+
+bool FinisceRiga(QChar c) {
+  return c == u'\n' || c == QChar::ParagraphSeparator || c == QChar::LineSeparator;
+}
+
+}  // namespace
+
+QString PerSchermo(std::string_view ansi) {
+  QString testo;
+  testo.reserve(static_cast<qsizetype>(ansi.size()));
+  for (std::size_t i = 0; i < ansi.size(); ++i) {
+    if (ansi.substr(i, FineRiga.size()) == FineRiga) {
+      testo += u'\n';
+      ++i;
+    } else {
+      testo += QChar(Immagini()[static_cast<unsigned char>(ansi[i])]);
+    }
+  }
+  return testo;
+}
+
+std::string DaSchermo(const QString& testo) {
+  std::string ansi;
+  ansi.reserve(static_cast<std::size_t>(testo.size()));
+  for (const QChar c : testo) {
+    if (c >= u' ' && c <= u'~') {  // almost all there is, and the same on both sides
+      ansi += c.toLatin1();
+    } else if (FinisceRiga(c)) {
+      ansi.append(FineRiga);
+    } else if (const auto byte = Byte().find(c.unicode()); byte != Byte().end()) {
+      ansi += byte->second;
+    } else if (!c.isLowSurrogate()) {
+      ansi += '?';
+    }
+  }
+  return ansi;
+}
+
+std::string DaAltrove(const QString& testo) {
+  return DaSchermo(QString(testo).replace("\r\n", "\n").replace('\r', '\n'));
+}
+
+QString SoloAnsi(const QString& testo) {
+  return PerSchermo(DaSchermo(testo));
+}
+
+QString InUnaRiga(const QString& testo) {
+  static const QRegularExpression fini(
+      QStringLiteral("[\\r\\x{240D}][\\n\\x{240A}]|[\\n-\\r\\x{85}\\x{2028}\\x{2029}\\x{240A}-\\x{240D}]"));
+  return QString(testo).replace(fini, " ");
+}
+
+QString DaUtf8(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())).replace("\r\n", "\n");
+}
+
+}  // namespace parvik

@@ -1,0 +1,241 @@
+#include "editor/Editore.h"
+
+#include <utility>
+
+#include "catalogue/TrovaTipo.h"
+#include "common/Delimitatori.h"
+#include "common/Precondizione.h"
+#include "common/Windows1252.h"
+#include "start/Avvio.h"
+#include "template/RigheSezione.h"
+#include "template/TastiSezione.h"
+#include "tokens/DescriviCodice.h"
+
+namespace parvik {
+namespace {
+
+constexpr const char* TitoloSenzaTipo = "Ordavia";
+constexpr int UscitaPerErrore = 1;
+
+// What the commands expect.
+constexpr const char* ConTipo = "a document type is chosen";
+constexpr const char* ConSezione = "the section is one of the template's";
+
+}  // namespace
+
+Editore::Editore(Installazione installazione, Catalogo catalogo, Vista& vista, Interlocutore& interlocutore)
+    : installazione_(std::move(installazione)),
+      catalogo_(std::move(catalogo)),
+      vista_(vista),
+      interlocutore_(interlocutore),
+      comandi_(documento_, interlocutore, *this, installazione_.DirImg),
+      titolo_(TitoloSenzaTipo) {}
+
+void Editore::ScegliTipo(std::size_t slot) {
+  PARVIK_ESIGE(slot < catalogo_.TipiDoc().size(), "the slot is one of the catalogue's");
+  tipoDocCorrente_ = slot;
+  anteSpuntata_ = true;
+  tabelle_ = {};
+  ApplicaTipoDoc();
+  documento_.Stato().Modificato = false;
+  documento_.Stato().Origine.reset();
+  documento_.DimenticaPassi();
+}
+
+void Editore::ApplicaTipoDoc() {
+  titolo_ = std::string(TitoloSenzaTipo) + " - " + Utf8DaAnsi(Tipo().Titolo);
+  documento_.Imposta(Sezione::Testata, FineRiga);
+  if (TreSezioni()) {
+    documento_.Imposta(Sezione::Corpo, FineRiga);
+    documento_.Imposta(Sezione::Piede, FineRiga);
+    documento_.Stato().Corpo = ImpostazioniPredefinite();
+  }
+  vista_.Aggiorna();
+  CaricaFlagStampe();
+}
+
+void Editore::CaricaFlagStampe() {
+  for (const ErroreSezione& errore : flag_.Carica(catalogo_, Tipo())) SegnalaErroreCatalogo(errore.Numero);
+  vista_.RicaricaFlagStampe();
+}
+
+void Editore::SegnalaErroreCatalogo(NumeroErrore errore) {
+  if (errore == NumeroErrore::ArgomentoNonValido) {
+    interlocutore_.Chiedi({.Testo = MessaggioVersioneDiversa});
+    interlocutore_.Termina(UscitaPerErrore);
+  } else {
+    interlocutore_.Chiedi({.Testo = TestoErrore(errore)});
+  }
+}
+
+std::vector<Variabile> Editore::VariabiliDaOffrire() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  Tabella<Variabile> tabella = catalogo_.CaricaVariabili(Tipo(), sezioneAttiva_);
+  if (tabella.Errore) SegnalaErroreCatalogo(*tabella.Errore);
+  tabella.Voci.pop_back();  // the empty slot
+  return std::move(tabella.Voci);
+}
+
+std::vector<parvik::Flag> Editore::FlagDaOffrire() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  Tabella<parvik::Flag> tabella = catalogo_.CaricaFlag(Tipo(), sezioneAttiva_);
+  if (tabella.Errore) SegnalaErroreCatalogo(*tabella.Errore);
+  if (!tabella.Errore) tabella.Voci.pop_back();  // the empty slot
+  return std::move(tabella.Voci);
+}
+
+std::string Editore::Descrivi(Sezione sezione, std::string_view contenuto) {
+  PARVIK_ESIGE(InUso(sezione), ConSezione);
+  std::optional<TabelleSezione>& tabelle = tabelle_[Indice(sezione)];
+  if (!tabelle) {
+    // What the catalogue has wrong is told by the dialogs, not by a tooltip.
+    tabelle = TabelleSezione{.Variabili = catalogo_.LeggiVariabili(Tipo(), sezione).Voci,
+                             .Flag = catalogo_.CaricaFlag(Tipo(), sezione).Voci};
+  }
+  return DescriviCodice(contenuto, tabelle->Variabili, tabelle->Flag);
+}
+
+void Editore::AttivaSezione(Sezione sezione) {
+  PARVIK_ESIGE(InUso(sezione), ConSezione);
+  sezioneAttiva_ = sezione;
+}
+
+void Editore::PreparaInserimento() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  const Cursore cursore = vista_.CursoreIn(sezioneAttiva_);
+  const TestoSezione& testo = documento_.Testo(sezioneAttiva_);
+  const EsitoTasto esito = PremiTasto(testo, cursore.Selezionato(), TastoSezione::Togli);
+  if (esito.Azione == AzioneTasto::Allarga) vista_.ImpostaCursore(sezioneAttiva_, CursoreSu(esito.Nuova));
+}
+
+void Editore::SegnaModificato() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  documento_.Stato().Modificato = true;
+}
+
+void Editore::InserisciCodici(std::span<const std::string> codici) {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  const Documento::PassoUnico passo(documento_);
+  for (const std::string& codice : codici) {
+    const Cursore cursore = vista_.CursoreIn(sezioneAttiva_);
+    const Selezione scelta = cursore.Selezionato();
+    documento_.Applica(sezioneAttiva_, {.Dove = scelta.Inizio, .Tolti = scelta.Lunghezza, .Messi = codice},
+                       GenereModifica::Intera, cursore);
+  }
+}
+
+void Editore::Annulla() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  if (documento_.PuoAnnullare()) vista_.Raggiungi(documento_.Annulla());
+}
+
+void Editore::Ripeti() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  if (documento_.PuoRipetere()) vista_.Raggiungi(documento_.Ripeti());
+}
+
+std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
+  PARVIK_ESIGE(InUso(sezione), ConSezione);
+  const Esito<ConteggioRighe> conteggio = ContaRigheSezione(documento_.Testo(sezione).Byte());
+  if (!conteggio) {
+    interlocutore_.Chiedi({.Testo = TestoErrore(conteggio.Errore())});
+    return std::nullopt;
+  }
+  if (conteggio->DaCompletare) documento_.CompletaUltimaRiga(sezione);
+  return conteggio->Righe;
+}
+
+void Editore::ImpostaCorpo(const ImpostazioniCorpo& corpo) {
+  PARVIK_ESIGE(TreSezioni(), "the document type has three sections");
+  if (corpo != documento_.Stato().Corpo)
+    documento_.Stato().Modificato = true;  // the file would be another one
+  documento_.Stato().Corpo = corpo;
+}
+
+std::optional<Editore::RigheMostrate> Editore::CalcolaTotali() {
+  TotaliRighe righe;
+  righe.UnaSezione = Tipo().NumSezioni == 1;
+  const std::optional<std::int16_t> testata = ContaRighe(Sezione::Testata);
+  const std::optional<std::int16_t> piede = righe.UnaSezione ? std::int16_t{0} : ContaRighe(Sezione::Piede);
+  if (!testata || !piede) return std::nullopt;
+  righe.Testata = *testata;
+  righe.Corpo = documento_.Stato().Corpo.RigheCorpo;
+  righe.Piede = *piede;
+  const Esito<std::int16_t> pagina = righe.Pagina();
+  if (pagina) return RigheMostrate{.Righe = righe, .Pagina = *pagina};
+  interlocutore_.Chiedi({.Testo = TestoErrore(pagina.Errore())});
+  return std::nullopt;
+}
+
+void Editore::CommutaRighe() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  totali_ = totali_ ? std::nullopt : CalcolaTotali();
+  vista_.Aggiorna();
+}
+
+void Editore::CommutaSettaFlag() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  settaFlagSpuntata_ = !settaFlagSpuntata_;
+  vista_.Aggiorna();
+}
+
+void Editore::Nuovo() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  comandi_.Nuovo(Tipo());
+}
+
+void Editore::Apri() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  comandi_.Apri(Tipo());
+  vista_.Aggiorna();
+}
+
+void Editore::ApriDaFuori(const std::filesystem::path& nome) {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  comandi_.ApriDaFuori(Tipo(), nome);
+  vista_.Aggiorna();
+}
+
+std::optional<std::size_t> Editore::TipoDaProporre(const std::filesystem::path& nome) {
+  const std::optional<std::filesystem::path> file = comandi_.TrovaDaFuori(nome);
+  if (!file) return std::nullopt;
+  const std::vector<std::size_t> adatti = TipiPerNome(catalogo_, file->filename().string());
+  return adatti.empty() ? 0 : adatti.front();
+}
+
+void Editore::Salva() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  comandi_.Salva(Tipo());
+  vista_.Aggiorna();
+}
+
+void Editore::SalvaConNome() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  comandi_.SalvaConNome(Tipo());
+  vista_.Aggiorna();
+}
+
+bool Editore::PuoChiudere() {
+  return !TipoScelto() || comandi_.PuoChiudere(Tipo());
+}
+
+void Editore::ImpostaTitolo(std::string titolo) {
+  titolo_ = std::move(titolo);
+}
+
+void Editore::AzzeraFlagStampe() {
+  flag_.AzzeraTutti();
+  vista_.RicaricaFlagStampe();
+}
+
+void Editore::TornaSenzaTipo() {
+  tipoDocCorrente_ = NessunTipo;
+  titolo_ = TitoloSenzaTipo;
+  flag_.Svuota();
+  settaFlagSpuntata_ = false;
+  totali_.reset();
+  vista_.RicaricaFlagStampe();
+  vista_.Aggiorna();
+}
+
+}  // namespace parvik

@@ -1,0 +1,200 @@
+// The editor's state and commands, without a screen: what the main window shows is all said here.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <span>
+#include <stop_token>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/Catalogo.h"
+#include "common/Interlocutore.h"
+#include "editor/Menu.h"
+#include "output/Destinazione.h"
+#include "output/FlagPerStampe.h"
+#include "output/GeneraStampa.h"
+#include "output/LavoroStampa.h"
+#include "output/TotaliRighe.h"
+#include "start/Installazione.h"
+#include "template/ComandiFile.h"
+#include "template/Documento.h"
+
+namespace parvik {
+
+/// The main window as its commands see it.
+class Vista {
+ public:
+  Vista() = default;
+  Vista(const Vista&) = delete;
+  Vista& operator=(const Vista&) = delete;
+  virtual ~Vista() = default;
+
+  /// The editor's state has changed: caption, menus, what is visible, layout.
+  virtual void Aggiorna() = 0;
+  /// Fills the preview pane anew: the caret at its start, nothing selected.
+  virtual void MostraAnteprima(Anteprima anteprima) = 0;
+  /// Puts the whole text in the place of its beginning, which was shown first; what the user has done in the
+  /// pane meanwhile stays.
+  virtual void CompletaAnteprima(Anteprima anteprima) = 0;
+  /// Runs `lavoro` on a thread of its own while the window stays alive, and returns when it has ended. When
+  /// it takes long the window says so, and lets it be given up: then `lavoro` is asked to stop. Fails when
+  /// `lavoro` ran out of memory.
+  virtual Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) = 0;
+  /// The destination of a print; nullopt when it was given up.
+  virtual std::optional<Destinazione> ScegliDestinazione() = 0;
+  /// Asks for a printer. What it returns prints the preview pane's content, or its selection, under the name
+  /// of the print job (UTF-8), and says nothing of failures. Empty when no printer was chosen. The error is
+  /// the message that the user sees (UTF-8) when there is nothing to print with.
+  using Tipografo = std::function<void(const std::string& nomeLavoro)>;
+  virtual Esito<Tipografo, std::string> ScegliStampante() = 0;
+  /// Where the caret of a section is.
+  virtual Cursore CursoreIn(Sezione sezione) const = 0;
+  virtual void ImpostaCursore(Sezione sezione, Cursore cursore) = 0;
+  /// Gives the section the focus, with the caret in sight.
+  virtual void Raggiungi(const CursoreSezione& cursore) = 0;
+  /// The print flags were loaded anew, set to false or discarded.
+  virtual void RicaricaFlagStampe() = 0;
+};
+
+class Editore final : private Contorno {
+ public:
+  /// Starts in the state without a document type. `vista` and `interlocutore` must outlive the editor;
+  /// `vista` is first used when a command runs.
+  Editore(Installazione installazione, Catalogo catalogo, Vista& vista, Interlocutore& interlocutore);
+
+  // --- what there is to show
+
+  const std::string& Titolo() const { return titolo_; }  // UTF-8
+  bool TipoScelto() const { return tipoDocCorrente_ != NessunTipo; }
+  bool TreSezioni() const { return TipoScelto() && HaTreSezioni(Tipo().NumSezioni); }
+  /// Whether the section is one of the template's.
+  bool InUso(Sezione sezione) const { return sezione == Sezione::Testata ? TipoScelto() : TreSezioni(); }
+  /// The check mark of the preview; it stays as it was when the document type is given up.
+  bool AnteSpuntata() const { return anteSpuntata_; }
+  bool AnteVisibile() const { return TipoScelto() && anteSpuntata_; }
+  StatoMenu PerMenu() const { return {.TipoScelto = TipoScelto(), .TreSezioni = TreSezioni()}; }
+  const Catalogo& Campi() const { return catalogo_; }
+  const Installazione& Dove() const { return installazione_; }
+  const Documento& Modello() const { return documento_; }
+  /// For those who show the sections: the user's changes go into it.
+  Documento& Modello() { return documento_; }
+  FlagPerStampe& Flag() { return flag_; }
+  /// The check mark of the print-flags window.
+  bool SettaFlagSpuntata() const { return settaFlagSpuntata_; }
+  /// The numbers of the line-totals window; nullopt while it is not shown. They are those of the moment at
+  /// which it was shown.
+  struct RigheMostrate {
+    TotaliRighe Righe;
+    std::int16_t Pagina = 0;
+  };
+  const std::optional<RigheMostrate>& Totali() const { return totali_; }
+
+  // --- what the user does
+
+  /// A document type was chosen from the list, by its slot.
+  void ScegliTipo(std::size_t slot);
+
+  // All that follow need a document type but where they say otherwise: see menus.md for what can be used
+  // when.
+
+  void Nuovo();
+  void Apri();
+  /// A template that was named outside: on the command line, or dropped on the window. As Apri with that name
+  /// chosen, but failures are told.
+  void ApriDaFuori(const std::filesystem::path& nome);
+  /// Without a document type yet: the slot of the one to propose for it, the first whose file-name pattern it
+  /// fits, or else the first. nullopt when there is no such file, after a message.
+  std::optional<std::size_t> TipoDaProporre(const std::filesystem::path& nome);
+  void Salva();
+  void SalvaConNome();
+  /// The menu entry of the preview: turns it on, which renders, or off.
+  void CommutaAnteprima();
+  /// The print command: asks for the destination, and renders or prints to it.
+  void Stampa();
+  /// The menu entry of the print-flags window, and that window's own close box.
+  void CommutaSettaFlag();
+  /// The menu entry of the line totals: shows the numbers of this moment, or hides them.
+  void CommutaRighe();
+  /// One that is in use.
+  void AttivaSezione(Sezione sezione);
+
+  /// Before a dialog that builds a code is shown: what its answer will take the place of cuts no code.
+  void PreparaInserimento();
+
+  /// The one routine through which every dialog inserts finished codes: at the caret of the active section,
+  /// the first in place of its selection, each next one behind it; one step to undo. The template is modified
+  /// by it, even if a code is empty.
+  void InserisciCodici(std::span<const std::string> codici);
+
+  /// Takes back, or does again, the last change of all sections; nothing where there is none.
+  void Annulla();
+  void Ripeti();
+
+  /// The variables and flags that the active section offers to a dialog. Errors in the catalogue have been
+  /// shown.
+  std::vector<Variabile> VariabiliDaOffrire();
+  std::vector<parvik::Flag> FlagDaOffrire();
+
+  /// What a code of that section is, for a tooltip. UTF-8. The section must be in use.
+  std::string Descrivi(Sezione sezione, std::string_view contenuto);
+
+  /// The lines of a section, its last line completed; nullopt after a message when there are too many to
+  /// count.
+  std::optional<std::int16_t> ContaRighe(Sezione sezione);
+  /// Needs a type of three sections.
+  void ImpostaCorpo(const ImpostazioniCorpo& corpo);
+
+  /// Whether the window may close. Asks when the template is modified. In every state.
+  bool PuoChiudere();
+  /// A section was edited, or a key was pressed in it.
+  void SegnaModificato();
+
+ private:
+  static constexpr std::uint16_t NessunTipo = 999;
+
+  const TipoDoc& Tipo() const { return catalogo_.TipiDoc()[tipoDocCorrente_]; }
+  void ApplicaTipoDoc();
+  void CaricaFlagStampe();
+  void SegnalaErroreCatalogo(NumeroErrore errore);
+  std::optional<RigheMostrate> CalcolaTotali();
+  LavoroStampa LavoroSenzaTesti() const;
+  LavoroStampa InizioLavoro() const;
+  /// Both: false when the run was given up, or ran out of memory.
+  bool Genera();
+  bool AccendiAnteprima();
+  void StampaSuCarta();
+  void StampaTesto();
+
+  void ImpostaTitolo(std::string titolo) override;
+  void SpegniAnteprima() override;
+  void AzzeraFlagStampe() override;
+  void TornaSenzaTipo() override;
+
+  Installazione installazione_;
+  Catalogo catalogo_;
+  Vista& vista_;
+  Interlocutore& interlocutore_;
+  Documento documento_;
+  FlagPerStampe flag_;
+  ComandiFile comandi_;
+  std::string titolo_;
+  std::size_t tipoDocCorrente_ = NessunTipo;
+  bool anteSpuntata_ = false;
+  std::filesystem::path fileStampa_;  // what the last save dialog of the print command gave
+  bool settaFlagSpuntata_ = false;
+  std::optional<RigheMostrate> totali_;
+  Sezione sezioneAttiva_ = Sezione::Testata;  // the one that last had the focus
+  /// What Descrivi reads: loaded for one section of the current type when it is first asked for.
+  struct TabelleSezione {
+    std::vector<Variabile> Variabili;
+    std::vector<parvik::Flag> Flag;
+  };
+  std::array<std::optional<TabelleSezione>, MaxSezioni> tabelle_;
+};
+
+}  // namespace parvik

@@ -1,0 +1,52 @@
+#include "output/qtStampa.h"
+
+#include <unistd.h>
+
+#include <QJsonObject>
+#include <QPluginLoader>
+#include <QProgressDialog>
+#include <cerrno>
+
+#include "common/TestoMostrabile.h"
+#include "output/ricCarta.h"
+
+namespace parvik {
+namespace {
+
+constexpr int Millesimi = 1000;
+constexpr const char* NomeModulo = "parvik32-stampa.so";
+
+/// Of a file that could not be loaded: it cannot be read, or it is not what it should be.
+NumeroErrore Motivo(const std::filesystem::path& file) {
+  return ::access(file.c_str(), R_OK) == 0 ? NumeroErrore::AccessoPercorsoFile : DaErrno(errno);
+}
+
+}  // namespace
+
+Esito<ModuloStampa*, std::string> CaricaModuloStampa(const std::filesystem::path& cartella) {
+  const std::filesystem::path file = cartella / NomeModulo;
+  QPluginLoader libreria(QString::fromStdString(file.string()));
+  ModuloStampa* modulo = nullptr;
+  // The name of the contract can be read without running what lies there.
+  if (libreria.metaData().value("IID").toString() == qobject_interface_iid<ModuloStampa*>())
+    modulo = qobject_cast<ModuloStampa*>(libreria.instance());
+  if (modulo == nullptr) return TestoErrore(Motivo(file)) + "\r\n" + Mostrabile(file.string());
+  return modulo;
+}
+
+void StampaConAttesa(Stampante& stampante, const TestoAnteprima& testo, const Selezione& parte,
+                     QWidget* padre) {
+  QProgressDialog scatola("Stampa in corso...", "Annulla", 0, Millesimi, padre);
+  scatola.setObjectName("frmStampa");
+  scatola.setWindowTitle("Ordavia");
+  scatola.setWindowModality(Qt::ApplicationModal);
+  scatola.setMinimumDuration(500);
+  QObject::connect(&scatola, &QDialog::rejected, &scatola, &QProgressDialog::cancel);
+  const double tutto = static_cast<double>(parte.Lunghezza) + 1;
+  StampaSuCarta(stampante, testo, parte, [&](std::size_t fino) {
+    scatola.setValue(static_cast<int>(Millesimi * (static_cast<double>(fino - parte.Inizio) / tutto)));
+    return !scatola.wasCanceled();
+  });
+}
+
+}  // namespace parvik

@@ -1,0 +1,36 @@
+#include "start/Avvio.h"
+
+#include <utility>
+
+#include "common/LetturaFile.h"
+#include "common/TestoMostrabile.h"
+
+namespace parvik {
+namespace {
+
+std::string TestoConPosto(NumeroErrore errore, const std::filesystem::path& file, std::size_t riga) {
+  return TestoErrore(errore) + "\r\n" + Mostrabile(file.string()) + ", riga " + std::to_string(riga);
+}
+
+}  // namespace
+
+Esito<Catalogo, std::string> LeggiCatalogo(const std::filesystem::path& fileCampi) {
+  Esito<std::string> contenuto = LeggiFile(fileCampi);
+  if (!contenuto) return TestoConPosto(contenuto.Errore(), fileCampi, 1);
+  Esito<Catalogo, ErroreCatalogo> catalogo = Catalogo::CaricaCampi(std::move(*contenuto));
+  if (!catalogo) return TestoConPosto(catalogo.Errore().Numero, fileCampi, catalogo.Errore().Riga);
+  return std::move(*catalogo);
+}
+
+std::optional<DatiAvvio> Avvia(const Ambiente& ambiente, Interlocutore& interlocutore) {
+  std::optional<Installazione> installazione = VerificaCampiTXT(ambiente, interlocutore);
+  if (!installazione) return std::nullopt;
+  Esito<Catalogo, std::string> catalogo = LeggiCatalogo(installazione->FileCampi);
+  if (!catalogo) {
+    interlocutore.Chiedi({.Testo = catalogo.Errore()});
+    return std::nullopt;
+  }
+  return DatiAvvio{ambiente.DirProgramma, std::move(*installazione), std::move(*catalogo)};
+}
+
+}  // namespace parvik

@@ -1,0 +1,116 @@
+#include "start/Installazione.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include "common/DirProgramma.h"
+#include "common/LetturaFile.h"
+#include "common/Percorsi.h"
+#include "common/ProfiloHost.h"
+
+namespace parvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view FileProfilo = "VELKOR.INI";
+constexpr std::string_view NomeCampi = "CAMPI.TXT";
+
+std::string Variabile(const char* nome) {
+  const char* valore = std::getenv(nome);  // NOLINT(concurrency-mt-unsafe): nobody sets variables
+  return valore == nullptr ? std::string() : std::string(valore);
+}
+
+fs::path ConSeparatore(fs::path cartella) {
+  if (cartella.has_filename()) cartella /= "";
+  return cartella;
+}
+
+std::string DirDalProfilo(const Ambiente& ambiente) {
+  for (const fs::path& cartella : ambiente.CartelleConfigurazione) {
+    const fs::path profilo = TrovaSenzaCaso(cartella, FileProfilo);
+    if (!EsisteFile(profilo)) continue;
+    // A profile that cannot be read says nothing, as for the host's own reader.
+    const Esito<std::string> contenuto = LeggiFile(profilo);
+    return contenuto ? LeggiProfilo(*contenuto, "AMBIENTE", "Dir velkor") : std::string();
+  }
+  return {};
+}
+
+fs::path CercaCampi(const fs::path& dirImg, Interlocutore& interlocutore) {
+  const Risposta risposta = interlocutore.Chiedi(
+      {.Testo = "File CAMPI.TXT non trovato! Senza di esso non sarà possibile proseguire.\r\n"
+                "Si desidera cercarlo?",
+       .Simbolo = Icona::Esclamazione,
+       .Tasti = Pulsanti::SiNo});
+  if (risposta != Risposta::Si) return {};
+  RichiestaFile richiesta;
+  richiesta.Uso = RichiestaFile::Scopo::Apri;
+  richiesta.Titolo = "Apri file " + std::string(NomeCampi);
+  richiesta.Cartella = dirImg;
+  richiesta.EtichettaFiltro = "File TXT (*.txt)";
+  richiesta.Modello = NomeCampi;
+  return interlocutore.ScegliFile(richiesta);
+}
+
+}  // namespace
+
+Ambiente AmbienteDelProcesso(const char* argv0) {
+  Ambiente ambiente;
+  ambiente.DirProgramma = DirProgramma(argv0);
+  const std::string casa = Variabile("XDG_CONFIG_HOME");
+  const std::string utente = Variabile("HOME");
+  if (!casa.empty()) {
+    ambiente.CartelleConfigurazione.emplace_back(casa);
+  } else if (!utente.empty()) {
+    ambiente.CartelleConfigurazione.push_back(fs::path(utente) / ".config");
+  }
+  std::string altre = Variabile("XDG_CONFIG_DIRS");
+  if (altre.empty()) altre = "/etc/xdg";
+  for (std::size_t inizio = 0; inizio <= altre.size();) {
+    const std::size_t fine = std::min(altre.find(':', inizio), altre.size());
+    if (fine > inizio) ambiente.CartelleConfigurazione.emplace_back(altre.substr(inizio, fine - inizio));
+    inizio = fine + 1;
+  }
+  ambiente.CartelleConfigurazione.emplace_back("/etc");
+  return ambiente;
+}
+
+Installazione Installazione::In(const fs::path& dirVelkor) {
+  Installazione installazione;
+  installazione.DirVelkor = ConSeparatore(dirVelkor);
+  installazione.DirImg = TrovaSenzaCaso(installazione.DirVelkor, "D_IMG");
+  installazione.FileCampi = TrovaSenzaCaso(installazione.DirImg, NomeCampi);
+  return installazione;
+}
+
+fs::path Installazione::DirStm() const {
+  return TrovaSenzaCaso(DirVelkor, "D_STM");
+}
+
+fs::path TrovaDirVelkor(const Ambiente& ambiente) {
+  if (!ambiente.DirVelkor.empty()) return ConSeparatore(ambiente.DirVelkor);
+  fs::path genitore = ConSeparatore(ambiente.DirProgramma.parent_path());
+  if (EsisteFile(TrovaSenzaCaso(genitore, FileProfilo))) return genitore;
+  const std::string valore = DirDalProfilo(ambiente);
+  return valore.empty() ? fs::path() : ConSeparatore(PercorsoDellHost(valore));
+}
+
+std::optional<Installazione> VerificaCampiTXT(const Ambiente& ambiente, Interlocutore& interlocutore) {
+  const fs::path dirVelkor = TrovaDirVelkor(ambiente);
+  if (dirVelkor.empty()) {
+    interlocutore.Chiedi({.Testo =
+                              "Non sono riuscito a trovare la directory di installazione di [velkor].\r\n"
+                              "Impossibile continure!"});
+    return std::nullopt;
+  }
+  Installazione installazione = Installazione::In(dirVelkor);
+  if (EsisteFile(installazione.FileCampi)) return installazione;
+  installazione.FileCampi = CercaCampi(installazione.DirImg, interlocutore);
+  if (installazione.FileCampi.empty()) return std::nullopt;
+  return installazione;
+}
+
+}  // namespace parvik

@@ -1,0 +1,160 @@
+#include "template/qtColori.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <QSignalBlocker>
+#include <QTextBlock>
+#include <QTextDocument>
+#include <algorithm>
+#include <cmath>
+
+#include "common/Delimitatori.h"
+#include "common/qtTesto.h"
+
+namespace parvik {
+namespace {
+
+/// The least contrast of a code's colour with what it stands on: what small text needs to be legible.
+constexpr double ContrastoMinimo = 4.5;
+constexpr double ForzaFondo = 0.2;  // how much of the highlight colour is in the mark
+constexpr int Passi = 20;           // from a colour to black or white
+
+// By TipoCodice. Far apart in hue; light and dark sets give a kind the same hue.
+using Tinte = std::array<QRgb, 7>;
+constexpr Tinte TinteSuChiaro = {0xFFC0122F, 0xFF0B4FC4, 0xFF176B2C, 0xFF944200,
+                                 0xFF7D1FA8, 0xFF00656F, 0xFF66610A};
+constexpr Tinte TinteSuScuro = {0xFFFF8585, 0xFF8AB4F8, 0xFF7FD08F, 0xFFFBA35C,
+                                0xFFD7A5FB, 0xFF5FD9E6, 0xFFDCCB4E};
+constexpr QRgb Nero = 0xFF000000;
+constexpr QRgb Bianco = 0xFFFFFFFF;
+
+double Lineare(int canale) {
+  const double c = canale / 255.0;
+  return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+}
+
+double Luminanza(QRgb colore) {
+  return 0.2126 * Lineare(qRed(colore)) + 0.7152 * Lineare(qGreen(colore)) + 0.0722 * Lineare(qBlue(colore));
+}
+
+double Contrasto(QRgb uno, QRgb altro) {
+  const auto [scuro, chiaro] = std::minmax({Luminanza(uno), Luminanza(altro)});
+  return (chiaro + 0.05) / (scuro + 0.05);
+}
+
+/// `da` with a part of `a` in it: 0 none, 1 nothing else.
+QRgb Misto(QRgb da, QRgb a, double parte) {
+  const auto canale = [parte](int x, int y) { return static_cast<int>(std::lround(x + (y - x) * parte)); };
+  return qRgb(canale(qRed(da), qRed(a)), canale(qGreen(da), qGreen(a)), canale(qBlue(da), qBlue(a)));
+}
+
+/// Towards the highlight, as far as text in the colour `estremo` stays legible on it; if that is nowhere,
+/// away from `estremo`.
+QRgb FondoSu(QRgb base, QRgb evidenza, QRgb estremo) {
+  const QRgb fondo = Misto(base, evidenza, ForzaFondo);
+  if (Contrasto(estremo, fondo) >= ContrastoMinimo) return fondo;
+  return Misto(base, estremo == Nero ? Bianco : Nero, ForzaFondo);
+}
+
+/// `tinta`, moved towards `estremo` until it can be read on both.
+QRgb Leggibile(QRgb tinta, QRgb estremo, QRgb base, QRgb fondo) {
+  QRgb colore = tinta;
+  for (int passo = 1; passo <= Passi; ++passo) {
+    if (std::min(Contrasto(colore, base), Contrasto(colore, fondo)) >= ContrastoMinimo) break;
+    colore = Misto(tinta, estremo, static_cast<double>(passo) / Passi);
+  }
+  return colore;
+}
+
+/// What the toolkit keeps with a line: whether a code is open at its end, and of which kind.
+constexpr int NessunoAperto = 0;
+
+int StatoDi(TipoCodice tipo) {
+  return static_cast<int>(tipo) + 1;
+}
+
+/// One byte for each character of a line.
+std::string Byte(const QString& riga) {
+  std::string byte = DaSchermo(riga);
+  byte.resize(static_cast<std::size_t>(riga.size()), ' ');  // places stay, whatever was in it
+  return byte;
+}
+
+}  // namespace
+
+qtColori::qtColori(QTextDocument* documento, const txtSpecchio& specchio)
+    : QSyntaxHighlighter(documento), specchio_(specchio) {
+  ImpostaTavolozza(QGuiApplication::palette());
+}
+
+void qtColori::ColoraDa(int riga) {
+  // Colouring counts as an edit to the toolkit: whoever listens for changes would hear one.
+  const QSignalBlocker muto(document());
+  rehighlightBlock(document()->findBlockByNumber(riga));
+}
+
+void qtColori::ImpostaTavolozza(const QPalette& tavolozza) {
+  const QRgb base = tavolozza.color(QPalette::Base).rgb();
+  const bool chiaro = Contrasto(Nero, base) >= Contrasto(Bianco, base);
+  const QRgb estremo = chiaro ? Nero : Bianco;
+  const QRgb fondo = FondoSu(base, tavolozza.color(QPalette::Highlight).rgb(), estremo);
+  const Tinte& tinte = chiaro ? TinteSuChiaro : TinteSuScuro;
+  const auto prima = formati_;
+  for (std::size_t i = 0; i < formati_.size(); ++i) {
+    formati_[i].setForeground(QColor(Leggibile(tinte[i], estremo, base, fondo)));
+  }
+  fondo_ = fondo;
+  if (formati_ == prima) return;
+  const QSignalBlocker muto(document());
+  rehighlight();
+}
+
+QColor qtColori::Colore(TipoCodice tipo) const {
+  return formati_[static_cast<std::size_t>(tipo)].foreground().color();
+}
+
+/// The kind of the code that is open where the line begins. The line in front of it knows, but for the first
+/// one that is coloured anew.
+std::optional<TipoCodice> qtColori::CodiceAperto() const {
+  const int stato = previousBlockState();
+  if (stato <= NessunoAperto) return std::nullopt;
+  return static_cast<TipoCodice>(stato - 1);
+}
+
+/// Whether a code that is open at the end of this line is closed in a later one.
+bool qtColori::ChiusoPiuAvanti() const {
+  const QTextBlock riga = currentBlock();
+  const auto fine = static_cast<std::size_t>(riga.position() + riga.length() - 1 + riga.blockNumber());
+  const TestoSezione& testo = specchio_.Testo();
+  return fine < testo.Dimensione() && testo.Seguente(Segno::Chiusura, fine).has_value();
+}
+
+void qtColori::Colora(std::size_t inizio, std::size_t fine, TipoCodice tipo) {
+  setFormat(static_cast<int>(inizio), static_cast<int>(fine - inizio),
+            formati_[static_cast<std::size_t>(tipo)]);
+}
+
+void qtColori::highlightBlock(const QString& riga) {
+  const std::string byte = Byte(riga);
+  std::size_t qui = 0;
+  setCurrentBlockState(NessunoAperto);
+  if (const auto aperto = CodiceAperto()) {
+    const std::size_t chiusura = byte.find(DelimChiusura);
+    qui = std::min(chiusura, byte.size() - 1) + 1;
+    Colora(0, qui, *aperto);
+    if (chiusura == std::string::npos) return setCurrentBlockState(StatoDi(*aperto));
+  }
+  while (qui < byte.size()) {
+    const ConfiniCodice codice = ProssimoCodice(byte, qui);
+    if (codice.Apertura == byte.size()) return;
+    const bool aperto = codice.Chiusura == byte.size();
+    if (aperto && !ChiusoPiuAvanti()) return;
+    const TipoCodice tipo =
+        Riconosci(std::string_view(byte).substr(codice.Apertura + 1, codice.Chiusura - codice.Apertura - 1));
+    qui = std::min(codice.Chiusura + 1, byte.size());
+    Colora(codice.Apertura, qui, tipo);
+    if (aperto) setCurrentBlockState(StatoDi(tipo));
+  }
+}
+
+}  // namespace parvik

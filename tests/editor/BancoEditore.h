@@ -1,0 +1,111 @@
+// The editor on the example installation, with a window made of memory.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "editor/Editore.h"
+#include "start/Avvio.h"
+#include "supporto/Cartelle.h"
+#include "supporto/InterlocutoreScritto.h"
+
+namespace parvik {
+
+/// A row that is a section is told by its name.
+inline void PrintTo(Sezione sezione, std::ostream* uscita) {
+  *uscita << NomiSezioni[Indice(sezione)];
+}
+
+}  // namespace parvik
+
+namespace parvik::prova {
+
+class VistaFinta final : public Vista {
+ public:
+  void Aggiorna() override { ++Aggiornamenti; }
+  void MostraAnteprima(Anteprima anteprima) override { Anteprime.push_back(std::move(anteprima.Testo)); }
+  void CompletaAnteprima(Anteprima anteprima) override { Completate.push_back(std::move(anteprima.Testo)); }
+  Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override {
+    if (Attesa == ComeAttende::SenzaMemoria) return NumeroErrore::MemoriaEsaurita;
+    std::stop_source smetti;
+    if (Attesa == ComeAttende::Smette) smetti.request_stop();
+    lavoro(smetti.get_token());
+    return {};
+  }
+  std::optional<Destinazione> ScegliDestinazione() override {
+    ++RichiesteDestinazione;
+    return DestinazioneScelta;
+  }
+  Esito<Tipografo, std::string> ScegliStampante() override {
+    ++RichiesteStampante;
+    if (!SenzaStampe.empty()) return SenzaStampe;
+    if (!ConStampante) return Tipografo();
+    return Tipografo([this](const std::string& nomeLavoro) { LavoriStampati.push_back(nomeLavoro); });
+  }
+  Cursore CursoreIn(Sezione sezione) const override { return Cursori[Indice(sezione)]; }
+  void ImpostaCursore(Sezione sezione, Cursore cursore) override { Cursori[Indice(sezione)] = cursore; }
+  void Raggiungi(const CursoreSezione& cursore) override { Raggiunti.push_back(cursore); }
+  void RicaricaFlagStampe() override { ++RicaricheFlag; }
+
+  std::array<Cursore, MaxSezioni> Cursori;
+  std::vector<CursoreSezione> Raggiunti;
+  int Aggiornamenti = 0;
+  int RicaricheFlag = 0;
+  std::vector<std::string> Anteprime;
+  std::vector<std::string> Completate;
+
+  enum class ComeAttende { FinoAllaFine, Smette, SenzaMemoria };
+  ComeAttende Attesa = ComeAttende::FinoAllaFine;
+  std::optional<Destinazione> DestinazioneScelta;  // what the person at the screen chooses
+  bool ConStampante = false;
+  std::string SenzaStampe;  // why there is nothing to print with
+  int RichiesteDestinazione = 0;
+  int RichiesteStampante = 0;
+  std::vector<std::string> LavoriStampati;
+};
+
+/// Slots of the example catalogue.
+inline constexpr std::size_t Fattura = 0;
+inline constexpr std::size_t Listino = 11;
+
+class BancoEditore : public testing::Test {
+ protected:
+  BancoEditore() : BancoEditore(Contenuto(Esempio() / "D_IMG" / "CAMPI.TXT")) {}
+  explicit BancoEditore(std::string campi)
+      : editore_(Dove(dir_.Percorso()), std::move(*Catalogo::CaricaCampi(std::move(campi))), vista_,
+                 interlocutore_) {
+    for (const Sezione sezione : TutteLeSezioni) Imposta(sezione, "mai scelto");
+  }
+
+  void Imposta(Sezione sezione, std::string_view byte) { editore_.Modello().Imposta(sezione, byte); }
+  void Imposta(const TestiSezioni& testi) {
+    for (const Sezione sezione : TutteLeSezioni) Imposta(sezione, testi[Indice(sezione)]);
+  }
+  void Aggiungi(Sezione sezione, std::string_view byte) { Imposta(sezione, Testo(sezione).append(byte)); }
+  std::string Testo(Sezione sezione) const { return editore_.Modello().Testo(sezione).Byte(); }
+  TestiSezioni TestiOra() const {
+    return {Testo(Sezione::Testata), Testo(Sezione::Corpo), Testo(Sezione::Piede)};
+  }
+
+  static Installazione Dove(const std::filesystem::path& dir) {
+    Installazione installazione;
+    installazione.DirVelkor = dir / "";
+    installazione.DirImg = dir / "D_IMG";
+    installazione.FileCampi = dir / "D_IMG" / "CAMPI.TXT";
+    return installazione;
+  }
+
+  std::filesystem::path FileNuovo() const { return dir_ / "NUOVO001.IMG"; }
+
+  CartellaTemporanea dir_;
+  VistaFinta vista_;
+  InterlocutoreScritto interlocutore_;
+  Editore editore_;
+};
+
+}  // namespace parvik::prova

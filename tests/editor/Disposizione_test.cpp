@@ -1,0 +1,158 @@
+#include "editor/Disposizione.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+
+namespace parvik {
+
+// How GoogleTest writes a place.
+static void PrintTo(const Rettangolo& r, std::ostream* flusso) {
+  *flusso << "left " << r.Sinistra << ", top " << r.Alto << ", " << r.Larghezza << " x " << r.Altezza;
+}
+
+namespace prova {
+namespace {
+
+// As designed: sections 375 twips from the left edge, labels 60.
+Finestra DiDimensioni(int larghezza, int altezza) {
+  Finestra finestra;
+  finestra.Larghezza = larghezza;
+  finestra.Altezza = altezza;
+  finestra.SinistraSezioni = 375;
+  finestra.SinistraEtichette = 60;
+  return finestra;
+}
+
+TEST(Disponi, GivesTheWholeWindowLessTheMarginToASingleSection) {
+  const Disposizione d = Disponi(DiDimensioni(9375, 6001));
+  EXPECT_EQ((Rettangolo{375, 0, 9000, 6001}), d.Sezioni[0]);
+  EXPECT_EQ(std::nullopt, d.Sezioni[1]);
+  EXPECT_EQ(std::nullopt, d.Sezioni[2]);
+  for (const auto& etichetta : d.Etichette) EXPECT_EQ(std::nullopt, etichetta);
+  EXPECT_EQ(std::nullopt, d.StatoAnteprima);
+  EXPECT_EQ(std::nullopt, d.Anteprima);
+}
+
+TEST(Disponi, GivesTheLeftHalfToASingleSectionAndTheRightOneToThePreview) {
+  Finestra finestra = DiDimensioni(9375, 6001);
+  finestra.Anteprima = true;
+  const Disposizione d = Disponi(finestra);
+  EXPECT_EQ((Rettangolo{375, 0, 4500, 6001}), d.Sezioni[0]);
+  EXPECT_EQ((Rettangolo{4875, 0, 4500, 255}), d.StatoAnteprima);
+  EXPECT_EQ((Rettangolo{4875, 255, 4500, 5746}), d.Anteprima);
+}
+
+TEST(Disponi, StacksThreeSectionsOneTwipApartWithTheirLabelsBesideThem) {
+  Finestra finestra = DiDimensioni(9375, 6000);
+  finestra.TreSezioni = true;
+  const Disposizione d = Disponi(finestra);
+  EXPECT_EQ((Rettangolo{375, 0, 9000, 2000}), d.Sezioni[0]);
+  EXPECT_EQ((Rettangolo{375, 2001, 9000, 2000}), d.Sezioni[1]);
+  EXPECT_EQ((Rettangolo{375, 4002, 9000, 2000}), d.Sezioni[2]);
+  EXPECT_EQ((Rettangolo{60, 0, 0, 0}), d.Etichette[0]);
+  EXPECT_EQ((Rettangolo{60, 2001, 0, 0}), d.Etichette[1]);
+  EXPECT_EQ((Rettangolo{60, 4002, 0, 0}), d.Etichette[2]);
+  EXPECT_EQ(std::nullopt, d.StatoAnteprima);
+  EXPECT_EQ(std::nullopt, d.Anteprima);
+}
+
+TEST(Disponi, RoundsAThirdOfTheHeight) {
+  struct Caso {
+    int Altezza;
+    int Terzo;
+  };
+  for (const Caso caso :
+       {Caso{6000, 2000}, Caso{6001, 2000}, Caso{6002, 2001}, Caso{1, 0}, Caso{2, 1}, Caso{0, 0}}) {
+    Finestra finestra = DiDimensioni(9375, caso.Altezza);
+    finestra.TreSezioni = true;
+    const Disposizione d = Disponi(finestra);
+    EXPECT_EQ((Rettangolo{375, 0, 9000, caso.Terzo}), d.Sezioni[0]);
+    EXPECT_EQ((Rettangolo{375, caso.Terzo + 1, 9000, caso.Terzo}), d.Sezioni[1]);
+    EXPECT_EQ((Rettangolo{375, 2 * caso.Terzo + 2, 9000, caso.Terzo}), d.Sezioni[2]);
+  }
+}
+
+TEST(Disponi, RoundsHalfOfTheWidthToTheEvenNumber) {
+  struct Caso {
+    int Larghezza;  // less the margin
+    int Meta;
+  };
+  for (const Caso caso : {Caso{9000, 4500}, Caso{9001, 4500}, Caso{9003, 4502}, Caso{1, 0}, Caso{3, 2}}) {
+    Finestra finestra = DiDimensioni(375 + caso.Larghezza, 6000);
+    finestra.TreSezioni = true;
+    finestra.Anteprima = true;
+    const Disposizione d = Disponi(finestra);
+    for (const auto& sezione : d.Sezioni) EXPECT_EQ(caso.Meta, sezione->Larghezza) << caso.Larghezza;
+    EXPECT_EQ((Rettangolo{375 + caso.Meta, 0, caso.Meta, 255}), d.StatoAnteprima);
+    EXPECT_EQ((Rettangolo{375 + caso.Meta, 255, caso.Meta, 5745}), d.Anteprima);
+  }
+}
+
+TEST(Disponi, GivesNoWidthInAMinimisedWindow) {
+  for (const bool anteprima : {false, true}) {
+    Finestra finestra = DiDimensioni(0, 0);
+    finestra.Anteprima = anteprima;
+    EXPECT_EQ((Rettangolo{375, 0, 0, 0}), Disponi(finestra).Sezioni[0]);
+  }
+}
+
+TEST(Disponi, NeverGivesANegativeSize) {
+  Finestra finestra = DiDimensioni(100, 100);
+  finestra.TreSezioni = true;
+  finestra.Anteprima = true;
+  const Disposizione d = Disponi(finestra);
+  EXPECT_EQ((Rettangolo{375, 0, 0, 33}), d.Sezioni[0]);
+  EXPECT_EQ((Rettangolo{375, 0, 0, 255}), d.StatoAnteprima);
+  EXPECT_EQ((Rettangolo{375, 255, 0, 0}), d.Anteprima);
+}
+
+Finestra ConAnteprima(int larghezza) {
+  Finestra finestra = DiDimensioni(larghezza, 6000);
+  finestra.Anteprima = true;
+  return finestra;
+}
+
+TEST(Disponi, ADraggedBoundaryMovesBothColumnsAndLeavesThePreviewsRightEdge) {
+  Finestra finestra = ConAnteprima(9375);
+  finestra.TreSezioni = true;
+  finestra.Divisore = 3000;
+  const Disposizione d = Disponi(finestra);
+  EXPECT_EQ((Rettangolo{375, 0, 2625, 2000}), d.Sezioni[0]);
+  EXPECT_EQ((Rettangolo{375, 2001, 2625, 2000}), d.Sezioni[1]);
+  EXPECT_EQ((Rettangolo{375, 4002, 2625, 2000}), d.Sezioni[2]);
+  EXPECT_EQ((Rettangolo{60, 2001, 0, 0}), d.Etichette[1]);
+  EXPECT_EQ((Rettangolo{3000, 0, 6375, 255}), d.StatoAnteprima);
+  EXPECT_EQ((Rettangolo{3000, 255, 6375, 5745}), d.Anteprima);
+}
+
+TEST(Disponi, WithoutAPreviewThereIsNoBoundary) {
+  Finestra finestra = DiDimensioni(9375, 6001);
+  const Disposizione prima = Disponi(finestra);
+  finestra.Divisore = 3000;
+  EXPECT_EQ(prima, Disponi(finestra));
+}
+
+TEST(DivisoreAmmesso, LeavesEachColumnAHundredAndTwentyPixels) {
+  const Finestra finestra = ConAnteprima(15375);
+  for (const int posto : {375 + 1800, 7000, 15375 - 1800}) EXPECT_EQ(DivisoreAmmesso(finestra, posto), posto);
+  for (const int posto : {375 + 1799, 0, -90'000}) EXPECT_EQ(DivisoreAmmesso(finestra, posto), 375 + 1800);
+  for (const int posto : {15375 - 1799, 90'000}) EXPECT_EQ(DivisoreAmmesso(finestra, posto), 15375 - 1800);
+}
+
+TEST(DivisoreAmmesso, LeavesEachColumnAQuarterOfANarrowWindow) {
+  const Finestra finestra = ConAnteprima(4000);
+  EXPECT_EQ(DivisoreAmmesso(finestra, 375 + 999), 375 + 1000);
+  EXPECT_EQ(DivisoreAmmesso(finestra, 375 + 1000), 375 + 1000);
+  EXPECT_EQ(DivisoreAmmesso(finestra, 4000 - 1000), 4000 - 1000);
+  EXPECT_EQ(DivisoreAmmesso(finestra, 4000 - 999), 4000 - 1000);
+}
+
+TEST(DivisoreAmmesso, IsNowhereInAWindowThatHoldsNoTwoSuchColumns) {
+  EXPECT_EQ(DivisoreAmmesso(ConAnteprima(750), 562), 562);
+  EXPECT_EQ(DivisoreAmmesso(ConAnteprima(740), 560), std::nullopt);
+}
+
+}  // namespace
+}  // namespace prova
+}  // namespace parvik

@@ -1,0 +1,32 @@
+#include "start/CartelleProgramma.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "start/CartelleInstallate.h"
+#include "supporto/Cartelle.h"
+
+namespace parvik::prova {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(CartelleProgramma, OfABuiltProgramAreItsOwnAndTheOneAbove) {
+  const CartellaTemporanea dir;
+  fs::create_directories(dir / "PARVIK");
+  EXPECT_EQ(DirModuli(dir / "PARVIK"), dir / "PARVIK");
+  EXPECT_EQ(DirEsempio(dir / "PARVIK"), dir.Percorso());
+}
+
+TEST(CartelleProgramma, OfAnInstalledProgramLieBesideIt) {
+  const CartellaTemporanea dir;
+  fs::create_directories(dir / "bin");
+  fs::create_directories(dir / "bin" / DaProgrammaAModuli);
+  fs::create_directories(dir / "bin" / DaProgrammaAEsempio);
+  EXPECT_EQ(DirModuli(dir / "bin"), (dir / "bin" / DaProgrammaAModuli).lexically_normal());
+  EXPECT_EQ(DirEsempio(dir / "bin"), (dir / "bin" / DaProgrammaAEsempio).lexically_normal());
+}
+
+}  // namespace
+}  // namespace parvik::prova
