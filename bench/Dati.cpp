@@ -6,7 +6,7 @@
 
 #include "catalogue/Catalogo.h"
 #include "common/LettoreRighe.h"
-#include "common/LetturaFile.h"
+#include "sistema/LetturaFile.h"
 #include "template/ImmagineModello.h"
 
 namespace parvik::bench {

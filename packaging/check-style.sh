@@ -25,6 +25,14 @@ core=$(echo "$files" | grep '^src/' | grep -vE '/(frm|qt|txt|lbl|ric)[A-Z][A-Za-
 found=$(grep -lE '#include [<"](Q[A-Z]|frm|ui_|[a-z]+/(frm|qt|txt|lbl|ric)[A-Z])' $core || true)
 [ -z "$found" ] || complain "Qt or a window included in the core: $found"
 
+# The system is in one room, behind headers that name none: outside it the C++ library is enough,
+# and the instructions of a processor.
+outside=$(echo "$files" | grep '^src/' | grep -v '^src/sistema/posix/')
+# shellcheck disable=SC2086
+found=$(grep -nE '#include (<([a-z_0-9/]+\.h|cerrno|clocale|csignal)>|"sistema/posix/)|[^A-Za-z0-9_>]::[a-z_0-9]+\(|\bgetenv\(|"/(dev|etc|proc|tmp)\b' \
+  $outside | grep -v '#include <emmintrin.h>' || true)
+[ -z "$found" ] || complain "the system outside src/sistema/posix: $found"
+
 # A form is a dialog or the main window: what else knows Qt has another mark.
 for header in src/*/frm*.h; do
   grep -qE '^class frm[A-Za-z]+( final)? : public (QDialog|QMainWindow|frm[A-Za-z]+)\b' "$header" ||

@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <memory>
 
-#include "common/SegnaliFine.h"
+#include "sistema/SegnaliFine.h"
 
 namespace parvik {
 

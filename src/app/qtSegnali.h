@@ -6,7 +6,7 @@
 #include <QSessionManager>
 #include <functional>
 
-#include "common/SegnaliFine.h"
+#include "sistema/SegnaliFine.h"
 
 namespace parvik {
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "batch/Messaggi.h"
-#include "common/LetturaFile.h"
+#include "sistema/LetturaFile.h"
 
 namespace parvik::batch {
 namespace {

@@ -1,14 +1,11 @@
 #include "batch/Messaggi.h"
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
 
-#include "common/Ripeti.h"
 #include "common/TestoMostrabile.h"
 #include "common/Windows1252.h"
+#include "sistema/UscitaStandard.h"
 
 namespace parvik::batch {
 
@@ -56,15 +53,9 @@ std::string PerTabella(std::string_view ansi) {
 }
 
 bool Stampa(std::string_view testo) {
-  while (!testo.empty()) {
-    const ssize_t scritti = Ripeti([&] { return ::write(STDOUT_FILENO, testo.data(), testo.size()); });
-    if (scritti < 0) {
-      Segnala("uscita standard", DaErrno(errno));
-      return false;
-    }
-    testo.remove_prefix(static_cast<std::size_t>(scritti));
-  }
-  return true;
+  const Esito<void> scritto = ScriviUscita(testo);
+  if (!scritto) Segnala("uscita standard", scritto.Errore());
+  return static_cast<bool>(scritto);
 }
 
 }  // namespace parvik::batch

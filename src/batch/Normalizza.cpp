@@ -6,7 +6,7 @@
 #include "batch/Comandi.h"
 #include "batch/Lettura.h"
 #include "batch/Messaggi.h"
-#include "common/ScritturaSicura.h"
+#include "sistema/ScritturaSicura.h"
 
 namespace parvik::batch {
 namespace {

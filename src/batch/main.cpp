@@ -3,7 +3,7 @@
 
 #include "batch/Messaggi.h"
 #include "batch/RigaDiComando.h"
-#include "common/Processo.h"
+#include "sistema/Processo.h"
 
 int main(int argc, char** argv) {
   using parvik::batch::Uscita;

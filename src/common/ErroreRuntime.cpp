@@ -1,7 +1,5 @@
 #include "common/ErroreRuntime.h"
 
-#include <cerrno>
-
 namespace parvik {
 
 std::string_view Descrizione(NumeroErrore errore) {
@@ -37,31 +35,6 @@ std::string_view Descrizione(NumeroErrore errore) {
 std::string TestoErrore(NumeroErrore errore) {
   std::string testo = "Si è verificato l'errore: " + std::to_string(static_cast<int>(errore)) + " ";
   return testo.append(Descrizione(errore));
-}
-
-NumeroErrore DaErrno(int numero) {
-  switch (numero) {
-    case ENOENT:
-      return NumeroErrore::FileNonTrovato;
-    case ENOTDIR:
-      return NumeroErrore::PercorsoNonTrovato;
-    case EACCES:
-    case EPERM:
-    case EBUSY:  // another program is at it
-      return NumeroErrore::AutorizzazioneNegata;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return NumeroErrore::DiscoPieno;
-    case ENOMEM:
-      return NumeroErrore::MemoriaEsaurita;
-    case EIO:
-    case ENXIO:
-    case EPIPE:
-      return NumeroErrore::ErroreDiPeriferica;
-    default:
-      return NumeroErrore::AccessoPercorsoFile;
-  }
 }
 
 }  // namespace parvik

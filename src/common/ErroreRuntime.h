@@ -27,8 +27,4 @@ std::string_view Descrizione(NumeroErrore errore);
 /// The sentence of every error message: "Si è verificato l'errore: ", number, space, description. UTF-8.
 std::string TestoErrore(NumeroErrore errore);
 
-/// The run-time error that a failed system call's errno stands for.
-/// ENOENT gives FileNonTrovato; a writer that was making a new file knows better (PercorsoNonTrovato).
-NumeroErrore DaErrno(int numero);
-
 }  // namespace parvik

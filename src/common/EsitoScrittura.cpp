@@ -1,7 +1,5 @@
 #include "common/EsitoScrittura.h"
 
-#include <cerrno>
-
 #include "common/TestoMostrabile.h"
 
 namespace parvik {
@@ -10,12 +8,6 @@ std::string TestoErrore(const ErroreScrittura& errore) {
   std::string testo = TestoErrore(errore.Numero);
   if (!errore.Nota.empty()) testo.append("\r\n").append(errore.Nota);
   return testo;
-}
-
-ErroreScrittura ErroreDaErrno(int numero) {
-  ErroreScrittura errore{.Numero = DaErrno(numero)};
-  if (numero == EBUSY) errore.Nota = "Il file è in uso: un altro programma lo sta salvando";
-  return errore;
 }
 
 std::string TestoAvviso(const Scritto& scritto) {

@@ -19,9 +19,6 @@ struct ErroreScrittura {
 /// The message: the number's own and, on a line of its own (CR LF), the note.
 std::string TestoErrore(const ErroreScrittura& errore);
 
-/// What a system call's errno means to whoever wanted to write. EBUSY says that the file is in use.
-ErroreScrittura ErroreDaErrno(int numero);
-
 /// The rights to a file that took another one's place, beside those to that one.
 enum class Diritti { Conservati, Ridotti };
 

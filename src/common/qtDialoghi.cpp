@@ -13,14 +13,12 @@
 
 #include "common/qtSchermo.h"
 #include "common/qtTesto.h"
+#include "sistema/CartelleConfigurazione.h"
 
 namespace parvik {
 namespace {
 
 const QSize DimensioneScelta(820, 520);
-
-/// Where no file can be made.
-constexpr const char* NessunaCartella = "/dev/null";
 
 QMessageBox::Icon IconaDi(Icona icona) {
   switch (icona) {
@@ -86,7 +84,8 @@ QString VoceFiltro(const QString& etichetta, const QString& modello) {
 std::filesystem::path qtDialoghi::ScegliFile(const RichiestaFile& richiesta) {
   // The toolkit's dialog reads what it wrote when it was last closed, and writes it when it closes, wherever
   // its settings are. This program keeps nothing of its own.
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, NessunaCartella);
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                     QString::fromStdString(NessunaCartella().string()));
   // The toolkit's own dialog: Italian and driven by the keyboard in the same way on every desktop.
   QFileDialog dialogo(Davanti(), DaUtf8(richiesta.Titolo),
                       QString::fromStdString(richiesta.Cartella.string()));

@@ -5,10 +5,6 @@ class QApplication;
 
 namespace parvik {
 
-/// Before the application is made: dates and sizes in the toolkit's file dialogs follow the environment
-/// alone.
-void PreparaLocale();
-
 /// The toolkit's own texts (standard buttons, file dialogs) in Italian, for as long as the application lives.
 /// False when the translation is not installed.
 bool ParlaItaliano(QApplication& programma);

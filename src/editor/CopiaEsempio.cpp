@@ -2,8 +2,8 @@
 
 #include <system_error>
 
-#include "common/ErroreRuntime.h"
 #include "common/TestoMostrabile.h"
+#include "sistema/ErroreSistema.h"
 
 namespace parvik {
 namespace {
@@ -18,9 +18,9 @@ std::string Detto(const fs::path& file, const std::string& che) {
 Esito<void, std::string> PreparaCartella(const fs::path& dove) {
   std::error_code errore;
   if (fs::create_directories(dove, errore)) return {};
-  if (errore) return Detto(dove, TestoErrore(DaErrno(errore.value())));
+  if (errore) return Detto(dove, TestoErrore(DaErroreSistema(errore)));
   const bool vuota = fs::is_empty(dove, errore);
-  if (errore) return Detto(dove, TestoErrore(DaErrno(errore.value())));
+  if (errore) return Detto(dove, TestoErrore(DaErroreSistema(errore)));
   if (!vuota) return Detto(dove, "la cartella non è vuota");
   return {};
 }
@@ -32,7 +32,7 @@ Esito<void, std::string> CopiaEsempio(const fs::path& esempio, const fs::path& d
   for (const char* parte : {"VELKOR.INI", "D_IMG", "D_STM"}) {
     std::error_code errore;
     fs::copy(esempio / parte, dove / parte, fs::copy_options::recursive, errore);
-    if (errore) return Detto(esempio / parte, TestoErrore(DaErrno(errore.value())));
+    if (errore) return Detto(esempio / parte, TestoErrore(DaErroreSistema(errore)));
   }
   return {};
 }

@@ -8,8 +8,8 @@
 #include <string_view>
 
 #include "common/EsitoScrittura.h"
-#include "common/ScritturaSicura.h"
 #include "output/GeneraStampa.h"
+#include "sistema/ScritturaSicura.h"
 
 namespace parvik {
 

@@ -1,14 +1,12 @@
 #include "output/qtStampa.h"
 
-#include <unistd.h>
-
 #include <QJsonObject>
 #include <QPluginLoader>
 #include <QProgressDialog>
-#include <cerrno>
 
 #include "common/TestoMostrabile.h"
 #include "output/ricCarta.h"
+#include "sistema/LetturaFile.h"
 
 namespace parvik {
 namespace {
@@ -18,7 +16,8 @@ constexpr const char* NomeModulo = "parvik32-stampa.so";
 
 /// Of a file that could not be loaded: it cannot be read, or it is not what it should be.
 NumeroErrore Motivo(const std::filesystem::path& file) {
-  return ::access(file.c_str(), R_OK) == 0 ? NumeroErrore::AccessoPercorsoFile : DaErrno(errno);
+  const Esito<void> leggibile = ProvaLettura(file);
+  return leggibile ? NumeroErrore::AccessoPercorsoFile : leggibile.Errore();
 }
 
 }  // namespace

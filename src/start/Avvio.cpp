@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "common/LetturaFile.h"
 #include "common/TestoMostrabile.h"
+#include "sistema/LetturaFile.h"
 
 namespace parvik {
 namespace {

@@ -1,14 +1,14 @@
 #include "start/Installazione.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 
-#include "common/DirProgramma.h"
-#include "common/LetturaFile.h"
 #include "common/Percorsi.h"
 #include "common/ProfiloHost.h"
+#include "sistema/CartelleConfigurazione.h"
+#include "sistema/DirProgramma.h"
+#include "sistema/LetturaFile.h"
 
 namespace parvik {
 namespace {
@@ -17,11 +17,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view FileProfilo = "VELKOR.INI";
 constexpr std::string_view NomeCampi = "CAMPI.TXT";
-
-std::string Variabile(const char* nome) {
-  const char* valore = std::getenv(nome);  // NOLINT(concurrency-mt-unsafe): nobody sets variables
-  return valore == nullptr ? std::string() : std::string(valore);
-}
 
 fs::path ConSeparatore(fs::path cartella) {
   if (cartella.has_filename()) cartella /= "";
@@ -58,24 +53,7 @@ fs::path CercaCampi(const fs::path& dirImg, Interlocutore& interlocutore) {
 }  // namespace
 
 Ambiente AmbienteDelProcesso(const char* argv0) {
-  Ambiente ambiente;
-  ambiente.DirProgramma = DirProgramma(argv0);
-  const std::string casa = Variabile("XDG_CONFIG_HOME");
-  const std::string utente = Variabile("HOME");
-  if (!casa.empty()) {
-    ambiente.CartelleConfigurazione.emplace_back(casa);
-  } else if (!utente.empty()) {
-    ambiente.CartelleConfigurazione.push_back(fs::path(utente) / ".config");
-  }
-  std::string altre = Variabile("XDG_CONFIG_DIRS");
-  if (altre.empty()) altre = "/etc/xdg";
-  for (std::size_t inizio = 0; inizio <= altre.size();) {
-    const std::size_t fine = std::min(altre.find(':', inizio), altre.size());
-    if (fine > inizio) ambiente.CartelleConfigurazione.emplace_back(altre.substr(inizio, fine - inizio));
-    inizio = fine + 1;
-  }
-  ambiente.CartelleConfigurazione.emplace_back("/etc");
-  return ambiente;
+  return {.DirProgramma = DirProgramma(argv0), .CartelleConfigurazione = CartelleConfigurazione()};
 }
 
 Installazione Installazione::In(const fs::path& dirVelkor) {

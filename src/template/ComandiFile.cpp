@@ -6,13 +6,13 @@
 #include <utility>
 
 #include "common/Avverti.h"
-#include "common/CopiaPrecedente.h"
 #include "common/Delimitatori.h"
-#include "common/LetturaFile.h"
 #include "common/Percorsi.h"
-#include "common/ScritturaSicura.h"
 #include "common/TestoMostrabile.h"
 #include "common/Windows1252.h"
+#include "sistema/CopiaPrecedente.h"
+#include "sistema/LetturaFile.h"
+#include "sistema/ScritturaSicura.h"
 
 namespace parvik {
 namespace {

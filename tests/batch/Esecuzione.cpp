@@ -12,7 +12,7 @@
 #include <chrono>
 #include <csignal>
 
-#include "common/Descrittore.h"
+#include "sistema/posix/Descrittore.h"
 
 namespace parvik::prova {
 namespace {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
 #include <string>
 
 namespace parvik::prova {
@@ -43,20 +42,6 @@ INSTANTIATE_TEST_SUITE_P(Tutti, ErroreRuntimeTest, testing::Values(
     Caso{NumeroErrore::PercorsoNonTrovato, 76, "Impossibile trovare il percorso"}),
     [](const auto& caso) { return "N" + std::to_string(caso.param.Numero); });
 // clang-format on
-
-TEST(DaErrno, MapsTheSystemsErrorsOntoTheProgramsOwn) {
-  EXPECT_EQ(NumeroErrore::FileNonTrovato, DaErrno(ENOENT));
-  EXPECT_EQ(NumeroErrore::PercorsoNonTrovato, DaErrno(ENOTDIR));
-  EXPECT_EQ(NumeroErrore::AutorizzazioneNegata, DaErrno(EACCES));
-  EXPECT_EQ(NumeroErrore::AutorizzazioneNegata, DaErrno(EPERM));
-  EXPECT_EQ(NumeroErrore::DiscoPieno, DaErrno(ENOSPC));
-  EXPECT_EQ(NumeroErrore::DiscoPieno, DaErrno(EDQUOT));
-  EXPECT_EQ(NumeroErrore::MemoriaEsaurita, DaErrno(ENOMEM));
-  EXPECT_EQ(NumeroErrore::ErroreDiPeriferica, DaErrno(EIO));
-  EXPECT_EQ(NumeroErrore::AccessoPercorsoFile, DaErrno(EISDIR));
-  EXPECT_EQ(NumeroErrore::AccessoPercorsoFile, DaErrno(EROFS));
-  EXPECT_EQ(NumeroErrore::AutorizzazioneNegata, DaErrno(EBUSY));
-}
 
 }  // namespace
 }  // namespace parvik::prova

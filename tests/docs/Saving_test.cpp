@@ -6,9 +6,10 @@
 #include <map>
 
 #include "common/ErroreRuntime.h"
-#include "common/LetturaFile.h"
-#include "common/ScritturaSicura.h"
 #include "docs/Pagine.h"
+#include "sistema/LetturaFile.h"
+#include "sistema/ScritturaSicura.h"
+#include "sistema/posix/Errno.h"
 #include "supporto/Cartelle.h"
 
 namespace parvik::prova {

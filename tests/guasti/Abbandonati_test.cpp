@@ -10,11 +10,11 @@
 #include <filesystem>
 #include <string>
 
-#include "common/Descrittore.h"
 #include "common/FileDiProva.h"
-#include "common/NomiProvvisori.h"
-#include "common/ScritturaSicura.h"
 #include "guasti/Guasti.h"
+#include "sistema/ScritturaSicura.h"
+#include "sistema/posix/Descrittore.h"
+#include "sistema/posix/NomiProvvisori.h"
 #include "supporto/Cartelle.h"
 
 namespace parvik::prova {

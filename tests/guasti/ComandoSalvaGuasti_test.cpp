@@ -8,6 +8,7 @@
 #include "common/EsitoScrittura.h"
 #include "guasti/CasiGuasto.h"
 #include "guasti/Guasti.h"
+#include "sistema/posix/Errno.h"
 #include "template/BancoComandi.h"
 
 namespace parvik::prova {

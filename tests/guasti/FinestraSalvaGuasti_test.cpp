@@ -15,6 +15,7 @@
 #include "guasti/CasiGuasto.h"
 #include "guasti/Guasti.h"
 #include "gui/Finestra.h"
+#include "sistema/posix/Errno.h"
 
 namespace parvik::prova {
 namespace {

@@ -8,8 +8,8 @@
 #include <string>
 
 #include "common/FileDiProva.h"
-#include "common/ScritturaSicura.h"
 #include "guasti/Salvatore.h"
+#include "sistema/ScritturaSicura.h"
 #include "supporto/Cartelle.h"
 #include "supporto/ConNome.h"
 

@@ -7,7 +7,7 @@
 #include <cerrno>
 #include <csignal>
 
-#include "common/ScritturaSicura.h"
+#include "sistema/ScritturaSicura.h"
 
 namespace parvik::prova {
 namespace {

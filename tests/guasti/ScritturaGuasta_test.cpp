@@ -10,8 +10,8 @@
 #include <string>
 
 #include "common/FileDiProva.h"
-#include "common/ScritturaSicura.h"
 #include "guasti/Guasti.h"
+#include "sistema/ScritturaSicura.h"
 #include "supporto/Cartelle.h"
 
 namespace parvik::prova {

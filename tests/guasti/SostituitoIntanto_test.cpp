@@ -7,8 +7,8 @@
 #include <string>
 
 #include "common/FileDiProva.h"
-#include "common/ScritturaSicura.h"
 #include "guasti/Salvatore.h"
+#include "sistema/ScritturaSicura.h"
 #include "supporto/Cartelle.h"
 
 namespace parvik::prova {

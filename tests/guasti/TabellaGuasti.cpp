@@ -7,6 +7,7 @@
 #include <csignal>
 
 #include "common/ErroreRuntime.h"
+#include "sistema/posix/Errno.h"
 
 namespace parvik::prova {
 namespace {

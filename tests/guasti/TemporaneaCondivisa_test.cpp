@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "common/FileDiProva.h"
-#include "common/ScritturaSicura.h"
 #include "guasti/Salvatore.h"
+#include "sistema/ScritturaSicura.h"
 #include "supporto/Cartelle.h"
 
 namespace parvik::prova {

@@ -10,8 +10,8 @@
 #include "Finestra.h"
 #include "Regia.h"
 #include "app/qtSegnali.h"
-#include "common/SegnaliFine.h"
 #include "common/qtDialoghi.h"
+#include "sistema/SegnaliFine.h"
 
 namespace parvik::prova {
 

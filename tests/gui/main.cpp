@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "common/qtItaliano.h"
+#include "sistema/Locale.h"
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);

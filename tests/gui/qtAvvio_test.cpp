@@ -10,7 +10,7 @@
 #include <QProcess>
 #include <csignal>
 
-#include "common/Descrittore.h"
+#include "sistema/posix/Descrittore.h"
 #include "supporto/Cartelle.h"
 
 namespace parvik {

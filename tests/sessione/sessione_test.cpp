@@ -11,7 +11,7 @@
 
 #include "Finestra.h"
 #include "app/qtSegnali.h"
-#include "common/SegnaliFine.h"
+#include "sistema/SegnaliFine.h"
 
 namespace parvik {
 namespace {

@@ -7,8 +7,8 @@
 
 #include "common/FileDiProva.h"
 #include "common/LettoreRighe.h"
-#include "common/LetturaFile.h"
 #include "common/NumeroLeniente.h"
+#include "sistema/LetturaFile.h"
 #include "supporto/Cartelle.h"
 #include "template/CopiaRighe.h"
 #include "template/Modelli.h"

@@ -1,0 +1,43 @@
+#include "sistema/CartelleConfigurazione.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+
+namespace parvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string Variabile(const char* nome) {
+  const char* valore = std::getenv(nome);  // NOLINT(concurrency-mt-unsafe): nobody sets variables
+  return valore == nullptr ? std::string() : std::string(valore);
+}
+
+}  // namespace
+
+std::vector<fs::path> CartelleConfigurazione() {
+  std::vector<fs::path> cartelle;
+  const std::string casa = Variabile("XDG_CONFIG_HOME");
+  const std::string utente = Variabile("HOME");
+  if (!casa.empty()) {
+    cartelle.emplace_back(casa);
+  } else if (!utente.empty()) {
+    cartelle.push_back(fs::path(utente) / ".config");
+  }
+  std::string altre = Variabile("XDG_CONFIG_DIRS");
+  if (altre.empty()) altre = "/etc/xdg";
+  for (std::size_t inizio = 0; inizio <= altre.size();) {
+    const std::size_t fine = std::min(altre.find(':', inizio), altre.size());
+    if (fine > inizio) cartelle.emplace_back(altre.substr(inizio, fine - inizio));
+    inizio = fine + 1;
+  }
+  cartelle.emplace_back("/etc");
+  return cartelle;
+}
+
+fs::path NessunaCartella() {
+  return "/dev/null";
+}
+
+}  // namespace parvik

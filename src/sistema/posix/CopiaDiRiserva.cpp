@@ -1,0 +1,113 @@
+#include "sistema/posix/CopiaDiRiserva.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <string>
+#include <utility>
+
+#include "sistema/posix/AttributiFile.h"
+#include "sistema/posix/Ripeti.h"
+
+namespace parvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path CartellaTemporanea() {
+  const char* scelta = std::getenv("TMPDIR");
+  const std::string nome = "parvik32-" + std::to_string(::geteuid());
+  return fs::path(scelta == nullptr || *scelta == '\0' ? "/tmp" : scelta) / nome;
+}
+
+/// Nobody else may put anything into it, or see what is there: the temporary folder is everybody's.
+EsitoSistema<void> VerificaPropria(const fs::path& cartella) {
+  const EsitoSistema<struct stat> stato = StatoSenzaSeguire(cartella);
+  if (!stato) return stato.Errore();
+  const bool propria =
+      S_ISDIR(stato->st_mode) && stato->st_uid == ::geteuid() && (stato->st_mode & 077U) == 0;
+  if (!propria) return EACCES;
+  return {};
+}
+
+/// Unless something else is in it.
+void TogliCartella(const fs::path& cartella) {
+  ::rmdir(cartella.c_str());
+}
+
+EsitoSistema<fs::path> CartellaPropria() {
+  fs::path cartella = CartellaTemporanea();
+  const bool fatta = Ripeti([&] { return ::mkdir(cartella.c_str(), 0700); }) == 0;
+  if (!fatta && errno != EEXIST) return errno;
+  const EsitoSistema<void> propria = VerificaPropria(cartella);
+  if (propria) return cartella;
+  if (fatta) TogliCartella(cartella);
+  return propria.Errore();
+}
+
+/// The name stands for one file of the system, whichever way leads to it.
+EsitoSistema<FileProvvisorio::Posto> PostoTemporaneo(const fs::path& originale) {
+  const EsitoSistema<struct stat> stato = Stato(originale);
+  if (!stato) return stato.Errore();
+  const EsitoSistema<fs::path> cartella = CartellaPropria();
+  if (!cartella) return cartella.Errore();
+  const std::string numeri = std::to_string(stato->st_dev) + "-" + std::to_string(stato->st_ino) + "-";
+  return FileProvvisorio::Posto{.File = originale,
+                                .Nome = *cartella / NomeDerivato(numeri, originale.filename().string(), "")};
+}
+
+}  // namespace
+
+EsitoSistema<void> CopiaDiRiserva::Scrivi(std::string_view contenuto) {
+  const EsitoSistema<struct stat> originale = Stato(posto_.File);
+  if (!originale) return originale.Errore();
+  auto file = FileProvvisorio::Crea(posto_, ModoIniziale(*originale));
+  if (!file) return file.Errore();
+  file_ = std::move(*file);
+  CopiaAttributi(file_->File(), posto_.File, *originale);
+  if (const auto passo = ScriviTutto(file_->File(), contenuto); !passo) return passo;
+  if (const auto passo = file_->Chiudi(); !passo) return passo;
+  if (const auto passo = file_->Rinomina(Nome()); !passo) return passo;
+  if (const auto passo = file_->SincronizzaNome(); !passo) return passo;
+  // Where there are no locks, whoever did not see this copy in time may be as far.
+  return file_->AffrontaRivali();
+}
+
+EsitoSistema<CopiaDiRiserva> CopiaDiRiserva::CreaIn(Posto posto, std::string_view contenuto) {
+  CopiaDiRiserva copia(std::move(posto));
+  const EsitoSistema<void> passo = copia.Scrivi(contenuto);
+  if (passo) return copia;
+  copia.Togli();
+  return passo.Errore();
+}
+
+EsitoSistema<CopiaDiRiserva> CopiaDiRiserva::Crea(const fs::path& originale, std::string_view contenuto) {
+  EsitoSistema<CopiaDiRiserva> accanto = CreaIn({.File = originale, .Nome = originale}, contenuto);
+  if (accanto || !NonPrendeFile(accanto.Errore())) return accanto;
+  return CreaAltrove(originale, contenuto);
+}
+
+/// Another save of this user may find the folder empty, and take it away, at any moment.
+EsitoSistema<CopiaDiRiserva> CopiaDiRiserva::CreaAltrove(const fs::path& originale,
+                                                         std::string_view contenuto) {
+  constexpr int MaxTentativi = 10;
+  for (int i = 0; i < MaxTentativi; ++i) {
+    const EsitoSistema<Posto> posto = PostoTemporaneo(originale);
+    if (!posto && posto.Errore() != ENOENT) return posto.Errore();
+    if (!posto) continue;
+    EsitoSistema<CopiaDiRiserva> altrove = CreaIn(*posto, contenuto);
+    if (altrove || altrove.Errore() != ENOENT) return altrove;
+  }
+  return ENOTDIR;  // there is no temporary folder
+}
+
+/// First the copy, then its lock: nobody finds one without the other.
+void CopiaDiRiserva::Togli() {
+  if (file_) static_cast<void>(parvik::Togli(Nome()));
+  file_.reset();  // and with it the provisional file, when it got no further
+  if (posto_.Nome != posto_.File) TogliCartella(CartellaDi(posto_.Nome));
+}
+
+}  // namespace parvik
