@@ -28,6 +28,7 @@ bool RegistroModifiche::Prosegue(const Variazione& variazione, GenereModifica ge
   if (passo.Genere != genere || ultima.Dove != variazione.Dove) return false;
   if (genere == GenereModifica::Battuta)
     return variazione.Tolti.empty() && variazione.Posto == ultima.Posto + ultima.Messi.size();
+  if (!variazione.Messi.empty() || !ultima.Messi.empty()) return false;
   return variazione.Posto == ultima.Posto || variazione.Posto + variazione.Tolti.size() == ultima.Posto;
 }
 
