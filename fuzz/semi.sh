@@ -4,7 +4,7 @@ set -eu
 esempio=$(cd "$(dirname "$0")/../esempio" && pwd)
 mkdir -p "$1"
 cd "$1"
-mkdir -p catalogo codici modello profilo stampa stili tasti
+mkdir -p catalogo codici documento modello profilo stampa stili tasti
 # Bytes, not characters: the files are Windows-1252.
 export LC_ALL=C
 
@@ -42,6 +42,7 @@ for file in "$esempio"/D_IMG/*.IMG; do
   sed 's/^\xAEC[0-9;CS]*\xAF\r$/\x1E/' "$file" | tr '\256\257' '\253\273' > "$nome.sezioni"
   { printf '\030\002\004\004\005'; cat "$nome.sezioni"; } > "stampa/$nome"
   { cat "$nome.sezioni"; printf '\036\001\000\004\204\000\010\000\003\002\000\060\003\001\000'; } > "tasti/$nome"
+  sed 's/$/\x1E\x01\x00\x05\x02\x64\x00\x01\x00\x09\x06\xE1\xC1\x04/' "$nome.sezioni" | sort -u | per_riga "documento/$nome.riga"
   sed 's/.*/\x17\x02\x02\x01\x1F&\r/' "$nome.sezioni" | sort -u | per_riga "stampa/$nome.riga"
   sed 's/$/\x1E\x01\x01\x04\x82\x01\x01\x01\x05\x01\x01\x09/' "$nome.sezioni" | sort -u | per_riga "tasti/$nome.riga"
   sed 's/\xAB\(S;..\)[A-Z]*\xBB/\1/g' "$nome.sezioni" > "stili/$nome"

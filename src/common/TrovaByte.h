@@ -29,7 +29,8 @@ inline std::size_t TrovaByte(std::string_view testo, char cercato, std::size_t d
   }
 #endif
   if (da == testo.size()) return da;  // there may be no memory behind an empty text
-  const void* const trovato = std::memchr(testo.data() + da, cercato, testo.size() - da);
+  const void* const trovato =
+      std::memchr(testo.data() + da, static_cast<unsigned char>(cercato), testo.size() - da);
   return trovato == nullptr ? testo.size()
                             : static_cast<std::size_t>(static_cast<const char*>(trovato) - testo.data());
 }

@@ -23,8 +23,8 @@ namespace {
 
 using Rami = std::vector<RamoTesto>;
 
-constexpr std::size_t MassimoBlocco = 2048;  // bytes
-constexpr std::size_t MassimoRami = 32;
+constexpr std::size_t MassimoBlocco = 512;  // bytes
+constexpr std::size_t MassimoRami = 16;
 constexpr const char* NelTesto = "the place lies in the text";
 
 MisuraTesto Misura(std::string_view byte) {
@@ -34,9 +34,12 @@ MisuraTesto Misura(std::string_view byte) {
   return misura;
 }
 
+RamoTesto Blocco(std::string byte, const MisuraTesto& misura) {
+  return {.Nodo = std::make_shared<const NodoTesto>(NodoTesto{.Byte = std::move(byte), .Rami = {}}),
+          .Misura = misura};
+}
 RamoTesto Blocco(std::string_view byte) {
-  return {.Nodo = std::make_shared<const NodoTesto>(NodoTesto{.Byte = std::string(byte), .Rami = {}}),
-          .Misura = Misura(byte)};
+  return Blocco(std::string(byte), Misura(byte));
 }
 
 RamoTesto Nodo(std::span<const RamoTesto> rami) {
@@ -105,20 +108,32 @@ void Aggiungi(Rami& rami, const RamoTesto& ramo) {
   }
 }
 
+/// A block after a change, or several. Only what goes and what comes is measured, where it stays one.
+Rami SostituisciInBlocco(const RamoTesto& blocco, std::size_t da, std::size_t a, std::string_view messi) {
+  const std::string_view byte = blocco.Nodo->Byte;
+  const std::size_t lungo = byte.size() - (a - da) + messi.size();
+  std::string nuovi;
+  nuovi.reserve(lungo);
+  nuovi.append(byte.substr(0, da)).append(messi).append(byte.substr(a));
+  if (lungo == 0 || lungo > MassimoBlocco) return Blocchi(nuovi);
+  MisuraTesto misura = blocco.Misura;
+  misura += Misura(messi);
+  misura -= Misura(byte.substr(da, a - da));
+  return {Blocco(std::move(nuovi), misura)};
+}
+
 /// What comes in the place of a part, of the same height: as many parts as it takes, or none.
-Rami Sostituisci(const NodoTesto& nodo, std::size_t da, std::size_t a, std::string_view messi) {
-  if (nodo.Blocco()) {
-    const std::string_view byte = nodo.Byte;
-    return Blocchi(std::string(byte.substr(0, da)).append(messi).append(byte.substr(a)));
-  }
+Rami Sostituisci(const RamoTesto& ramo, std::size_t da, std::size_t a, std::string_view messi) {
+  const NodoTesto& nodo = *ramo.Nodo;
+  if (nodo.Blocco()) return SostituisciInBlocco(ramo, da, a, messi);
   const Ramo primo = RamoDi(nodo, da);
   const Ramo ultimo = RamoDi(nodo, a, primo);
   const RamoTesto& ramoPrimo = nodo.Rami[primo.Quale];
   const bool uno = primo.Quale == ultimo.Quale;
   Rami nuovi =
-      Sostituisci(*ramoPrimo.Nodo, da - primo.Inizio, uno ? a - primo.Inizio : ramoPrimo.Misura.Byte, messi);
+      Sostituisci(ramoPrimo, da - primo.Inizio, uno ? a - primo.Inizio : ramoPrimo.Misura.Byte, messi);
   if (!uno)
-    std::ranges::copy(Sostituisci(*nodo.Rami[ultimo.Quale].Nodo, 0, a - ultimo.Inizio, {}),
+    std::ranges::copy(Sostituisci(nodo.Rami[ultimo.Quale], 0, a - ultimo.Inizio, {}),
                       std::back_inserter(nuovi));
   Rami rami(nodo.Rami.begin(), nodo.Rami.begin() + static_cast<std::ptrdiff_t>(primo.Quale));
   for (const RamoTesto& nuovo : nuovi) Aggiungi(rami, nuovo);
@@ -157,6 +172,12 @@ bool Percorri(const NodoTesto& nodo, std::size_t da, std::size_t a,
 MisuraTesto& MisuraTesto::operator+=(const MisuraTesto& altra) {
   Byte += altra.Byte;
   std::ranges::transform(Segni, altra.Segni, Segni.begin(), std::plus());
+  return *this;
+}
+
+MisuraTesto& MisuraTesto::operator-=(const MisuraTesto& altra) {
+  Byte -= altra.Byte;
+  std::ranges::transform(Segni, altra.Segni, Segni.begin(), std::minus());
   return *this;
 }
 
@@ -222,7 +243,7 @@ std::size_t AlberoTesto::Trova(Segno segno, std::size_t quale) const {
 
 AlberoTesto AlberoTesto::Con(std::size_t da, std::size_t a, std::string_view messi) const {
   PARVIK_ESIGE(da <= a && a <= Dimensione(), NelTesto);
-  return AlberoTesto(Radice(Sostituisci(*radice_.Nodo, da, a, messi)));
+  return AlberoTesto(Radice(Sostituisci(radice_, da, a, messi)));
 }
 
 }  // namespace parvik

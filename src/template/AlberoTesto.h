@@ -26,6 +26,7 @@ struct MisuraTesto {
 
   std::size_t Di(Segno segno) const { return Segni[static_cast<std::size_t>(segno)]; }
   MisuraTesto& operator+=(const MisuraTesto& altra);
+  MisuraTesto& operator-=(const MisuraTesto& altra);
 };
 
 struct NodoTesto;

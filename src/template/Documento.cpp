@@ -1,6 +1,5 @@
 #include "template/Documento.h"
 
-#include <ranges>
 #include <utility>
 
 #include "common/Delimitatori.h"
@@ -57,8 +56,8 @@ void Documento::Applica(Sezione sezione, const Modifica& modifica, GenereModific
 
 CursoreSezione Documento::Annulla() {
   const Passo& passo = registro_.Annulla();
-  for (const Variazione& variazione : passo.Variazioni | std::views::reverse)
-    Cambia(variazione.Dove, variazione.Indietro(), Autore::Utente);
+  for (auto ultima = passo.Variazioni.rbegin(); ultima != passo.Variazioni.rend(); ++ultima)
+    Cambia(ultima->Dove, ultima->Indietro(), Autore::Utente);
   stato_.Modificato = true;
   return {.Dove = passo.Variazioni.front().Dove, .Dentro = passo.Prima};
 }

@@ -1,7 +1,6 @@
 #include "template/TestoSezione.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "common/Delimitatori.h"
 #include "common/Precondizione.h"
@@ -32,13 +31,13 @@ std::string ConFiniRiga(std::string_view byte) {
 }
 
 Modifica Differenza(std::string_view prima, std::string_view dopo) {
-  const auto davanti = std::ranges::mismatch(prima, dopo);
-  const auto inizio = static_cast<std::size_t>(davanti.in1 - prima.begin());
+  const auto davanti = std::mismatch(prima.begin(), prima.end(), dopo.begin(), dopo.end());
+  const auto inizio = static_cast<std::size_t>(davanti.first - prima.begin());
   prima.remove_prefix(inizio);
   dopo.remove_prefix(inizio);
-  const auto dietro = std::ranges::mismatch(prima | std::views::reverse, dopo | std::views::reverse);
-  auto uguali = static_cast<std::size_t>(dietro.in1 - prima.rbegin());
-  if (uguali > 0 && prima[prima.size() - uguali] == FineRiga.back()) --uguali;  // line ends stay whole
+  const auto dietro = std::mismatch(prima.rbegin(), prima.rend(), dopo.rbegin(), dopo.rend());
+  auto uguali = static_cast<std::size_t>(dietro.first - prima.rbegin());
+  if (uguali > 0 && prima[prima.size() - uguali] == Lf) --uguali;  // line ends stay whole
   return {.Dove = inizio,
           .Tolti = prima.size() - uguali,
           .Messi = std::string(dopo.substr(0, dopo.size() - uguali))};

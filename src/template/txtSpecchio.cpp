@@ -77,16 +77,25 @@ void txtSpecchio::Modificata(const CambiamentoTesto& cambiamento) {
   if (riga < Testo().RigaDi(dove)) emit CodiciCambiati(static_cast<int>(riga));
 }
 
+/// The part of the toolkit's text that a change replaces. Where it is the editor's selection, or its caret,
+/// that is taken: a cursor that is put somewhere works out how far right that is.
+QTextCursor txtSpecchio::ParteDi(const CambiamentoTesto& cambiamento) const {
+  const int dove = Posizione(cambiamento.Prima, cambiamento.Fatta.Dove);
+  const int fine = Posizione(cambiamento.Prima, cambiamento.Fatta.Dove + cambiamento.Fatta.Tolti);
+  QTextCursor parte = editor_.textCursor();
+  if (parte.selectionStart() == dove && parte.selectionEnd() == fine) return parte;
+  parte.setPosition(dove);
+  parte.setPosition(fine, QTextCursor::KeepAnchor);
+  return parte;
+}
+
 void txtSpecchio::Mostra(const CambiamentoTesto& cambiamento) {
-  const Modifica& modifica = cambiamento.Fatta;
   const QTextCursor prima = editor_.textCursor();
-  QTextCursor cursore(editor_.document());
-  cursore.setPosition(Posizione(cambiamento.Prima, modifica.Dove));
-  cursore.setPosition(Posizione(cambiamento.Prima, modifica.Dove + modifica.Tolti), QTextCursor::KeepAnchor);
-  const int dove = cursore.selectionStart();
   const int ancora = prima.anchor();
   const int posizione = prima.position();
-  cursore.insertText(PerSchermo(modifica.Messi));
+  QTextCursor parte = ParteDi(cambiamento);
+  const int dove = parte.selectionStart();
+  parte.insertText(PerSchermo(cambiamento.Fatta.Messi));
   if (!cambiamento.DelProgramma || std::max(ancora, posizione) > dove) return;
   QTextCursor rimasto(editor_.document());
   rimasto.setPosition(ancora);

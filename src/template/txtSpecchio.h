@@ -39,6 +39,7 @@ class txtSpecchio final : public QObject, private AscoltatoreDocumento {
  private:
   void Modificata(const CambiamentoTesto& cambiamento) override;
   void Sostituita(Sezione sezione) override;
+  QTextCursor ParteDi(const CambiamentoTesto& cambiamento) const;
   void Mostra(const CambiamentoTesto& cambiamento);
   void Riprendi();
 
