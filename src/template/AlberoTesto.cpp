@@ -80,7 +80,8 @@ struct Ramo {
 };
 
 Ramo RamoDi(const NodoTesto& nodo, std::size_t posto, Ramo da = {}) {
-  while (posto > da.Inizio + nodo.Rami[da.Quale].Misura.Byte) da.Inizio += nodo.Rami[da.Quale++].Misura.Byte;
+  for (; posto > da.Inizio + nodo.Rami[da.Quale].Misura.Byte; ++da.Quale)
+    da.Inizio += nodo.Rami[da.Quale].Misura.Byte;
   return da;
 }
 

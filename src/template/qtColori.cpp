@@ -140,7 +140,7 @@ void qtColori::highlightBlock(const QString& riga) {
   setCurrentBlockState(NessunoAperto);
   if (const auto aperto = CodiceAperto()) {
     const std::size_t chiusura = byte.find(DelimChiusura);
-    qui = std::min(chiusura, byte.size() - 1) + 1;
+    qui = chiusura == std::string::npos ? byte.size() : chiusura + 1;
     Colora(0, qui, *aperto);
     if (chiusura == std::string::npos) return setCurrentBlockState(StatoDi(*aperto));
   }
