@@ -43,7 +43,7 @@ fi
 all=0
 killed=0
 while IFS= read -r line; do
-  [ -n "$line" ] && [ "${line:0:1}" != "#" ] || continue
+  [[ $line && $line != '#'* ]] || continue
   file=${line%%: *}
   change=${line#*: }
   from=${change%% ==> *}
