@@ -5,18 +5,13 @@
 
 #include "common/LettoreRighe.h"
 #include "common/NumeroLeniente.h"
+#include "common/Ritagli.h"
 
 namespace parvik {
 namespace {
 
 constexpr std::string_view FineDocumenti = "//fine documenti";
 constexpr std::size_t CifreNumeroRiga = 4;
-
-std::string_view SenzaSpazi(std::string_view testo) {
-  const std::size_t inizio = testo.find_first_not_of(' ');
-  if (inizio == std::string_view::npos) return {};
-  return testo.substr(inizio, testo.find_last_not_of(' ') - inizio + 1);
-}
 
 bool Ignorata(std::string_view riga) {
   return riga.empty() || riga.starts_with("//");
@@ -84,7 +79,7 @@ Esito<TipoDoc> CaricaTipoDoc(int slot, std::string_view record) {
   LettoreCampi campi(record);
   TipoDoc tipo;
   tipo.Indice = static_cast<std::int16_t>(slot);
-  tipo.Descrizione = SenzaSpazi(campi.Testo());
+  tipo.Descrizione = Rifila(campi.Testo());
   tipo.Titolo = campi.Testo();
   tipo.NumSezioni = campi.Numero();
   for (VociSezione& voci : tipo.Voci) voci.Variabili = {.Da = campi.Numero(), .A = campi.Numero()};
@@ -168,7 +163,7 @@ Esito<Catalogo, ErroreCatalogo> Catalogo::CaricaCampi(std::string contenuto) {
 
 std::optional<ErroreCatalogo> Catalogo::LeggiTestata(LettoreRighe& righe) {
   while (const auto grezza = righe.Prossima()) {
-    const std::string_view riga = SenzaSpazi(*grezza);
+    const std::string_view riga = Rifila(*grezza);
     if (riga == FineDocumenti) return std::nullopt;
     if (Ignorata(riga)) continue;
     const auto errore = [&righe](NumeroErrore numero) { return ErroreCatalogo{numero, righe.Numero()}; };
@@ -187,7 +182,7 @@ std::optional<ErroreCatalogo> Catalogo::LeggiTestata(LettoreRighe& righe) {
 
 void Catalogo::LeggiCorpo(LettoreRighe& righe) {
   while (const auto grezza = righe.Prossima()) {
-    const std::string_view riga = SenzaSpazi(*grezza);
+    const std::string_view riga = Rifila(*grezza);
     if (!Ignorata(riga)) righeCorpo_.push_back(riga);
   }
 }

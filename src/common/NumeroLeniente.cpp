@@ -8,10 +8,6 @@
 namespace parvik {
 namespace {
 
-bool Cifra(char c) {
-  return c >= '0' && c <= '9';
-}
-
 /// The number where it is written as nearly all are: a few digits from the first byte on, and no point behind
 /// them. nullopt for any other text, which may hold a number all the same.
 std::optional<std::uint32_t> CifreSole(std::string_view testo) {

@@ -10,6 +10,11 @@
 
 namespace parvik {
 
+/// One of the ten; no locale has a say.
+constexpr bool Cifra(char c) {
+  return c >= '0' && c <= '9';
+}
+
 /// The value of the longest numeric prefix of `testo`: leading spaces (only spaces) are skipped, then a sign,
 /// digits and at most one decimal point. No exponent, no other base. 0 when there is no digit; an infinity
 /// when the digits say more than a double holds.

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "common/Percorsi.h"
+#include "common/Ritagli.h"
 #include "common/Windows1252.h"
 
 namespace parvik {
@@ -15,10 +16,7 @@ constexpr std::string_view SegnoUtf8 = "\xEF\xBB\xBF";
 constexpr std::string_view SegnoUtf16 = "\xFF\xFE";
 
 std::string_view SenzaBianchi(std::string_view testo) {
-  constexpr std::string_view Bianchi = " \t\v\f";
-  const std::size_t inizio = testo.find_first_not_of(Bianchi);
-  if (inizio == std::string_view::npos) return {};
-  return testo.substr(inizio, testo.find_last_not_of(Bianchi) - inizio + 1);
+  return Rifila(testo, " \t\v\f");
 }
 
 /// Here, unlike in catalogues and templates, CR, LF and CR LF end a line alike.

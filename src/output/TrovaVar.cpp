@@ -1,9 +1,8 @@
 #include "output/TrovaVar.h"
 
-#include <algorithm>
-
 #include "common/Delimitatori.h"
 #include "common/NumeroLeniente.h"
+#include "common/Ritagli.h"
 
 namespace parvik {
 namespace {
@@ -12,15 +11,6 @@ constexpr std::size_t NonTrovato = std::string_view::npos;
 constexpr std::size_t LunghezzaLinguaPredefinita = 10;
 constexpr std::size_t LunghezzaMarcatoreStile = 4;
 constexpr char SegnoCampione = '$';
-
-/// The text from byte `da` on; nothing when it is shorter.
-std::string_view Da(std::string_view testo, std::size_t da) {
-  return testo.substr(std::min(da, testo.size()));
-}
-
-std::string_view SenzaUltimi(std::string_view testo, std::size_t quanti) {
-  return testo.substr(0, testo.size() - std::min(quanti, testo.size()));
-}
 
 Campione Ripeti(char carattere, std::size_t volte) {
   Campione campione;
@@ -53,7 +43,7 @@ std::optional<std::size_t> SolaLarghezza(std::string_view opzioni) {
   if (opzioni.empty() || opzioni.size() > MaxCifre) return std::nullopt;
   std::size_t larghezza = 0;
   for (const char c : opzioni) {
-    if (c < '0' || c > '9') return std::nullopt;
+    if (!Cifra(c)) return std::nullopt;
     larghezza = larghezza * 10 + static_cast<std::size_t>(c - '0');
   }
   return larghezza;

@@ -1,10 +1,9 @@
 #include "template/Marcatore.h"
 
-#include <algorithm>
-
 #include "common/Delimitatori.h"
 #include "common/LettoreRighe.h"
 #include "common/NumeroLeniente.h"
+#include "common/Ritagli.h"
 #include "template/CopiaRighe.h"
 
 namespace parvik {
@@ -16,11 +15,6 @@ constexpr std::size_t NonTrovato = std::string_view::npos;
 constexpr std::string_view InizioMarcatore =
     "\xAE"
     "C";
-
-/// The text from byte `da` on; nothing when there is no such byte.
-std::string_view Da(std::string_view testo, std::size_t da) {
-  return testo.substr(std::min(da, testo.size()));
-}
 
 /// Looks for ";" from byte `da` on and gives the position after it, or 0: without a separator, what should
 /// follow it is looked for from the start of the line.

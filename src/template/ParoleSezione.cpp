@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "common/Delimitatori.h"
+#include "common/NumeroLeniente.h"
 #include "template/TastiSezione.h"
 
 namespace parvik {
@@ -24,7 +25,7 @@ constexpr Classe ClasseDi(char c) {
   constexpr char SpazioUnito = '\xA0';
   if (c == FineRiga.front()) return Classe::FineRiga;
   if (c == ' ' || c == '\t' || c == SpazioUnito) return Classe::Spazio;
-  const bool ascii = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
+  const bool ascii = Cifra(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
   return ascii || LetteraEstesa(static_cast<unsigned char>(c)) ? Classe::Lettera : Classe::Altro;
 }
 

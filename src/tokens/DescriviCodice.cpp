@@ -8,6 +8,7 @@
 
 #include "catalogue/Catalogo.h"
 #include "common/NumeroLeniente.h"
+#include "common/Ritagli.h"
 #include "common/Windows1252.h"
 #include "tokens/Codice.h"
 #include "tokens/CodiceCostante.h"
@@ -40,10 +41,7 @@ std::string Parole(std::string_view ansi) {
 
 /// The same without the spaces around them.
 std::string ParoleRifilate(std::string_view ansi) {
-  const std::string parole = Parole(ansi);
-  const std::size_t primo = parole.find_first_not_of(' ');
-  if (primo == std::string::npos) return {};
-  return parole.substr(primo, parole.find_last_not_of(' ') - primo + 1);
+  return std::string(Rifila(Parole(ansi)));
 }
 
 /// `parte` after `testo`; nothing when `parte` is empty.

@@ -4,6 +4,7 @@
 #include <QScopedValueRollback>
 
 #include "common/NumeroLeniente.h"
+#include "common/Ritagli.h"
 #include "common/qtCampi.h"
 #include "common/qtTesto.h"
 #include "tokens/CodiceVariabile.h"
@@ -147,7 +148,7 @@ std::vector<std::string> frmVar::Codici() const {
   const auto voce = VoceSelezionata();
   if (result() != Accepted || !voce || SenzaVariabili()) return {};
   std::vector<std::string> codici;
-  if (codiceFlag_.find_first_not_of(' ') != std::string::npos) codici.push_back(codiceFlag_);
+  if (!Rifila(codiceFlag_).empty()) codici.push_back(codiceFlag_);
   codici.push_back(CostruisciVariabile(variabili_[*voce]));
   return codici;
 }

@@ -150,6 +150,13 @@ INSTANTIATE_TEST_SUITE_P(Casi, LunghezzaLenienteTest, testing::Values(
     [](const auto& caso) { return std::string(caso.param.Nome); });
 // clang-format on
 
+TEST(Cifra, IsOneOfTheTenAndNothingElse) {
+  int cifre = 0;
+  for (int valore = 0; valore < 256; ++valore) cifre += Cifra(static_cast<char>(valore)) ? 1 : 0;
+  EXPECT_EQ(cifre, 10);
+  for (const char c : std::string("0123456789")) EXPECT_TRUE(Cifra(c)) << c;
+}
+
 TEST(EUnNumero, AcceptsNumbersWithSpacesAroundThem) {
   for (const char* testo : {"7", "  7  ", "-7", "+.5", "5.", "0012"}) EXPECT_TRUE(EUnNumero(testo)) << testo;
 }
