@@ -1,6 +1,7 @@
 #include "tokens/CodiceFlag.h"
 
 #include "tokens/Codice.h"
+#include "tokens/Gruppi.h"
 
 namespace parvik {
 
@@ -9,15 +10,10 @@ std::string CostruisciFlag(const CodiceFlag& flag) {
 }
 
 CodiceFlag LeggiFlag(std::string_view contenuto) {
+  const GruppiFlag gruppi = GruppiDiFlag(contenuto);
   CodiceFlag flag;
-  if (contenuto.size() < 2) return flag;
-  const char ultimo = contenuto.back();
-  std::string_view numero = contenuto.substr(1);
-  if (ultimo < '0' || ultimo > '9') {
-    flag.Interruttore = std::string(1, ultimo);
-    numero.remove_suffix(1);
-  }
-  flag.Numero = numero;
+  flag.Numero = gruppi.Numero.Testo;
+  if (gruppi.Interruttore) flag.Interruttore = gruppi.Interruttore->Testo;
   return flag;
 }
 

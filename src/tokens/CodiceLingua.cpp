@@ -1,6 +1,7 @@
 #include "tokens/CodiceLingua.h"
 
 #include "tokens/Codice.h"
+#include "tokens/Gruppi.h"
 
 namespace parvik {
 
@@ -12,12 +13,10 @@ std::string CostruisciLingua(const CodiceLingua& lingua) {
 }
 
 CodiceLingua LeggiLingua(std::string_view contenuto) {
+  const GruppiLingua gruppi = GruppiDiLingua(contenuto);
   CodiceLingua lingua;
-  if (contenuto.empty()) return lingua;
-  contenuto.remove_prefix(1);
-  const std::size_t separatore = contenuto.find(';');
-  lingua.IndiceTabella = contenuto.substr(0, separatore);
-  if (separatore != std::string_view::npos) lingua.Lunghezza = contenuto.substr(separatore + 1);
+  lingua.IndiceTabella = gruppi.Indice.Testo;
+  if (gruppi.Larghezza) lingua.Lunghezza = gruppi.Larghezza->Testo;
   return lingua;
 }
 

@@ -1,16 +1,18 @@
 #include "tokens/CodicePagina.h"
 
+#include "common/Ritagli.h"
 #include "tokens/Codice.h"
+#include "tokens/Gruppi.h"
 
 namespace parvik {
 
 std::string CostruisciPagina(std::string_view numero) {
-  if (numero.find_first_not_of(' ') == std::string_view::npos) return {};
+  if (Rifila(numero).empty()) return {};
   return ConDelimitatori("P" + std::string(numero));
 }
 
 std::string LeggiPagina(std::string_view contenuto) {
-  return contenuto.empty() ? std::string() : std::string(contenuto.substr(1));
+  return std::string(GruppiDiPagina(contenuto).Numero.Testo);
 }
 
 }  // namespace parvik

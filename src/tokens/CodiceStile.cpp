@@ -4,6 +4,7 @@
 
 #include "common/Percorsi.h"
 #include "tokens/Codice.h"
+#include "tokens/Gruppi.h"
 
 namespace parvik {
 namespace {
@@ -32,8 +33,7 @@ std::string CostruisciStile(Stile stile) {
 }
 
 std::string_view LeggiStile(std::string_view contenuto) {
-  const std::size_t separatore = contenuto.find(';');
-  return separatore == std::string_view::npos ? std::string_view() : contenuto.substr(separatore + 1);
+  return GruppiDiStile(contenuto).Parola.Testo;
 }
 
 }  // namespace parvik
