@@ -1,16 +1,10 @@
 #include "output/TrovaVar.h"
 
-#include "common/Delimitatori.h"
-#include "common/NumeroLeniente.h"
-#include "common/Ritagli.h"
+#include "tokens/Codice.h"
+#include "tokens/CodiceCorsa.h"
 
 namespace parvik {
 namespace {
-
-constexpr std::size_t NonTrovato = std::string_view::npos;
-constexpr std::size_t LunghezzaLinguaPredefinita = 10;
-constexpr std::size_t LunghezzaMarcatoreStile = 4;
-constexpr char SegnoCampione = '$';
 
 Campione Ripeti(char carattere, std::size_t volte) {
   Campione campione;
@@ -25,89 +19,20 @@ Campione Letterale(std::string_view testo) {
   return campione;
 }
 
-/// The character after the first quote of a code's options; `predefinito` when there is none.
-char Riempimento(std::string_view opzioni, char predefinito) {
-  const std::size_t apice = opzioni.find(DelimTesto);
-  return apice == NonTrovato || apice + 1 == opzioni.size() ? predefinito : opzioni[apice + 1];
-}
-
-bool Allineata(std::string_view opzioni) {
-  return opzioni.find('R') != NonTrovato || opzioni.find('L') == NonTrovato;
-}
-
-/// The width where it is all that the options say, as those of most variables do: a few digits, and L or R.
-/// nullopt for any others, which may have a width all the same.
-std::optional<std::size_t> SolaLarghezza(std::string_view opzioni) {
-  constexpr std::size_t MaxCifre = 5;
-  if (opzioni.ends_with('L') || opzioni.ends_with('R')) opzioni.remove_suffix(1);
-  if (opzioni.empty() || opzioni.size() > MaxCifre) return std::nullopt;
-  std::size_t larghezza = 0;
-  for (const char c : opzioni) {
-    if (!Cifra(c)) return std::nullopt;
-    larghezza = larghezza * 10 + static_cast<std::size_t>(c - '0');
-  }
-  return larghezza;
-}
-
-/// A zero with its decimals, filled up to the length; a length too short for it is a run of "#".
-Campione CampioneNumerico(std::string_view formato, std::size_t lunghezza, char riempimento, bool aDestra) {
-  const std::size_t virgola = formato.find(',');
+/// A zero with its decimals, filled up to the width; a width too short for it is a run of "#".
+Campione CampioneNumerico(const CampoCorsa& campo) {
   Campione campione;
-  campione.Testo = virgola == NonTrovato ? "0" : "0,";
-  if (virgola != NonTrovato) campione.Zeri = LunghezzaLeniente(formato.substr(virgola + 1));
+  campione.Testo = campo.Decimali ? "0," : "0";
+  campione.Zeri = campo.Decimali.value_or(0);
   const std::size_t occupati = campione.Testo.size() + campione.Zeri;
-  if (lunghezza < occupati) return Ripeti('#', lunghezza);
-  campione.Riempimento = riempimento;
-  (aDestra ? campione.RiempiPrima : campione.RiempiDopo) = lunghezza - occupati;
+  if (campo.Larghezza < occupati) return Ripeti('#', campo.Larghezza);
+  campione.Riempimento = campo.Riempimento;
+  (campo.ADestra ? campione.RiempiPrima : campione.RiempiDopo) = campo.Larghezza - occupati;
   return campione;
 }
 
-/// Whether a third separator follows the second one, at `p2`. It nearly always stands where the euro group
-/// begins.
-bool HaEuro(std::string_view opzioni, std::size_t p2) {
-  return (opzioni.size() > p2 + 2 && opzioni[opzioni.size() - 2] == ';') ||
-         opzioni.find(';', p2 + 1) != NonTrovato;
-}
-
-/// A variable with a format behind its second separator, which stands at `p2` of the options.
-Campione VariabileConFormato(std::string_view opzioni, std::size_t p2) {
-  const std::size_t lunghezza = LunghezzaLeniente(opzioni.substr(0, p2));
-  if (HaEuro(opzioni, p2)) opzioni.remove_suffix(2);
-  const std::string_view formato = Da(opzioni, p2 + 1);
-  const char riempimento = Riempimento(opzioni, ' ');
-  if (formato.find('0') == NonTrovato) return Ripeti(riempimento, lunghezza);
-  return CampioneNumerico(formato, lunghezza, riempimento, Allineata(opzioni));
-}
-
-Campione VariabileSenzaFormato(std::string_view opzioni) {
-  const std::size_t apice = opzioni.find(DelimTesto);
-  const char riempimento = Riempimento(opzioni, SegnoCampione);
-  if (apice != NonTrovato) opzioni = SenzaUltimi(opzioni, 3);  // quote, fill, quote
-  return Ripeti(riempimento, LunghezzaLeniente(opzioni));
-}
-
-/// Sample of a language code: "$" as often as the code's width says, 10 times without one.
-Campione ScriviLingua(std::string_view codice) {
-  const std::size_t separatore = codice.find(';');
-  if (separatore == NonTrovato) return Ripeti(SegnoCampione, LunghezzaLinguaPredefinita);
-  return Ripeti(SegnoCampione, LunghezzaLeniente(codice.substr(separatore + 1)));
-}
-
-/// Sample of a variable code. Its options are what follows the first separator.
-Campione ScriviVariabile(std::string_view codice) {
-  const std::size_t p1 = codice.find(';');
-  if (p1 == NonTrovato) return VariabileSenzaFormato(codice);
-  const std::string_view opzioni = codice.substr(p1 + 1);
-  if (const auto larghezza = SolaLarghezza(opzioni)) return Ripeti(SegnoCampione, *larghezza);
-  const std::size_t p2 = opzioni.find(';');
-  if (p2 == NonTrovato || opzioni.ends_with('#')) return VariabileSenzaFormato(opzioni);
-  return VariabileConFormato(opzioni, p2);
-}
-
-/// The kind of a code for the output: its first letter, but a variable of number 0 is a constant.
-char GenereDi(std::string_view codice) {
-  if (codice.starts_with("V0;")) return 'C';
-  return codice.empty() ? '\0' : codice.front();
+Campione CampioneDi(const CampoCorsa& campo) {
+  return campo.Zero ? CampioneNumerico(campo) : Ripeti(campo.Riempimento, campo.Larghezza);
 }
 
 }  // namespace
@@ -130,42 +55,40 @@ TrovaVar::TrovaVar(TipoStampa destinazione, const FlagPerStampe& flag)
     : destinazione_(destinazione), stati_(flag) {}
 
 const Campione& TrovaVar::operator()(std::string_view codice) {
-  const char genere = GenereDi(codice);
-  if (!memoria_.MostraProssimo && genere != 'F') {
+  const TipoCodice tipo = Riconosci(codice);
+  if (!memoria_.MostraProssimo && tipo != TipoCodice::Flag) {
     memoria_ = {};
     return memoria_.Ultimo;
   }
-  switch (genere) {
-    case 'F':
+  switch (tipo) {
+    case TipoCodice::Flag:
       ImpostaFlag(codice);
       memoria_.Ultimo = {};
       break;
-    case 'C':
-      memoria_.Ultimo = Letterale(Da(SenzaUltimi(codice, 1), 4));
+    case TipoCodice::Costante:
+      memoria_.Ultimo = Letterale(CostanteCorsa(codice));
       break;
-    case 'V':
-      memoria_.Ultimo = ScriviVariabile(codice);
+    case TipoCodice::Variabile:
+      memoria_.Ultimo = CampioneDi(VariabileCorsa(codice));
       break;
-    case 'S':
+    case TipoCodice::Stile:
       memoria_.Ultimo = {};
-      if (destinazione_ == TipoStampa::Anteprima)
-        memoria_.Ultimo.Testo = codice.substr(0, LunghezzaMarcatoreStile);
+      if (destinazione_ == TipoStampa::Anteprima) memoria_.Ultimo.Testo = StileCorsa(codice);
       break;
-    case 'L':
-      memoria_.Ultimo = ScriviLingua(codice);
+    case TipoCodice::Lingua:
+      memoria_.Ultimo = CampioneDi(LinguaCorsa(codice));
       break;
-    case 'P':
-      memoria_.Ultimo = Letterale(codice.substr(1));
+    case TipoCodice::Pagina:
+      memoria_.Ultimo = Letterale(PaginaCorsa(codice));
       break;
-    default:  // the text of the code before stays
+    case TipoCodice::Sconosciuto:  // the text of the code before stays
       break;
   }
   return memoria_.Ultimo;
 }
 
 void TrovaVar::ImpostaFlag(std::string_view codice) {
-  if (codice.ends_with('S') || codice.ends_with('N')) codice.remove_suffix(1);
-  memoria_.MostraProssimo = stati_(NumeroLeniente(Da(codice, 1))).value_or(memoria_.MostraProssimo);
+  memoria_.MostraProssimo = stati_(FlagCorsa(codice)).value_or(memoria_.MostraProssimo);
 }
 
 }  // namespace parvik

@@ -4,27 +4,6 @@
 
 namespace parvik {
 
-TipoCodice Riconosci(std::string_view contenuto) {
-  if (contenuto.starts_with("V0;")) return TipoCodice::Costante;
-  if (contenuto.empty()) return TipoCodice::Sconosciuto;
-  switch (contenuto.front()) {
-    case 'V':
-      return TipoCodice::Variabile;
-    case 'C':
-      return TipoCodice::Costante;
-    case 'F':
-      return TipoCodice::Flag;
-    case 'S':
-      return TipoCodice::Stile;
-    case 'L':
-      return TipoCodice::Lingua;
-    case 'P':
-      return TipoCodice::Pagina;
-    default:
-      return TipoCodice::Sconosciuto;
-  }
-}
-
 std::string_view ContenutoDi(std::string_view codice) {
   return codice.substr(1, codice.size() - 2);
 }

@@ -12,7 +12,26 @@ namespace parvik {
 enum class TipoCodice { Sconosciuto, Variabile, Costante, Flag, Stile, Lingua, Pagina };
 
 /// The kind that a content's leading text tells. Letters count in their case.
-TipoCodice Riconosci(std::string_view contenuto);
+constexpr TipoCodice Riconosci(std::string_view contenuto) {
+  if (contenuto.starts_with("V0;")) return TipoCodice::Costante;
+  if (contenuto.empty()) return TipoCodice::Sconosciuto;
+  switch (contenuto.front()) {
+    case 'V':
+      return TipoCodice::Variabile;
+    case 'C':
+      return TipoCodice::Costante;
+    case 'F':
+      return TipoCodice::Flag;
+    case 'S':
+      return TipoCodice::Stile;
+    case 'L':
+      return TipoCodice::Lingua;
+    case 'P':
+      return TipoCodice::Pagina;
+    default:
+      return TipoCodice::Sconosciuto;
+  }
+}
 
 /// A code in a text: from its opening delimiter (0-based byte) over `Lunghezza` bytes, both delimiters
 /// included.
