@@ -26,9 +26,10 @@ void DividiTreSezioni(std::string_view byte, const std::optional<Marcatore>& mar
   const std::size_t fineTestata = marcatore ? marcatore->InizioRiga : byte.size();
   divisa.Righe[Indice(Sezione::Testata)] = byte.substr(0, fineTestata);
   if (!marcatore) return;
-  divisa.Errore = LeggiMarcatore(byte, *marcatore, divisa.Corpo);
-  divisa.TestoNonLetto = divisa.Errore.has_value();
-  if (!divisa.Errore) DividiCorpoEPiede(LettoreRighe(byte.substr(marcatore->FineRiga)), divisa);
+  const Esito<void> letto = LeggiMarcatore(byte, *marcatore, divisa.Corpo);
+  divisa.TestoNonLetto = !letto;
+  if (letto) return DividiCorpoEPiede(LettoreRighe(byte.substr(marcatore->FineRiga)), divisa);
+  divisa.Errore = letto.Errore();
 }
 
 ImmagineDivisa Dividi(std::string_view byte, Formato formato, const std::optional<Marcatore>& marcatore,

@@ -55,8 +55,7 @@ std::optional<Marcatore> TrovaMarcatore(std::string_view byte, std::size_t da) {
   return Marcatore{.InizioRiga = inizio, .Posto = posto, .FineRiga = FineRigaDa(byte, inizio)};
 }
 
-std::optional<NumeroErrore> LeggiMarcatore(std::string_view byte, const Marcatore& marcatore,
-                                           ImpostazioniCorpo& corpo) {
+Esito<void> LeggiMarcatore(std::string_view byte, const Marcatore& marcatore, ImpostazioniCorpo& corpo) {
   const std::string_view riga =
       LettoreRighe(byte.substr(0, marcatore.FineRiga).substr(marcatore.InizioRiga)).Prossima().value_or("");
   const std::size_t inizio = marcatore.Posto - marcatore.InizioRiga;
@@ -68,7 +67,7 @@ std::optional<NumeroErrore> LeggiMarcatore(std::string_view byte, const Marcator
   if (!linee) return linee.Errore();
   corpo.LineeCorpo = *linee;
   LeggiInterruttori(Da(riga, DopoSeparatore(riga, dopoPrimo)), corpo);
-  return std::nullopt;
+  return {};
 }
 
 std::string RigaMarcatore(const ImpostazioniCorpo& corpo) {

@@ -34,8 +34,7 @@ struct Marcatore {
 std::optional<Marcatore> TrovaMarcatore(std::string_view byte, std::size_t da);
 
 /// Reads the settings. What was set before an error, and what the line does not set, stays.
-std::optional<NumeroErrore> LeggiMarcatore(std::string_view byte, const Marcatore& marcatore,
-                                           ImpostazioniCorpo& corpo);
+Esito<void> LeggiMarcatore(std::string_view byte, const Marcatore& marcatore, ImpostazioniCorpo& corpo);
 
 /// The line that keeps the settings, with its line end.
 std::string RigaMarcatore(const ImpostazioniCorpo& corpo);

@@ -9,6 +9,8 @@
 #include <mutex>
 #include <string>
 
+#include "common/Precondizione.h"
+
 namespace parvik {
 namespace {
 
@@ -28,6 +30,7 @@ std::mutex posti_mutex;  // between threads; a handler reads only what is Pronto
 }  // namespace
 
 NomeInCorso::NomeInCorso(const std::filesystem::path& file) {
+  PrimaDiFinire(TogliNomiInCorso);
   const std::lock_guard solo(posti_mutex);
   const std::string& nome = file.native();
   const auto libero = std::ranges::find(posti, false, &Posto::Preso);

@@ -5,7 +5,9 @@
 
 #include <cerrno>
 #include <csignal>
+#include <exception>
 
+#include "common/Precondizione.h"
 #include "sistema/posix/NomiInCorso.h"
 
 namespace parvik {
@@ -55,6 +57,7 @@ void Ignora(int segnale) {
 }  // namespace
 
 void PreparaProcesso() {
+  std::set_terminate(EccezioneSfuggita);
   RiempiDescrittori();
   Ignora(SIGXFSZ);
 }
