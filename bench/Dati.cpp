@@ -21,7 +21,7 @@ std::string Esempio(const char* nome) {
 }
 
 ImmagineLetta Fattura() {
-  return LeggiImmagine(Esempio("FATT01.IMG"), Formato::TreSezioni, ImpostazioniPredefinite());
+  return *LeggiImmagine(Esempio("FATT01.IMG"), Formato::TreSezioni, ImpostazioniPredefinite());
 }
 
 /// Every line of the invoice with its line end, but for the marker; in memory, not in the file.
@@ -82,7 +82,7 @@ std::string FileCatalogo(std::size_t byte) {
 }
 
 LavoroStampa Lavoro(std::string_view modello) {
-  ImmagineLetta letta = LeggiImmagine(modello, Formato::TreSezioni, ImpostazioniPredefinite());
+  ImmagineLetta letta = *LeggiImmagine(modello, Formato::TreSezioni, ImpostazioniPredefinite());
   return {.Testi = std::move(letta.Testi),
           .NumSezioni = TreSezioni,
           .RigheCorpo = letta.Corpo.RigheCorpo,

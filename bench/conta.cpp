@@ -34,7 +34,7 @@ std::size_t Conta(std::string_view cosa) {
   LavoroStampa aperto = Lavoro(file);
   if (cosa == "read") {
     return Misurata(
-        [&] { return LeggiImmagine(file, Formato::TreSezioni, ImpostazioniPredefinite()).Testi[0].size(); });
+        [&] { return LeggiImmagine(file, Formato::TreSezioni, ImpostazioniPredefinite())->Testi[0].size(); });
   }
   if (cosa == "write") {
     ImpostazioniCorpo corpo = ImpostazioniPredefinite();
@@ -43,7 +43,7 @@ std::size_t Conta(std::string_view cosa) {
   if (cosa == "render") {
     return Misurata([&] {
       Lunghezza uscita;
-      GeneraStampa(aperto.Dati(), TipoStampa::File, uscita);
+      static_cast<void>(GeneraStampa(aperto.Dati(), TipoStampa::File, uscita));
       return uscita.Totale;
     });
   }

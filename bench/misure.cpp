@@ -43,7 +43,7 @@ struct Modelli {
 
   void Rendi() {
     Uscita.Svuota();
-    GeneraStampa(Aperto.Dati(), TipoStampa::File, Uscita);
+    static_cast<void>(GeneraStampa(Aperto.Dati(), TipoStampa::File, Uscita));
   }
   /// The floor of rendering: the same sections as often.
   void PassaNuda() {

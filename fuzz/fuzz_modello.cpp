@@ -23,14 +23,14 @@ void ProvaLettura(const ImmagineLetta& letta) {
 }
 
 void ProvaFile(std::string_view byte, Formato formato) {
-  ImmagineLetta prima = LeggiImmagine(byte, formato, ImpostazioniPredefinite());
+  ImmagineLetta prima = *LeggiImmagine(byte, formato, ImpostazioniPredefinite());
   ProvaLettura(prima);
   // The editor's own delimiters become those of files, and may then make a marker; no line at all becomes
   // one.
   if (byte.empty() || byte.find_first_of("\xAB\xBB") != std::string_view::npos) return;
   const Esito<std::string> unaVolta = ScriviImmagine(prima.Testi, prima.Corpo, formato);
   Esigi(static_cast<bool>(unaVolta), "what was read can be written");
-  ImmagineLetta dopo = LeggiImmagine(*unaVolta, formato, prima.Corpo);
+  ImmagineLetta dopo = *LeggiImmagine(*unaVolta, formato, prima.Corpo);
   ProvaLettura(dopo);
   Esigi(!dopo.Errore && !dopo.TestoNonLetto && !dopo.CorpoIncompleto, "what was written can be read");
   const Esito<std::string> dueVolte = ScriviImmagine(dopo.Testi, dopo.Corpo, formato);
@@ -46,10 +46,10 @@ void ProvaAPezzi(std::string_view byte, Formato formato, std::size_t pezzo) {
     finora.insert(finora.end(), nuovi.begin(), nuovi.end());
     prepara.Prosegui(finora);
   }
-  const ImmagineLetta letta = LeggiImmagine(byte, formato, ImpostazioniPredefinite());
-  const ImmagineInPosto inPosto(std::move(finora), prepara, ImpostazioniPredefinite());
-  const EsitoImmagine& esito = inPosto.Esito();
-  Esigi(std::ranges::equal(inPosto.Testi(), letta.Testi), "in pieces the same texts are read");
+  const ImmagineLetta letta = *LeggiImmagine(byte, formato, ImpostazioniPredefinite());
+  const auto inPosto = ImmagineInPosto::Apri(std::move(finora), prepara, ImpostazioniPredefinite());
+  const EsitoImmagine& esito = (*inPosto)->Esito();
+  Esigi(std::ranges::equal((*inPosto)->Testi(), letta.Testi), "in pieces the same texts are read");
   Esigi(esito.Corpo == letta.Corpo && esito.Errore == letta.Errore &&
             esito.TestoNonLetto == letta.TestoNonLetto && esito.CorpoIncompleto == letta.CorpoIncompleto,
         "in pieces the same is said of it");
@@ -81,7 +81,7 @@ void ProvaSezioni(const TestiSezioni& originali, std::uint8_t righe) {
   Esigi(static_cast<bool>(file), "a short text can be written");
   if (!Riproducibili(originali)) return;
   Esigi(testi == originali, "whole lines need no completion");
-  const ImmagineLetta letta = LeggiImmagine(*file, Formato::TreSezioni, ImpostazioniPredefinite());
+  const ImmagineLetta letta = *LeggiImmagine(*file, Formato::TreSezioni, ImpostazioniPredefinite());
   Esigi(letta.Testi == originali && letta.Corpo == corpo && !letta.Errore,
         "what was written is read as it was");
 }

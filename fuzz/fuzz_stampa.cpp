@@ -114,10 +114,10 @@ class Prova {
   }
 
   void ProvaInizio(const std::string& reso, const Anteprima& anteprima) const {
-    const InizioAnteprima tutta = GeneraInizioAnteprima(Dati(), 2 * MassimoScritto);
+    const InizioAnteprima tutta = *GeneraInizioAnteprima(Dati(), 2 * MassimoScritto);
     Esigi(tutta.Intera && tutta.Testo.Testo == anteprima.Testo && tutta.Testo.Tratti == anteprima.Tratti,
           "a beginning that holds all is the preview");
-    const InizioAnteprima meta = GeneraInizioAnteprima(Dati(), reso.size() / 2);
+    const InizioAnteprima meta = *GeneraInizioAnteprima(Dati(), reso.size() / 2);
     // Even of nothing the beginning may not be all: a long line without its end had to be gone over.
     Esigi(!meta.Intera || reso.empty(), "half of it is not all");
     EsigiTrattiInteri(meta.Testo.Testo, meta.Testo.Tratti);

@@ -21,44 +21,34 @@ void Avverti(const std::filesystem::path& file, const EsitoImmagine& letta) {
                     " righe di corpo che il marcatore promette");
 }
 
-/// What `leggi` reads; nothing after a message.
-template <class Letta, class Leggi>
-Letta LeggiCon(const std::filesystem::path& file, const Leggi& leggi) {
-  try {
-    Esito<Letta> letta = leggi();
-    if (letta) return std::move(*letta);
-    Segnala(file, letta.Errore());
-  } catch (const std::bad_alloc&) {  // one file that is too large must not stop the others
-    Segnala(file, NumeroErrore::MemoriaEsaurita);
-  }
-  return {};
+/// What was read; nothing after a message.
+template <class Letta>
+std::optional<Letta> SePuo(const std::filesystem::path& file, Esito<Letta> letta) {
+  if (letta) return std::move(*letta);
+  Segnala(file, letta.Errore());
+  return std::nullopt;
 }
 
 }  // namespace
 
 std::optional<ImmagineLetta> LeggiModello(const std::filesystem::path& file, const TipoDoc& tipo) {
-  using Letta = std::optional<ImmagineLetta>;
   const Formato formato = FormatoDi(tipo.NumSezioni);
-  auto letta = LeggiCon<Letta>(file, [&]() -> Esito<Letta> {
-    const Esito<std::string> byte = LeggiFile(file);
-    if (!byte) return byte.Errore();
-    return Letta(LeggiImmagine(*byte, formato, Iniziali(formato)));
-  });
+  const auto byte = SePuo(file, LeggiFile(file));
+  if (!byte) return std::nullopt;
+  auto letta = SePuo(file, LeggiImmagine(*byte, formato, Iniziali(formato)));
   if (letta) Avverti(file, *letta);
   return letta;
 }
 
 std::unique_ptr<const ImmagineInPosto> ApriModello(const std::filesystem::path& file, const TipoDoc& tipo) {
   const Formato formato = FormatoDi(tipo.NumSezioni);
-  using Letta = std::unique_ptr<const ImmagineInPosto>;
-  auto letta = LeggiCon<Letta>(file, [&]() -> Esito<Letta> {
-    PreparaImmagine prepara(formato);
-    Esito<ByteFile> byte = LeggiFile(file, [&](std::span<char> finora) { prepara.Prosegui(finora); });
-    if (!byte) return byte.Errore();
-    return Letta(std::make_unique<const ImmagineInPosto>(std::move(*byte), prepara, Iniziali(formato)));
-  });
-  if (letta) Avverti(file, letta->Esito());
-  return letta;
+  PreparaImmagine prepara(formato);
+  auto byte = SePuo(file, LeggiFile(file, [&](std::span<char> finora) { prepara.Prosegui(finora); }));
+  if (!byte) return nullptr;
+  auto letta = SePuo(file, ImmagineInPosto::Apri(std::move(*byte), prepara, Iniziali(formato)));
+  if (!letta) return nullptr;
+  Avverti(file, (*letta)->Esito());
+  return std::move(*letta);
 }
 
 }  // namespace parvik::batch

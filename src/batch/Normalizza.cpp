@@ -1,4 +1,3 @@
-#include <new>
 #include <optional>
 #include <string>
 
@@ -27,17 +26,6 @@ bool NormalizzaFile(const std::filesystem::path& file, const std::filesystem::pa
   return SegnalaScritto(uscita, ScriviFile(uscita, *immagine));
 }
 
-/// Too little memory for one file must not stop the others.
-bool NormalizzaSePuo(const std::filesystem::path& file, const std::filesystem::path& uscita,
-                     const TipoDoc& tipo) {
-  try {
-    return NormalizzaFile(file, uscita, tipo);
-  } catch (const std::bad_alloc&) {
-    Segnala(file, NumeroErrore::MemoriaEsaurita);
-    return false;
-  }
-}
-
 }  // namespace
 
 Uscita Normalizza(const Opzioni& opzioni) {
@@ -46,7 +34,7 @@ Uscita Normalizza(const Opzioni& opzioni) {
   if (tipo == nullptr) return Uscita::NonFatto;
   Uscita esito = Uscita::Fatto;
   for (const std::filesystem::path& file : opzioni.File) {
-    if (!NormalizzaSePuo(file, opzioni.Uscita.value_or(file), *tipo)) esito = Uscita::NonFatto;
+    if (!NormalizzaFile(file, opzioni.Uscita.value_or(file), *tipo)) esito = Uscita::NonFatto;
   }
   return esito;
 }

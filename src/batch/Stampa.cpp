@@ -14,7 +14,7 @@
 namespace parvik::batch {
 namespace {
 
-class SuUscitaStandard final : public UscitaRighe {
+class RigheSuUscitaStandard final : public UscitaRighe {
  public:
   bool Righe(std::string_view righe) override { return Stampa(righe); }
 };
@@ -36,12 +36,11 @@ void ImpostaVeri(const std::vector<int>& veri, const std::filesystem::path& cata
   }
 }
 
-enum class Reso { Si, NonLetto, UscitaInterrotta };
-
-Reso Rendi(const std::filesystem::path& file, const TipoDoc& tipo, const FlagPerStampe& flag,
-           UscitaRighe& uscita) {
+/// Whether the file could be read, and was rendered.
+Esito<bool, Interruzione> Rendi(const std::filesystem::path& file, const TipoDoc& tipo,
+                                const FlagPerStampe& flag, UscitaRighe& uscita) {
   const auto modello = ApriModello(file, tipo);
-  if (!modello) return Reso::NonLetto;
+  if (!modello) return false;
   const EsitoImmagine& letto = modello->Esito();
   if (letto.TestoNonLetto) Segnala(file, "avviso: lettura interrotta: " + TestoErrore(*letto.Errore));
   const DatiStampa dati{.Testi = modello->Testi(),
@@ -49,37 +48,43 @@ Reso Rendi(const std::filesystem::path& file, const TipoDoc& tipo, const FlagPer
                         .RigheCorpo = letto.Corpo.RigheCorpo,
                         .LineeCorpo = letto.Corpo.LineeCorpo,
                         .Flag = flag};
-  return GeneraStampa(dati, TipoStampa::File, uscita) ? Reso::Si : Reso::UscitaInterrotta;
+  const auto corsa = GeneraStampa(dati, TipoStampa::File, uscita);
+  if (corsa) return true;
+  if (corsa.Errore() == Interruzione::MemoriaEsaurita) Segnala(file, NumeroErrore::MemoriaEsaurita);
+  return corsa.Errore();
 }
 
-/// How many files were rendered; nullopt when the output failed.
-std::optional<std::size_t> RendiTutti(const Opzioni& opzioni, const TipoDoc& tipo, const FlagPerStampe& flag,
-                                      UscitaRighe& uscita) {
+/// How many files were rendered. What ends one run ends all: half of a file may be in the output by then.
+Esito<std::size_t, Interruzione> RendiTutti(const Opzioni& opzioni, const TipoDoc& tipo,
+                                            const FlagPerStampe& flag, UscitaRighe& uscita) {
   std::size_t resi = 0;
   for (const std::filesystem::path& file : opzioni.File) {
-    const Reso reso = Rendi(file, tipo, flag, uscita);
-    if (reso == Reso::UscitaInterrotta) return std::nullopt;
-    if (reso == Reso::Si) ++resi;
+    const Esito<bool, Interruzione> reso = Rendi(file, tipo, flag, uscita);
+    if (!reso) return reso.Errore();
+    if (*reso) ++resi;
   }
   return resi;
 }
 
-bool StampaSuFile(const Opzioni& opzioni, const TipoDoc& tipo, const FlagPerStampe& flag) {
+bool SuFile(const Opzioni& opzioni, const TipoDoc& tipo, const FlagPerStampe& flag) {
   auto file = ScritturaSicura::Apri(*opzioni.Uscita);
   if (!file) {
     Segnala(*opzioni.Uscita, TestoErrore(file.Errore()));
     return false;
   }
   RigheSuFile uscita(std::move(*file));
-  const std::optional<std::size_t> resi = RendiTutti(opzioni, tipo, flag, uscita);
-  // Where nothing at all could be rendered, the old file is not replaced by an empty one.
-  if (resi == 0) return false;
-  return SegnalaScritto(*opzioni.Uscita, uscita.Conferma()) && resi == opzioni.File.size();
+  const auto resi = RendiTutti(opzioni, tipo, flag, uscita);
+  // Where nothing at all could be rendered, the old file is not replaced by an empty one, nor by half of what
+  // there is to render.
+  const bool daTenere = resi ? *resi == 0 : resi.Errore() == Interruzione::MemoriaEsaurita;
+  if (daTenere) return false;
+  return SegnalaScritto(*opzioni.Uscita, uscita.Conferma()) && resi && *resi == opzioni.File.size();
 }
 
-bool StampaSuUscitaStandard(const Opzioni& opzioni, const TipoDoc& tipo, const FlagPerStampe& flag) {
-  SuUscitaStandard uscita;
-  return RendiTutti(opzioni, tipo, flag, uscita) == opzioni.File.size();
+bool SuUscitaStandard(const Opzioni& opzioni, const TipoDoc& tipo, const FlagPerStampe& flag) {
+  RigheSuUscitaStandard uscita;
+  const auto resi = RendiTutti(opzioni, tipo, flag, uscita);
+  return resi && *resi == opzioni.File.size();
 }
 
 }  // namespace
@@ -93,7 +98,7 @@ Uscita Stampa(const Opzioni& opzioni) {
   if (caricati == FlagCaricati::NonCaricabili) return Uscita::NonFatto;
   ImpostaVeri(opzioni.Veri, catalogo->File, flag);
   const bool riuscita =
-      opzioni.Uscita ? StampaSuFile(opzioni, *tipo, flag) : StampaSuUscitaStandard(opzioni, *tipo, flag);
+      opzioni.Uscita ? SuFile(opzioni, *tipo, flag) : SuUscitaStandard(opzioni, *tipo, flag);
   return riuscita && caricati == FlagCaricati::Tutti ? Uscita::Fatto : Uscita::NonFatto;
 }
 

@@ -6,6 +6,7 @@
 #include "common/LettoreRighe.h"
 #include "common/NumeroLeniente.h"
 #include "common/Ritagli.h"
+#include "common/SeBastaMemoria.h"
 
 namespace parvik {
 namespace {
@@ -153,12 +154,15 @@ const std::array<Flag, 3>& CondPagina() {
 }
 
 Esito<Catalogo, ErroreCatalogo> Catalogo::CaricaCampi(std::string contenuto) {
-  Catalogo catalogo;
-  catalogo.contenuto_ = std::make_unique<const std::string>(std::move(contenuto));
-  LettoreRighe righe(*catalogo.contenuto_);
-  if (const auto errore = catalogo.LeggiTestata(righe)) return *errore;
-  catalogo.LeggiCorpo(righe);
-  return catalogo;
+  const auto carica = [&contenuto]() -> Esito<Catalogo, ErroreCatalogo> {
+    Catalogo catalogo;
+    catalogo.contenuto_ = std::make_unique<const std::string>(std::move(contenuto));
+    LettoreRighe righe(*catalogo.contenuto_);
+    if (const auto errore = catalogo.LeggiTestata(righe)) return *errore;
+    catalogo.LeggiCorpo(righe);
+    return catalogo;
+  };
+  return SeBastaMemoria(carica, ErroreCatalogo{NumeroErrore::MemoriaEsaurita, 1});
 }
 
 std::optional<ErroreCatalogo> Catalogo::LeggiTestata(LettoreRighe& righe) {
@@ -215,6 +219,13 @@ std::size_t Catalogo::RigaNelFile(std::size_t rigaCorpo) const {
 }
 
 template <class Voce>
+static Esito<void> AggiungiVoce(Esito<Voce> voce, std::vector<Voce>& voci) {
+  if (!voce) return voce.Errore();
+  voci.push_back(std::move(*voce));
+  return {};
+}
+
+template <class Voce>
 Tabella<Voce> Catalogo::CaricaTabella(Intervallo intervallo, Esito<Voce> (*leggi)(std::string_view)) const {
   Tabella<Voce> tabella;
   const int quante = intervallo.A - intervallo.Da + 1;
@@ -222,13 +233,13 @@ Tabella<Voce> Catalogo::CaricaTabella(Intervallo intervallo, Esito<Voce> (*leggi
   if (quante <= 1 || !prima) return tabella;  // one line stands for "no entries" and is never parsed
   for (std::size_t i = *prima; i < *prima + static_cast<std::size_t>(quante); ++i) {
     // Past the last line there is nothing but empty lines, which lack their quote.
-    Esito<Voce> voce = leggi(i < righeCorpo_.size() ? righeCorpo_[i] : std::string_view());
-    if (!voce) {
-      tabella.Errore = voce.Errore();
+    const std::string_view riga = i < righeCorpo_.size() ? righeCorpo_[i] : std::string_view();
+    const Esito<void> letta = SeBastaMemoria([&] { return AggiungiVoce(leggi(riga), tabella.Voci); });
+    if (!letta) {
+      tabella.Errore = letta.Errore();
       tabella.RigaErrore = RigaNelFile(i);
       break;
     }
-    tabella.Voci.push_back(std::move(*voce));
   }
   return tabella;
 }

@@ -5,8 +5,9 @@
 #include <QProgressDialog>
 #include <QTimer>
 #include <atomic>
-#include <new>
 #include <thread>
+
+#include "common/SeBastaMemoria.h"
 
 namespace parvik {
 namespace {
@@ -52,11 +53,11 @@ class Attesa {
   }
 
   void Lavora(const std::function<void(std::stop_token)>& lavoro, const std::stop_token& smetti) {
-    try {
+    const auto lavora = [&]() -> Esito<void> {
       lavoro(smetti);
-    } catch (const std::bad_alloc&) {
-      esaurita_ = true;
-    }
+      return {};
+    };
+    esaurita_ = !SeBastaMemoria(lavora);
     finito_ = true;
     QMetaObject::invokeMethod(&giro_, &QEventLoop::quit, Qt::QueuedConnection);
   }

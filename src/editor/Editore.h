@@ -166,6 +166,7 @@ class Editore final : private Contorno {
   LavoroStampa InizioLavoro() const;
   /// Both: false when the run was given up, or ran out of memory.
   bool Genera();
+  bool AnteprimaMancata(NumeroErrore perche);  // says it; false
   bool AccendiAnteprima();
   void StampaSuCarta();
   void StampaTesto();

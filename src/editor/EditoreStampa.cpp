@@ -72,20 +72,28 @@ LavoroStampa Editore::InizioLavoro() const {
   return lavoro;
 }
 
+bool Editore::AnteprimaMancata(NumeroErrore perche) {
+  interlocutore_.Chiedi({.Testo = TestoErrore(perche)});
+  return false;
+}
+
 bool Editore::Genera() {
   LavoroStampa lavoro = InizioLavoro();
-  InizioAnteprima inizio = GeneraInizioAnteprima(lavoro.Dati(), ParteImmediata);
-  vista_.MostraAnteprima(std::move(inizio.Testo));
-  if (inizio.Intera) return true;
+  Esito<InizioAnteprima> inizio = GeneraInizioAnteprima(lavoro.Dati(), ParteImmediata);
+  if (!inizio) return AnteprimaMancata(inizio.Errore());
+  vista_.MostraAnteprima(std::move(inizio->Testo));
+  if (inizio->Intera) return true;
   const bool daPrendere = !lavoro.Interi;
   if (daPrendere) lavoro = LavoroSenzaTesti();
   const std::array testi = documento_.Testi();
-  std::optional<Anteprima> intera;
+  Esito<Anteprima, Interruzione> intera = Interruzione::Chiesta;
   const Esito<void> atteso = vista_.Attendi([&](const std::stop_token& smetti) {
     if (daPrendere) PrendiTesti(lavoro, testi);
     intera = GeneraAnteprima(lavoro.Dati(), smetti);
   });
-  if (!atteso) interlocutore_.Chiedi({.Testo = TestoErrore(atteso.Errore())});
+  if (!atteso) return AnteprimaMancata(atteso.Errore());
+  if (!intera && intera.Errore() == Interruzione::MemoriaEsaurita)
+    return AnteprimaMancata(NumeroErrore::MemoriaEsaurita);
   if (!intera) return false;
   vista_.CompletaAnteprima(std::move(*intera));
   return true;

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "common/Delimitatori.h"
+#include "common/SeBastaMemoria.h"
 #include "output/GeneraStampa.h"
 
 namespace parvik {
@@ -63,28 +64,25 @@ void AggiungiFine(std::string& testo) {
   if (!testo.empty()) testo.append(FineRiga).append(FineAnteprima);
 }
 
-}  // namespace
-
-Anteprima GeneraAnteprima(const DatiStampa& dati) {
-  return GeneraAnteprima(dati, std::stop_token()).value();
-}
-
-std::optional<Anteprima> GeneraAnteprima(const DatiStampa& dati, const std::stop_token& smetti) {
+Esito<Anteprima, Interruzione> Genera(const DatiStampa& dati, const std::stop_token& smetti) {
   Anteprima anteprima;
   anteprima.Testo.reserve(Dimensione(dati));
   RaccoltaTesto raccolta(anteprima.Testo, smetti);
-  if (!GeneraStampa(dati, TipoStampa::Anteprima, raccolta)) return std::nullopt;
+  const auto corsa = GeneraStampa(dati, TipoStampa::Anteprima, raccolta);
+  if (!corsa) return corsa.Errore();
   AggiungiFine(anteprima.Testo);
   auto tratti = MettiStili(anteprima.Testo, smetti);
-  if (!tratti || smetti.stop_requested()) return std::nullopt;
+  if (!tratti || smetti.stop_requested()) return Interruzione::Chiesta;
   anteprima.Tratti = std::move(*tratti);
   return anteprima;
 }
 
-InizioAnteprima GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo) {
+Esito<InizioAnteprima> GeneraInizio(const DatiStampa& dati, std::size_t massimo) {
   InizioAnteprima inizio;
   RaccoltaInizio raccolta(inizio.Testo.Testo, massimo);
-  inizio.Intera = GeneraStampa(dati, TipoStampa::Anteprima, raccolta) && dati.Interi;
+  const auto corsa = GeneraStampa(dati, TipoStampa::Anteprima, raccolta);
+  if (!corsa && corsa.Errore() == Interruzione::MemoriaEsaurita) return NumeroErrore::MemoriaEsaurita;
+  inizio.Intera = corsa && dati.Interi;
   if (inizio.Intera) {
     AggiungiFine(inizio.Testo.Testo);
   } else {
@@ -92,6 +90,20 @@ InizioAnteprima GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massim
   }
   inizio.Testo.Tratti = MettiStili(inizio.Testo.Testo);
   return inizio;
+}
+
+}  // namespace
+
+Anteprima GeneraAnteprima(const DatiStampa& dati) {
+  return std::move(*GeneraAnteprima(dati, std::stop_token()));
+}
+
+Esito<Anteprima, Interruzione> GeneraAnteprima(const DatiStampa& dati, const std::stop_token& smetti) {
+  return SeBastaMemoria([&] { return Genera(dati, smetti); }, Interruzione::MemoriaEsaurita);
+}
+
+Esito<InizioAnteprima> GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo) {
+  return SeBastaMemoria([&] { return GeneraInizio(dati, massimo); });
 }
 
 }  // namespace parvik

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "common/Delimitatori.h"
+#include "common/SeBastaMemoria.h"
 #include "common/TrovaByte.h"
 #include "output/BloccoStampa.h"
 #include "tokens/Pezzi.h"
@@ -197,9 +198,8 @@ int Ripetizioni(Sezione sezione, const DatiStampa& dati) {
   return dati.RigheCorpo / dati.LineeCorpo;
 }
 
-}  // namespace
-
-bool GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita) {
+/// False when the output ended it.
+bool Corri(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita) {
   Corsa corsa(destinazione, dati.Flag, uscita);
   for (const Sezione sezione : TutteLeSezioni) {
     if (static_cast<int>(sezione) >= dati.NumSezioni) break;
@@ -208,6 +208,16 @@ bool GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& 
     if (!corsa.Sezione(testo, Ripetizioni(sezione, dati))) return false;
   }
   return corsa.Scarica();
+}
+
+}  // namespace
+
+Esito<void, Interruzione> GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita) {
+  const auto corri = [&]() -> Esito<void, Interruzione> {
+    if (!Corri(dati, destinazione, uscita)) return Interruzione::Chiesta;
+    return {};
+  };
+  return SeBastaMemoria(corri, Interruzione::MemoriaEsaurita);
 }
 
 }  // namespace parvik

@@ -5,12 +5,12 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "common/Esito.h"
 #include "common/Sezione.h"
 #include "output/FlagPerStampe.h"
 #include "output/MettiStili.h"
@@ -49,9 +49,13 @@ class UscitaRighe {
 /// In bytes: those that a run writes, and those of the sections that it reads without writing anything.
 inline constexpr std::size_t PassoStampa = 64UL * 1024UL;
 
+/// Why a run did not come to its end: it was asked to, by its output or by whoever waits for it, or there was
+/// too little memory.
+enum class Interruzione { Chiesta, MemoriaEsaurita };
+
 /// One run. Takes time proportional to what it reads and produces, and memory for a few steps, whatever it
-/// produces. False when `uscita` ended it.
-bool GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita);
+/// produces. Too little memory may be what `uscita` met.
+Esito<void, Interruzione> GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita);
 
 /// What the preview pane shows.
 struct Anteprima {
@@ -61,10 +65,11 @@ struct Anteprima {
 
 inline constexpr std::string_view FineAnteprima = "--- Fine file ---";
 
-/// A run for the preview: its lines, the end marker, and the style markers turned into formatting.
+/// A run for the preview: its lines, the end marker, and the style markers turned into formatting. Ends when
+/// `smetti` is asked for.
+Esito<Anteprima, Interruzione> GeneraAnteprima(const DatiStampa& dati, const std::stop_token& smetti);
+/// The same where nobody asks and there is memory. Only tests and measurements call it.
 Anteprima GeneraAnteprima(const DatiStampa& dati);
-/// nullopt when `smetti` was asked for before the end.
-std::optional<Anteprima> GeneraAnteprima(const DatiStampa& dati, const std::stop_token& smetti);
 
 struct InizioAnteprima {
   Anteprima Testo;      // without the end marker, unless Intera
@@ -75,6 +80,7 @@ struct InizioAnteprima {
 /// of rendered text hold, style markers counted; fewer, or none, when the run goes on and on without ending a
 /// line. It looks as it does in the whole preview, but for a style marker that only what follows completes.
 /// Costs little more than rendering `massimo` bytes. Of a template's beginning it is never the whole preview.
-InizioAnteprima GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo);
+/// An error only when memory is exhausted.
+Esito<InizioAnteprima> GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo);
 
 }  // namespace parvik

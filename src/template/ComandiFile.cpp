@@ -244,7 +244,9 @@ Esito<void> ComandiFile::Leggi(const TipoDoc& tipo, void (Documento::*imposta)(S
   Esito<std::string> byte = LeggiFile(documento_.Stato().NomeFile);
   if (!byte) return byte.Errore();
   const Formato formato = FormatoDi(tipo.NumSezioni);
-  const ImmagineLetta letta = LeggiImmagine(*byte, formato, documento_.Stato().Corpo);
+  const Esito<ImmagineLetta> immagine = LeggiImmagine(*byte, formato, documento_.Stato().Corpo);
+  if (!immagine) return immagine.Errore();
+  const ImmagineLetta& letta = *immagine;
   documento_.Stato().Corpo = letta.Corpo;
   for (const Sezione sezione : TutteLeSezioni) {
     if (formato == Formato::UnaSezione && sezione != Sezione::Testata) continue;

@@ -4,6 +4,7 @@
 
 #include "common/Delimitatori.h"
 #include "common/LettoreRighe.h"
+#include "common/SeBastaMemoria.h"
 #include "template/CopiaRighe.h"
 #include "template/RigheSezione.h"
 
@@ -63,18 +64,54 @@ std::size_t Dimensione(const TestiSezioni& testi) {
   return dimensione;
 }
 
+Esito<std::string> ScriviUnaSezione(TestiSezioni& testi, ImpostazioniCorpo& /*corpo*/) {
+  const std::string& testata = testi[Indice(Sezione::Testata)];
+  std::string uscita;
+  uscita.reserve(testata.size() + FineRiga.size());
+  uscita.resize(AggiungiVersoFile(testata, uscita));  // an unfinished last line is not written
+  return uscita;
+}
+
+/// What it completes in `testi` stays when memory is exhausted; the settings are changed last.
+Esito<std::string> ScriviTreSezioni(TestiSezioni& testi, ImpostazioniCorpo& corpo) {
+  std::string& testoCorpo = testi[Indice(Sezione::Corpo)];
+  const Esito<ConteggioRighe> conteggio = ContaRigheSezione(testoCorpo);
+  if (!conteggio) return conteggio.Errore();
+  if (conteggio->DaCompletare) testoCorpo.append(FineRiga);
+  ImpostazioniCorpo contate = corpo;
+  contate.LineeCorpo = conteggio->Righe;
+  std::string uscita;
+  uscita.reserve(Dimensione(testi));
+  ScriviSezione(testi[Indice(Sezione::Testata)], uscita);
+  uscita.append(RigaMarcatore(contate));
+  ScriviSezione(testoCorpo, uscita);
+  ScriviSezione(testi[Indice(Sezione::Piede)], uscita);
+  corpo.LineeCorpo = contate.LineeCorpo;
+  return uscita;
+}
+
 }  // namespace
 
 ImpostazioniCorpo ImpostazioniPredefinite() {
   return {.RigheCorpo = 23, .LineeCorpo = 1, .FlagSbarra = "", .FlagAccorpa = ""};
 }
 
-ImmagineLetta LeggiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali) {
-  const auto marcatore = formato == Formato::TreSezioni ? TrovaMarcatore(byte, 0) : std::nullopt;
-  const ImmagineDivisa divisa = Dividi(byte, formato, marcatore, attuali);
-  ImmagineLetta letta{divisa, {}};
-  for (std::size_t i = 0; i < MaxSezioni; ++i) AggiungiDaFile(divisa.Righe[i], letta.Testi[i]);
-  return letta;
+Esito<ImmagineLetta> LeggiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali) {
+  return SeBastaMemoria([&]() -> Esito<ImmagineLetta> {
+    const auto marcatore = formato == Formato::TreSezioni ? TrovaMarcatore(byte, 0) : std::nullopt;
+    const ImmagineDivisa divisa = Dividi(byte, formato, marcatore, attuali);
+    ImmagineLetta letta{divisa, {}};
+    for (std::size_t i = 0; i < MaxSezioni; ++i) AggiungiDaFile(divisa.Righe[i], letta.Testi[i]);
+    return letta;
+  });
+}
+
+Esito<std::unique_ptr<const ImmagineInPosto>> ImmagineInPosto::Apri(ByteFile byte, PreparaImmagine prepara,
+                                                                    const ImpostazioniCorpo& attuali) {
+  using Aperta = std::unique_ptr<const ImmagineInPosto>;
+  return SeBastaMemoria([&]() -> parvik::Esito<Aperta> {
+    return Aperta(new ImmagineInPosto(std::move(byte), prepara, attuali));
+  });
 }
 
 ImmagineInPosto::ImmagineInPosto(ByteFile byte, PreparaImmagine prepara, const ImpostazioniCorpo& attuali)
@@ -90,24 +127,12 @@ ImmagineInPosto::ImmagineInPosto(ByteFile byte, PreparaImmagine prepara, const I
 }
 
 Esito<std::string> ScriviImmagine(TestiSezioni& testi, ImpostazioniCorpo& corpo, Formato formato) {
-  std::string uscita;
-  if (formato == Formato::UnaSezione) {
-    const std::string& testata = testi[Indice(Sezione::Testata)];
-    uscita.reserve(testata.size() + FineRiga.size());
-    uscita.resize(AggiungiVersoFile(testata, uscita));  // an unfinished last line is not written
-    return uscita;
-  }
+  const auto scrivi = formato == Formato::UnaSezione ? ScriviUnaSezione : ScriviTreSezioni;
   std::string& testoCorpo = testi[Indice(Sezione::Corpo)];
-  const Esito<ConteggioRighe> conteggio = ContaRigheSezione(testoCorpo);
-  if (!conteggio) return conteggio.Errore();
-  if (conteggio->DaCompletare) testoCorpo.append(FineRiga);
-  corpo.LineeCorpo = conteggio->Righe;
-  uscita.reserve(Dimensione(testi));
-  ScriviSezione(testi[Indice(Sezione::Testata)], uscita);
-  uscita.append(RigaMarcatore(corpo));
-  ScriviSezione(testoCorpo, uscita);
-  ScriviSezione(testi[Indice(Sezione::Piede)], uscita);
-  return uscita;
+  const std::size_t corpoPrima = testoCorpo.size();
+  Esito<std::string> scritta = SeBastaMemoria([&] { return scrivi(testi, corpo); });
+  if (!scritta) testoCorpo.resize(corpoPrima);
+  return scritta;
 }
 
 }  // namespace parvik

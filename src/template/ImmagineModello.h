@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -33,8 +34,9 @@ struct ImmagineLetta : EsitoImmagine {
   TestiSezioni Testi;  // in the one-section layout only the Testata is meaningful
 };
 
-/// Reads a file's bytes. `attuali` are the settings before: those that the file does not set stay.
-ImmagineLetta LeggiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali);
+/// Reads a file's bytes. `attuali` are the settings before: those that the file does not set stay. An error
+/// only when memory is exhausted: whatever else ends the reading leaves what was read.
+Esito<ImmagineLetta> LeggiImmagine(std::string_view byte, Formato formato, const ImpostazioniCorpo& attuali);
 
 struct ImmagineDivisa : EsitoImmagine {
   /// The lines of each section as the file has them.
@@ -45,8 +47,9 @@ struct ImmagineDivisa : EsitoImmagine {
 /// to be added to them.
 class ImmagineInPosto {
  public:
-  /// Of bytes that `prepara` was shown, or a beginning of them.
-  ImmagineInPosto(ByteFile byte, PreparaImmagine prepara, const ImpostazioniCorpo& attuali);
+  /// Of bytes that `prepara` was shown, or a beginning of them. An error only when memory is exhausted.
+  static parvik::Esito<std::unique_ptr<const ImmagineInPosto>> Apri(ByteFile byte, PreparaImmagine prepara,
+                                                                    const ImpostazioniCorpo& attuali);
   ImmagineInPosto(const ImmagineInPosto&) = delete;
   ImmagineInPosto& operator=(const ImmagineInPosto&) = delete;
   ~ImmagineInPosto() = default;
@@ -56,14 +59,16 @@ class ImmagineInPosto {
   const std::array<std::string_view, MaxSezioni>& Testi() const { return divisa_.Righe; }
 
  private:
+  ImmagineInPosto(ByteFile byte, PreparaImmagine prepara, const ImpostazioniCorpo& attuali);
+
   ByteFile byte_;
   TestiSezioni completati_;
   ImmagineDivisa divisa_;
 };
 
 /// Builds a file's bytes. In the three-section layout LineeCorpo is recounted, and a Corpo whose last line
-/// lacks its CR LF is completed, in `testi` itself. Overflow, and nothing changed, when the Corpo has more
-/// than 32767 lines.
+/// lacks its CR LF is completed, in `testi` itself. On an error nothing was changed: Overflow when the Corpo
+/// has more than 32767 lines, or too little memory.
 Esito<std::string> ScriviImmagine(TestiSezioni& testi, ImpostazioniCorpo& corpo, Formato formato);
 
 }  // namespace parvik

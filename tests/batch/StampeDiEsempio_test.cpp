@@ -46,7 +46,7 @@ class StampaEsempioTest : public testing::TestWithParam<ModelloEsempio> {
   std::string Anteprima(bool veri) {
     for (std::size_t i = 0; i < flag_.Righe().size(); ++i) flag_.SettaFlag(i, veri);
     const ImmagineLetta letta =
-        LeggiImmagine(Contenuto(FileDi(GetParam())), FormatoDi(tipo_.NumSezioni), ImpostazioniPredefinite());
+        *LeggiImmagine(Contenuto(FileDi(GetParam())), FormatoDi(tipo_.NumSezioni), ImpostazioniPredefinite());
     const std::string testo = GeneraAnteprima({.Testi = {letta.Testi[0], letta.Testi[1], letta.Testi[2]},
                                                .NumSezioni = tipo_.NumSezioni,
                                                .RigheCorpo = letta.Corpo.RigheCorpo,

@@ -36,7 +36,7 @@ std::string DaEsadecimale(const std::vector<std::string>& righe) {
 
 TEST(TemplateFilePage, ShowsTheBytesOfAFile) {
   const std::string file = DaEsadecimale(BloccoEsempi(Pagina, "bytes"));
-  const ImmagineLetta letta = LeggiImmagine(file, Formato::TreSezioni, ImpostazioniPredefinite());
+  const ImmagineLetta letta = *LeggiImmagine(file, Formato::TreSezioni, ImpostazioniPredefinite());
   const auto righe = TabellaEsempi(Pagina, "bytes-read", 2);
   ASSERT_EQ(righe.size(), MaxSezioni);
   for (std::size_t i = 0; i < MaxSezioni; ++i)
@@ -57,7 +57,7 @@ TEST(TemplateFilePage, TellsWhatMarkersSay) {
                                    .LineeCorpo = static_cast<std::int16_t>(riga.Numero(2)),
                                    .FlagSbarra = riga.Byte(3),
                                    .FlagAccorpa = riga.Byte(4)};
-    const ImpostazioniCorpo letto = LeggiImmagine(file, Formato::TreSezioni, prima).Corpo;
+    const ImpostazioniCorpo letto = LeggiImmagine(file, Formato::TreSezioni, prima)->Corpo;
     EXPECT_EQ(letto, atteso) << riga.Posto() << " reads as " << InSintesi(letto);
   }
 }
@@ -66,7 +66,7 @@ TEST(TemplateFilePage, TellsWhatFilesReadAs) {
   for (const RigaEsempio& riga : TabellaEsempi(Pagina, "readings", 7)) {
     const ImpostazioniCorpo prima = ImpostazioniPredefinite();
     const Formato formato = FormatoDi(static_cast<std::int16_t>(riga.Numero(0)));
-    const ImmagineLetta letta = LeggiImmagine(riga.Byte(1), formato, prima);
+    const ImmagineLetta letta = *LeggiImmagine(riga.Byte(1), formato, prima);
     for (std::size_t i = 0; i < MaxSezioni; ++i) EXPECT_EQ(letta.Testi[i], riga.Byte(2 + i)) << riga.Posto();
     EXPECT_EQ(InSintesi(letta.Corpo), riga.Testo(5).empty() ? InSintesi(prima) : riga.Byte(5))
         << riga.Posto();

@@ -51,9 +51,8 @@ bool SiInterrompe(const Lavoro& lavoro) {
   bool interrotta = false;
   const auto inizio = std::chrono::steady_clock::now();
   {
-    std::jthread lavoratore([&](const std::stop_token& smetti) {
-      interrotta = !GeneraAnteprima(lavoro.Dati(), smetti).has_value();
-    });
+    std::jthread lavoratore(
+        [&](const std::stop_token& smetti) { interrotta = !GeneraAnteprima(lavoro.Dati(), smetti); });
     while (TempoDiLavoro(lavoratore) < std::chrono::milliseconds(1)) std::this_thread::yield();
   }
   return interrotta && std::chrono::steady_clock::now() - inizio < std::chrono::seconds(20);
@@ -66,14 +65,14 @@ TEST(AnteprimaInterrotta, IsTheSamePreviewWhenItIsNotGivenUp) {
       "b\r\n",
       2);
   const auto anteprima = GeneraAnteprima(lavoro.Dati(), std::stop_source().get_token());
-  ASSERT_TRUE(anteprima.has_value());
+  ASSERT_TRUE(anteprima);
   EXPECT_EQ(Leggibile(anteprima->Testo, anteprima->Tratti), "a<GR>b¶ab¶¶--- Fine file ---</GR>");
 }
 
 TEST(AnteprimaInterrotta, IsNothingWhenItWasGivenUpBefore) {
-  EXPECT_FALSE(GeneraAnteprima(Lavoro("").Dati(), GiaSmesso()).has_value());
-  EXPECT_FALSE(GeneraAnteprima(Lavoro("a\r\n").Dati(), GiaSmesso()).has_value());
-  EXPECT_FALSE(GeneraAnteprima(Lavoro(std::string(1'000'000, 'x')).Dati(), GiaSmesso()).has_value());
+  EXPECT_FALSE(GeneraAnteprima(Lavoro("").Dati(), GiaSmesso()));
+  EXPECT_FALSE(GeneraAnteprima(Lavoro("a\r\n").Dati(), GiaSmesso()));
+  EXPECT_FALSE(GeneraAnteprima(Lavoro(std::string(1'000'000, 'x')).Dati(), GiaSmesso()));
 }
 
 TEST(AnteprimaInterrotta, EndsWhileTheCorpoIsRepeatedWithoutWritingAnything) {
@@ -120,7 +119,7 @@ TEST(StiliInterrotti, FindAMarkerWhereverItStands) {
 }
 
 std::string Inizio(const Lavoro& lavoro, std::size_t massimo) {
-  const InizioAnteprima inizio = GeneraInizioAnteprima(lavoro.Dati(), massimo);
+  const InizioAnteprima inizio = *GeneraInizioAnteprima(lavoro.Dati(), massimo);
   return Leggibile(inizio.Testo.Testo, inizio.Testo.Tratti) + (inizio.Intera ? "" : "...");
 }
 
@@ -154,7 +153,7 @@ TEST(InizioAnteprima, OfALongRunHasNearlyAsMuchAsItMay) {
       "riga\r\n",
       32767);
   for (const std::size_t massimo : {1'000U, 65'536U, 100'000U, 150'000U}) {
-    const InizioAnteprima inizio = GeneraInizioAnteprima(lavoro.Dati(), massimo);
+    const InizioAnteprima inizio = *GeneraInizioAnteprima(lavoro.Dati(), massimo);
     EXPECT_FALSE(inizio.Intera);
     EXPECT_EQ(inizio.Testo.Testo, Ripetuto("riga\r\n", massimo / 6));
   }

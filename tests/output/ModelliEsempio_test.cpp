@@ -28,7 +28,7 @@ class ModelloEsempioTest : public testing::TestWithParam<std::tuple<Modello, boo
     ASSERT_TRUE(flag_.Carica(*catalogo, tipo).empty());
     for (std::size_t i = 0; i < flag_.Righe().size(); ++i) flag_.SettaFlag(i, veri);
     const std::string byte = Contenuto(Esempio() / "D_IMG" / (std::string(modello.Nome) + ".IMG"));
-    letta_ = LeggiImmagine(byte, FormatoDi(tipo.NumSezioni), ImpostazioniPredefinite());
+    letta_ = *LeggiImmagine(byte, FormatoDi(tipo.NumSezioni), ImpostazioniPredefinite());
     ASSERT_FALSE(letta_.Testi[0].empty());
     numSezioni_ = tipo.NumSezioni;
   }

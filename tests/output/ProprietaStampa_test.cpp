@@ -170,7 +170,7 @@ Prova ProvaCasuale() {
 void StampaUguale(TipoStampa destinazione) {
   const Prova prova = ProvaCasuale();
   Raccolta raccolta;
-  RC_ASSERT(GeneraStampa(prova.Dati(), destinazione, raccolta));
+  RC_ASSERT(!!GeneraStampa(prova.Dati(), destinazione, raccolta));
   RC_ASSERT(raccolta.Testo == StampaDiRiferimento(prova.Riferimento, static_cast<int>(destinazione)));
   RC_ASSERT(!testing::Test::HasFailure());
 }
@@ -201,7 +201,7 @@ TEST(ProprietaStampa, HoldForTheBeginningOfThePreview) {
     const std::string intera = StampaDiRiferimento(prova.Riferimento, 2);
     const std::string righe = intera.substr(0, intera.size() - std::min(intera.size(), CodaAnteprima.size()));
     const auto massimo = *rc::gen::inRange<std::size_t>(0, righe.size() + 3);
-    const InizioAnteprima inizio = GeneraInizioAnteprima(prova.Dati(), massimo);
+    const InizioAnteprima inizio = *GeneraInizioAnteprima(prova.Dati(), massimo);
     RC_ASSERT(inizio.Intera == (righe.size() <= massimo));
     const std::size_t fine = righe.substr(0, massimo).rfind("\r\n");
     const TestoConAspetti riferimento = StiliDiRiferimento(
@@ -217,7 +217,7 @@ TEST(ProprietaStampa, HoldForOneVariableOfAnyFormat) {
     prova.Riferimento.Testi[0] = *Variabili();
     prova.Riferimento.NumSezioni = 1;
     Raccolta raccolta;
-    RC_ASSERT(GeneraStampa(prova.Dati(), TipoStampa::File, raccolta));
+    RC_ASSERT(!!GeneraStampa(prova.Dati(), TipoStampa::File, raccolta));
     RC_ASSERT(raccolta.Testo == StampaDiRiferimento(prova.Riferimento, 1));
   }));
 }

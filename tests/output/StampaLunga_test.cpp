@@ -37,9 +37,9 @@ constexpr std::size_t SenzaFine = UscitaCheRisponde::SenzaFine;
 
 bool StampaCon(UscitaRighe& uscita, std::string_view corpo, std::int16_t volte = 1) {
   const FlagPerStampe flag = FlagDi({{.Numero = 1}});
-  return GeneraStampa(
-      {.Testi = {"", corpo, ""}, .NumSezioni = 3, .RigheCorpo = volte, .LineeCorpo = 1, .Flag = flag},
-      TipoStampa::File, uscita);
+  const DatiStampa dati{
+      .Testi = {"", corpo, ""}, .NumSezioni = 3, .RigheCorpo = volte, .LineeCorpo = 1, .Flag = flag};
+  return static_cast<bool>(GeneraStampa(dati, TipoStampa::File, uscita));
 }
 
 std::string Ripetuto(std::string_view testo, std::size_t volte) {

@@ -58,7 +58,7 @@ TEST(ImmagineModello, GivesBackThreeSectionsThatEndInCrLfAndTheirSettings) {
     RC_ASSERT(scritti == testi);
     RC_ASSERT(scritte == impostazioni);
 
-    const ImmagineLetta letta = LeggiImmagine(*file, Formato::TreSezioni, Precedenti());
+    const ImmagineLetta letta = *LeggiImmagine(*file, Formato::TreSezioni, Precedenti());
     RC_ASSERT(!letta.Errore.has_value());
     RC_ASSERT(letta.Testi == testi);
     RC_ASSERT(letta.Corpo == impostazioni);
@@ -72,7 +72,7 @@ TEST(ImmagineModello, GivesBackOneSectionThatEndsInCrLf) {
     ImpostazioniCorpo impostazioni = Precedenti();
     const Esito<std::string> file = ScriviImmagine(scritti, impostazioni, Formato::UnaSezione);
     RC_ASSERT(static_cast<bool>(file));
-    const ImmagineLetta letta = LeggiImmagine(*file, Formato::UnaSezione, Precedenti());
+    const ImmagineLetta letta = *LeggiImmagine(*file, Formato::UnaSezione, Precedenti());
     RC_ASSERT(letta.Testi == testi);
     RC_ASSERT(letta.Corpo == Precedenti());
   }));
@@ -103,7 +103,7 @@ TEST(ImmagineModello, ReadsAnyBytesIntoSectionsOfWholeLinesWithoutFileDelimiters
   EXPECT_TRUE(rc::check("any bytes", [](bool tre) {
     const std::string file = *rc::gen::oneOf(File(), rc::gen::arbitrary<std::string>());
     const ImmagineLetta letta =
-        LeggiImmagine(file, tre ? Formato::TreSezioni : Formato::UnaSezione, ImpostazioniPredefinite());
+        *LeggiImmagine(file, tre ? Formato::TreSezioni : Formato::UnaSezione, ImpostazioniPredefinite());
     for (const std::string& testo : letta.Testi) {
       RC_ASSERT(testo.empty() || testo.ends_with("\r\n"));
       RC_ASSERT(Contati(testo, DelimFileApertura) + Contati(testo, DelimFileChiusura) == 0U);
@@ -115,10 +115,10 @@ TEST(ImmagineModello, WritesTheSameBytesAgainOnceAFileWasReadAndWritten) {
   EXPECT_TRUE(rc::check("read, written, read, written", [](bool tre) {
     const Formato formato = tre ? Formato::TreSezioni : Formato::UnaSezione;
     const std::string file = *rc::gen::nonEmpty(File());
-    ImmagineLetta prima = LeggiImmagine(file, formato, ImpostazioniPredefinite());
+    ImmagineLetta prima = *LeggiImmagine(file, formato, ImpostazioniPredefinite());
     const Esito<std::string> unaVolta = ScriviImmagine(prima.Testi, prima.Corpo, formato);
     RC_ASSERT(static_cast<bool>(unaVolta));
-    ImmagineLetta dopo = LeggiImmagine(*unaVolta, formato, prima.Corpo);
+    ImmagineLetta dopo = *LeggiImmagine(*unaVolta, formato, prima.Corpo);
     const Esito<std::string> dueVolte = ScriviImmagine(dopo.Testi, dopo.Corpo, formato);
     RC_ASSERT(static_cast<bool>(dueVolte));
     RC_ASSERT(*dueVolte == *unaVolta);

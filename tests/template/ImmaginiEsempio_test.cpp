@@ -28,7 +28,7 @@ TEST_P(ImmagineEsempioTest, IsTheSameByteByByteWhenReadAndWrittenBack) {
   const std::string file = Contenuto(Esempio() / "D_IMG" / (std::string(GetParam().Nome) + ".IMG"));
   ASSERT_NE("", file);
 
-  ImmagineLetta letta = LeggiImmagine(file, formato, ImpostazioniPredefinite());
+  ImmagineLetta letta = *LeggiImmagine(file, formato, ImpostazioniPredefinite());
   EXPECT_EQ(std::nullopt, letta.Errore);
   EXPECT_FALSE(letta.CorpoIncompleto);
   EXPECT_FALSE(letta.TestoNonLetto);

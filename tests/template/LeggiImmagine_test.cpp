@@ -35,7 +35,7 @@ TEST(LeggiImmagine, SplitsAFileOfThreeSectionsAtItsMarkerAndItsCountOfBodyLines)
 
 TEST(LeggiImmagine, AcceptsAnEmptyFileInEitherLayout) {
   for (const Formato formato : {Formato::UnaSezione, Formato::TreSezioni}) {
-    const ImmagineLetta letta = LeggiImmagine("", formato, Precedenti());
+    const ImmagineLetta letta = *LeggiImmagine("", formato, Precedenti());
     EXPECT_EQ(Testi(""), letta.Testi);
     EXPECT_EQ(Precedenti(), letta.Corpo);
     EXPECT_EQ(std::nullopt, letta.Errore);

@@ -75,7 +75,8 @@ TEST(LeggiImmagine, ReadsAnyThreeSectionsAsLineByLine) {
 
 /// As a file arrives: in pieces, each time all that there is so far, in new memory; the last pieces may never
 /// have been shown.
-ImmagineInPosto LettaAPezzi(std::string_view byte, Formato formato, std::size_t pezzo, bool finoInFondo) {
+std::unique_ptr<const ImmagineInPosto> LettaAPezzi(std::string_view byte, Formato formato, std::size_t pezzo,
+                                                   bool finoInFondo) {
   PreparaImmagine prepara(formato);
   ByteFile finora;
   while (finora.size() < byte.size()) {
@@ -85,18 +86,18 @@ ImmagineInPosto LettaAPezzi(std::string_view byte, Formato formato, std::size_t 
     finora = std::move(altrove);
     if (finoInFondo || finora.size() < byte.size()) prepara.Prosegui(finora);
   }
-  return {std::move(finora), prepara, Precedenti()};
+  return std::move(*ImmagineInPosto::Apri(std::move(finora), prepara, Precedenti()));
 }
 
 /// In what the two ways to read differ; "" when they do not.
 std::string Differenze(std::string_view byte, Formato formato, std::size_t pezzo, bool finoInFondo) {
-  const ImmagineLetta letta = LeggiImmagine(byte, formato, Precedenti());
-  const ImmagineInPosto inPosto = LettaAPezzi(byte, formato, pezzo, finoInFondo);
-  const EsitoImmagine& esito = inPosto.Esito();
+  const ImmagineLetta letta = *LeggiImmagine(byte, formato, Precedenti());
+  const auto inPosto = LettaAPezzi(byte, formato, pezzo, finoInFondo);
+  const EsitoImmagine& esito = inPosto->Esito();
   std::string differenze;
   for (const Sezione sezione : TutteLeSezioni) {
     const std::size_t i = Indice(sezione);
-    if (inPosto.Testi()[i] != letta.Testi[i]) differenze.append(NomiSezioni[i]).append(" ");
+    if (inPosto->Testi()[i] != letta.Testi[i]) differenze.append(NomiSezioni[i]).append(" ");
   }
   if (!(esito.Corpo == letta.Corpo)) differenze += "settings ";
   if (esito.Errore != letta.Errore || esito.CorpoIncompleto != letta.CorpoIncompleto ||
@@ -162,7 +163,9 @@ TEST(ImmagineInPosto, ReadsAFileWhileItComesAsTheReaderReadsItsBytes) {
   Esito<ByteFile> letto =
       LeggiFile(cartella / "a", [&](std::span<char> finora) { prepara.Prosegui(finora); });
   ASSERT_TRUE(letto);
-  const ImmagineInPosto letta(std::move(*letto), prepara, Precedenti());
+  const auto aperta = ImmagineInPosto::Apri(std::move(*letto), prepara, Precedenti());
+  ASSERT_TRUE(aperta);
+  const ImmagineInPosto& letta = **aperta;
   const ImmagineLetta attesa = LeggiTre(byte);
   for (std::size_t i = 0; i < MaxSezioni; ++i) EXPECT_TRUE(letta.Testi()[i] == attesa.Testi[i]) << i;
   EXPECT_EQ(letta.Esito().Corpo, attesa.Corpo);

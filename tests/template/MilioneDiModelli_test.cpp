@@ -100,7 +100,7 @@ TEST(MilioneDiModelli, OfThreeSectionsComeBackAsTheyWereWritten) {
     const Esito<std::string> file = ScriviImmagine(scritti, scritto, Formato::TreSezioni);
     ASSERT_TRUE(file) << i;
     ASSERT_EQ(testi, scritti) << i;
-    const ImmagineLetta letta = LeggiImmagine(*file, Formato::TreSezioni, Precedenti());
+    const ImmagineLetta letta = *LeggiImmagine(*file, Formato::TreSezioni, Precedenti());
     ASSERT_FALSE(letta.Errore) << i;
     ASSERT_EQ(testi, letta.Testi) << i;
     ImpostazioniCorpo contato = corpo;
@@ -117,7 +117,7 @@ TEST(MilioneDiModelli, OfOneSectionComeBackAsTheyWereWritten) {
     ImpostazioniCorpo corpo = Precedenti();
     const Esito<std::string> file = ScriviImmagine(scritti, corpo, Formato::UnaSezione);
     ASSERT_TRUE(file) << i;
-    const ImmagineLetta letta = LeggiImmagine(*file, Formato::UnaSezione, Precedenti());
+    const ImmagineLetta letta = *LeggiImmagine(*file, Formato::UnaSezione, Precedenti());
     ASSERT_FALSE(letta.Errore) << i;
     ASSERT_EQ(testata, letta.Testi[0]) << i;
     ASSERT_EQ(Precedenti(), letta.Corpo) << i;

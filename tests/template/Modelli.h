@@ -30,10 +30,10 @@ inline ImpostazioniCorpo Precedenti() {
 }
 
 inline ImmagineLetta LeggiTre(std::string_view byte) {
-  return LeggiImmagine(byte, Formato::TreSezioni, Precedenti());
+  return *LeggiImmagine(byte, Formato::TreSezioni, Precedenti());
 }
 inline ImmagineLetta LeggiUna(std::string_view byte) {
-  return LeggiImmagine(byte, Formato::UnaSezione, Precedenti());
+  return *LeggiImmagine(byte, Formato::UnaSezione, Precedenti());
 }
 
 }  // namespace parvik::prova

@@ -8,6 +8,7 @@
 #include <string>
 #include <utility>
 
+#include "common/SeBastaMemoria.h"
 #include "sistema/posix/AttributiFile.h"
 #include "sistema/posix/Ripeti.h"
 
@@ -77,7 +78,7 @@ EsitoSistema<void> CopiaDiRiserva::Scrivi(std::string_view contenuto) {
 
 EsitoSistema<CopiaDiRiserva> CopiaDiRiserva::CreaIn(Posto posto, std::string_view contenuto) {
   CopiaDiRiserva copia(std::move(posto));
-  const EsitoSistema<void> passo = copia.Scrivi(contenuto);
+  const EsitoSistema<void> passo = SeBastaMemoria([&] { return copia.Scrivi(contenuto); }, ENOMEM);
   if (passo) return copia;
   copia.Togli();
   return passo.Errore();

@@ -8,9 +8,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <memory>
-#include <new>
-#include <stdexcept>
 
+#include "common/SeBastaMemoria.h"
 #include "sistema/posix/OperazioniFile.h"
 #include "sistema/posix/Ripeti.h"
 
@@ -59,24 +58,18 @@ Esito<Contenuto> Leggi(const std::filesystem::path& percorso, const Letto& letto
   const EsitoSistema<struct stat> stato = Stato(file);
   if (!stato) return DaErrno(stato.Errore());
   if (!S_ISREG(stato->st_mode)) return NumeroErrore::AccessoPercorsoFile;
-  try {
-    return LeggiTutto<Contenuto>(file, static_cast<std::size_t>(stato->st_size), letto);
-  } catch (const std::bad_alloc&) {
-    return NumeroErrore::MemoriaEsaurita;
-  } catch (const std::length_error&) {
-    return NumeroErrore::MemoriaEsaurita;
-  }
+  return LeggiTutto<Contenuto>(file, static_cast<std::size_t>(stato->st_size), letto);
 }
 
 }  // namespace
 
 Esito<std::string> LeggiFile(const std::filesystem::path& percorso) {
-  return Leggi<std::string>(percorso, [](std::span<char>) {});
+  return SeBastaMemoria([&] { return Leggi<std::string>(percorso, [](std::span<char>) {}); });
 }
 
 Esito<ByteFile> LeggiFile(const std::filesystem::path& percorso,
                           const std::function<void(std::span<char> finora)>& letto) {
-  return Leggi<ByteFile>(percorso, letto);
+  return SeBastaMemoria([&] { return Leggi<ByteFile>(percorso, letto); });
 }
 
 Esito<void> ProvaLettura(const std::filesystem::path& percorso) {

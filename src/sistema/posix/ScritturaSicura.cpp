@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <utility>
 
+#include "common/SeBastaMemoria.h"
 #include "sistema/posix/Ripeti.h"
 #include "sistema/posix/ScritturaAccanto.h"
 #include "sistema/posix/ScritturaSulPosto.h"
@@ -14,6 +15,10 @@ namespace parvik {
 namespace {
 
 namespace fs = std::filesystem;
+
+ErroreScrittura SenzaMemoria() {
+  return {NumeroErrore::MemoriaEsaurita};
+}
 
 /// A device or a pipe: what is written is gone at once.
 class Diretta final : public ScritturaSicura::Strada {
@@ -91,18 +96,21 @@ ScritturaSicura& ScritturaSicura::operator=(ScritturaSicura&& altra) noexcept = 
 ScritturaSicura::~ScritturaSicura() = default;
 
 Esito<ScritturaSicura, ErroreScrittura> ScritturaSicura::Apri(const fs::path& destinazione) {
-  if (!destinazione.has_filename()) return ErroreScrittura{NumeroErrore::AccessoPercorsoFile};
-  EsitoStrada strada = ApriStrada(destinazione);
-  if (!strada) return ErroreDaErrno(strada.Errore());
-  return ScritturaSicura(std::move(*strada));
+  const auto apri = [&destinazione]() -> Esito<ScritturaSicura, ErroreScrittura> {
+    if (!destinazione.has_filename()) return ErroreScrittura{NumeroErrore::AccessoPercorsoFile};
+    EsitoStrada strada = ApriStrada(destinazione);
+    if (!strada) return ErroreDaErrno(strada.Errore());
+    return ScritturaSicura(std::move(*strada));
+  };
+  return SeBastaMemoria(apri, SenzaMemoria());
 }
 
 EsitoPasso ScritturaSicura::Scrivi(std::string_view byte) {
-  return strada_->Scrivi(byte);
+  return SeBastaMemoria([&] { return strada_->Scrivi(byte); }, SenzaMemoria());
 }
 
 EsitoScrittura ScritturaSicura::Conferma() {
-  return strada_->Conferma();
+  return SeBastaMemoria([&] { return strada_->Conferma(); }, SenzaMemoria());
 }
 
 EsitoScrittura ScriviFile(const fs::path& destinazione, std::string_view byte) {

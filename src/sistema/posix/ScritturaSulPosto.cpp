@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <new>
 
 #include "common/TestoMostrabile.h"
 #include "sistema/LetturaFile.h"
@@ -41,11 +40,7 @@ EsitoSistema<void> Ricopri(const std::filesystem::path& destinazione, const stru
 }  // namespace
 
 EsitoPasso ScritturaSulPosto::Scrivi(std::string_view byte) {
-  try {
-    nuovo_.append(byte);
-  } catch (const std::bad_alloc&) {
-    return ErroreScrittura{NumeroErrore::MemoriaEsaurita};
-  }
+  nuovo_.append(byte);
   return {};
 }
 
