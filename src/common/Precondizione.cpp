@@ -5,7 +5,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
-#include <ranges>
 
 namespace parvik {
 namespace {
@@ -18,8 +17,8 @@ std::atomic<bool> finisce = false;
 /// Nothing is cleaned up that may be in a state that should not be. What fails while it is ending ends there.
 [[noreturn]] void FinisciSubito() {
   if (!finisce.exchange(true)) {
-    for (const auto& ultimo : ultimi | std::views::reverse) {
-      if (void (*const fai)() = ultimo) fai();
+    for (auto ultimo = ultimi.rbegin(); ultimo != ultimi.rend(); ++ultimo) {
+      if (void (*const fai)() = *ultimo) fai();
     }
     static_cast<void>(std::fflush(nullptr));
   }
