@@ -133,9 +133,10 @@ Rami Sostituisci(const RamoTesto& ramo, std::size_t da, std::size_t a, std::stri
   const bool uno = primo.Quale == ultimo.Quale;
   Rami nuovi =
       Sostituisci(ramoPrimo, da - primo.Inizio, uno ? a - primo.Inizio : ramoPrimo.Misura.Byte, messi);
-  if (!uno)
-    std::ranges::copy(Sostituisci(nodo.Rami[ultimo.Quale], 0, a - ultimo.Inizio, {}),
-                      std::back_inserter(nuovi));
+  if (!uno) {
+    const Rami ultimi = Sostituisci(nodo.Rami[ultimo.Quale], 0, a - ultimo.Inizio, {});
+    std::ranges::copy(ultimi, std::back_inserter(nuovi));
+  }
   Rami rami(nodo.Rami.begin(), nodo.Rami.begin() + static_cast<std::ptrdiff_t>(primo.Quale));
   for (const RamoTesto& nuovo : nuovi) Aggiungi(rami, nuovo);
   std::span<const RamoTesto> resto = std::span(nodo.Rami).subspan(ultimo.Quale + 1);

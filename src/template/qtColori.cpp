@@ -124,9 +124,8 @@ std::optional<TipoCodice> qtColori::CodiceAperto() const {
 /// Whether a code that is open at the end of this line is closed in a later one.
 bool qtColori::ChiusoPiuAvanti() const {
   const QTextBlock riga = currentBlock();
-  const auto fine = static_cast<std::size_t>(riga.position() + riga.length() - 1 + riga.blockNumber());
-  const TestoSezione& testo = specchio_.Testo();
-  return fine < testo.Dimensione() && testo.Seguente(Segno::Chiusura, fine).has_value();
+  const std::size_t fine = specchio_.InByte(riga.position() + riga.length() - 1);
+  return specchio_.Testo().Seguente(Segno::Chiusura, fine).has_value();
 }
 
 void qtColori::Colora(std::size_t inizio, std::size_t fine, TipoCodice tipo) {

@@ -126,9 +126,10 @@ void txtTCP::EstendiParola(QPoint punto) {
 
 void txtTCP::mouseReleaseEvent(QMouseEvent* evento) {
   const Gesto gesto = std::exchange(gesto_, {});
-  if (evento->button() == Qt::MiddleButton && Selezioni() != nullptr)
-    return comandi_.Deposita(PostoAlPunto(evento->pos()),
-                             DaAltrove(Selezioni()->text(QClipboard::Selection)));
+  if (evento->button() == Qt::MiddleButton && Selezioni() != nullptr) {
+    const QString testo = Selezioni()->text(QClipboard::Selection);
+    return comandi_.Deposita(PostoAlPunto(evento->pos()), DaAltrove(testo));
+  }
   QPlainTextEdit::mouseReleaseEvent(evento);
   if (gesto.Trattenuta) Poni(CursoreSu(*gesto.Trattenuta));
   if (gesto.Parola) OffriSelezione();
