@@ -12,7 +12,15 @@ failed=0
 
 base=$(mktemp -d)
 root=$base/radice
+# What still runs in the folder: killing what started it would leave it behind.
+end_all() {
+  local place
+  for place in /proc/[0-9]*; do
+    [ "$(readlink "$place/root")" != "$root" ] || kill "${place#/proc/}" 2>/dev/null || true
+  done
+}
 clean() {
+  end_all
   for place in proc dev/pts; do
     ! mountpoint -q "$root/$place" || umount -l "$root/$place"
   done
@@ -38,7 +46,7 @@ apt() {
 }
 # as_user COMMAND...: at the display, as a person who is not root.
 as_user() {
-  inside setpriv --reuid=prova --regid=prova --init-groups env HOME=/home/prova USER=prova DISPLAY=:77 \
+  inside setpriv --reuid=prova --regid=prova --init-groups env HOME=/home/prova USER=prova DISPLAY=":${display:-0}" \
     XDG_RUNTIME_DIR=/tmp/prova bash -c 'cd && "$@"' bash "$@"
 }
 # window TITLE: waits for a window with that title (a pattern).
@@ -94,9 +102,9 @@ expect "the batch program without a display" 22 \
   "$(as_user parvik32-batch --velkor /usr/share/doc/ordavia/examples/velkor tipi | wc -l)"
 expect "manual page" there "$([ -e "$root/usr/share/man/it/man1/parvik32.1.gz" ] && echo there)"
 
-inside Xvfb :77 -screen 0 1280x1024x24 -nolisten tcp >"$base/xvfb.log" 2>&1 &
-display=$!
-while [ ! -S "$root/tmp/.X11-unix/X77" ]; do sleep 0.1; kill -0 $display; done
+inside Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp >"$base/schermo" 2>"$base/xvfb.log" &
+while [ ! -s "$base/schermo" ]; do sleep 0.1; kill -0 $!; done
+display=$(cat "$base/schermo")
 as_user openbox >"$base/openbox.log" 2>&1 &
 
 as_user parvik32 --esempio velkor >"$base/editore.log" 2>&1 &
@@ -147,6 +155,5 @@ expect "purged" "" "$(inside dpkg-query -W -f '${Status}' ordavia 2>/dev/null ||
 files >"$base/dopo"
 expect "left behind" "" "$(comm -13 "$base/prima" "$base/dopo")"
 
-kill $display
 echo "$passed passed, $failed failed"
 [ $failed -eq 0 ]
