@@ -49,7 +49,7 @@ Tabella<Variabile> Rileggi(const Catalogo& catalogo, const Variabile&) {
   return catalogo.LeggiVariabili(catalogo.TipiDoc()[0], Sezione::Testata);
 }
 Tabella<Flag> Rileggi(const Catalogo& catalogo, const Flag&) {
-  return catalogo.LeggiFlag(catalogo.TipiDoc()[0], Sezione::Testata);
+  return catalogo.LeggiFlags(catalogo.TipiDoc()[0], Sezione::Testata);
 }
 
 template <class Voce>
@@ -109,7 +109,7 @@ void Prova(std::string_view contenuto) {
     if (tipo.Titolo.empty() && tipo.Indice == 0 && &tipo != catalogo->TipiDoc().data()) continue;
     for (const Sezione sezione : TutteLeSezioni) {
       ProvaTabella(catalogo->LeggiVariabili(tipo, sezione));
-      ProvaTabella(catalogo->LeggiFlag(tipo, sezione));
+      ProvaTabella(catalogo->LeggiFlags(tipo, sezione));
       Esigi(catalogo->CaricaVariabili(tipo, sezione).Voci.size() >= 2, "a table of variables is never empty");
       const auto flag = catalogo->CaricaFlag(tipo, sezione);
       Esigi(flag.Errore.has_value() || flag.Voci.size() >= 5, "a table of flags has the page conditions");

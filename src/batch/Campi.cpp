@@ -41,7 +41,7 @@ std::string Voci(const Catalogo& catalogo, const TipoDoc& tipo, Sezione sezione,
   const Tabella<Variabile> variabili = catalogo.LeggiVariabili(tipo, sezione);
   if (variabili.Errore) errori.push_back({sezione, *variabili.Errore, variabili.RigaErrore});
   if (AltraVersione(errori)) return {};
-  const Tabella<Flag> flag = catalogo.LeggiFlag(tipo, sezione);
+  const Tabella<Flag> flag = catalogo.LeggiFlags(tipo, sezione);
   if (flag.Errore) errori.push_back({sezione, *flag.Errore, flag.RigaErrore});
   return Righe(sezione, variabili) + Righe(sezione, flag);
 }

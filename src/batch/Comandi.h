@@ -14,8 +14,7 @@ namespace parvik::batch {
 /// A promise to scripts.
 enum class Uscita {
   Fatto = 0,
-  Riscontri = 1,  // done, but there is something to report
-  NonFatto = 2,   // something could not be done
+  NonFatto = 2,  // something could not be done
 };
 
 struct Opzioni {

@@ -248,7 +248,7 @@ Tabella<Variabile> Catalogo::LeggiVariabili(const TipoDoc& tipo, Sezione sezione
   return CaricaTabella<Variabile>(tipo.Voci[Indice(sezione)].Variabili, LeggiRigaVariabile);
 }
 
-Tabella<Flag> Catalogo::LeggiFlag(const TipoDoc& tipo, Sezione sezione) const {
+Tabella<Flag> Catalogo::LeggiFlags(const TipoDoc& tipo, Sezione sezione) const {
   return CaricaTabella<Flag>(tipo.Voci[Indice(sezione)].Flag, LeggiRigaFlag);
 }
 
@@ -260,7 +260,7 @@ Tabella<Variabile> Catalogo::CaricaVariabili(const TipoDoc& tipo, Sezione sezion
 }
 
 Tabella<Flag> Catalogo::CaricaFlag(const TipoDoc& tipo, Sezione sezione) const {
-  Tabella<Flag> tabella = LeggiFlag(tipo, sezione);
+  Tabella<Flag> tabella = LeggiFlags(tipo, sezione);
   if (tabella.Errore) return tabella;
   if (tabella.Voci.empty()) tabella.Voci.emplace_back();
   tabella.Voci.insert(tabella.Voci.end(), CondPagina().begin(), CondPagina().end());

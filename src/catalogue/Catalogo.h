@@ -55,7 +55,7 @@ class Catalogo {
   /// The variables of a section: empty for a section without entries.
   Tabella<Variabile> LeggiVariabili(const TipoDoc& tipo, Sezione sezione) const;
   /// The flags of a section, without the page conditions: empty for a section without entries.
-  Tabella<Flag> LeggiFlag(const TipoDoc& tipo, Sezione sezione) const;
+  Tabella<Flag> LeggiFlags(const TipoDoc& tipo, Sezione sezione) const;
 
   /// The table `Variabili`: the section's records, or one default record when it has none; then an empty
   /// slot.

@@ -32,7 +32,7 @@ constexpr std::array OpzioniDelToolkit = {"-platform"sv, "-style"sv,       "-ses
                                           "-display"sv,  "-geometry"sv,    "-qwindowgeometry"sv,
                                           "-title"sv,    "-qwindowtitle"sv};
 
-std::optional<int> Intero(std::string_view testo) {
+std::optional<int> NumeroIntero(std::string_view testo) {
   int numero = 0;
   const auto [resto, errore] = std::from_chars(testo.data(), testo.data() + testo.size(), numero);
   if (errore != std::errc() || resto != testo.data() + testo.size()) return std::nullopt;
@@ -98,7 +98,7 @@ class Lettore {
   }
 
   void MettiTipo(std::string_view valore) {
-    const std::optional<int> numero = Intero(valore);
+    const std::optional<int> numero = NumeroIntero(valore);
     if (!numero) sbaglio_ = "--tipo vuole un numero, non \"" + std::string(valore) + "\"";
     if (letti_.Tipo) sbaglio_ = "--tipo va indicato una volta sola";
     letti_.Tipo = numero;

@@ -26,7 +26,7 @@ std::vector<ErroreSezione> FlagPerStampe::Carica(const Catalogo& catalogo, const
   Svuota();
   for (const Sezione sezione : TutteLeSezioni) {
     if (static_cast<int>(sezione) >= tipo.NumSezioni) break;
-    const Tabella<Flag> tabella = catalogo.LeggiFlag(tipo, sezione);
+    const Tabella<Flag> tabella = catalogo.LeggiFlags(tipo, sezione);
     for (const Flag& flag : tabella.Voci) Aggiungi(flag);
     if (tabella.Errore) errori.push_back({sezione, *tabella.Errore, tabella.RigaErrore});
     if (tabella.Errore == NumeroErrore::ArgomentoNonValido) return errori;

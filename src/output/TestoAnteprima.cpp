@@ -45,14 +45,12 @@ void TestoAnteprima::IndicizzaRighe() {
   std::size_t inizio = 0;
   for (std::size_t fine = testo.find(FineRiga); fine != std::string_view::npos;
        fine = testo.find(FineRiga, inizio)) {
-    rigaPiuLunga_ = std::max(rigaPiuLunga_, fine - inizio);
     inizio = fine + FineRiga.size();
     const Tappa tappa{.Riga = numRighe_++, .Byte = inizio};
     if (tappa.Riga - tappe_.back().Riga >= RighePerTappa || inizio - tappe_.back().Byte >= BytePerTappa) {
       tappe_.push_back(tappa);
     }
   }
-  rigaPiuLunga_ = std::max(rigaPiuLunga_, testo.size() - inizio);
 }
 
 void TestoAnteprima::IndicizzaTratti() {
@@ -68,7 +66,7 @@ void TestoAnteprima::IndicizzaTratti() {
   }
 }
 
-TestoAnteprima::Posto TestoAnteprima::PostoDi(std::size_t riga) const {
+TestoAnteprima::EstremiRiga TestoAnteprima::Estremi(std::size_t riga) const {
   const auto dopo = std::ranges::upper_bound(tappe_, riga, {}, &Tappa::Riga);
   const Tappa& tappa = *std::prev(dopo);
   std::size_t inizio = tappa.Byte;
@@ -80,8 +78,8 @@ TestoAnteprima::Posto TestoAnteprima::PostoDi(std::size_t riga) const {
 }
 
 std::string_view TestoAnteprima::Riga(std::size_t riga) const {
-  const Posto posto = PostoDi(riga);
-  return Testo().substr(posto.Inizio, posto.Termine - posto.Inizio);
+  const EstremiRiga estremi = Estremi(riga);
+  return Testo().substr(estremi.Inizio, estremi.Termine - estremi.Inizio);
 }
 
 std::size_t TestoAnteprima::RigaDi(std::size_t byte) const {

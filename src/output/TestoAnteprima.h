@@ -35,12 +35,10 @@ class TestoAnteprima {
   const std::vector<Tratto>& Tratti() const { return anteprima_.Tratti; }
 
   std::size_t NumRighe() const { return numRighe_; }
-  /// Characters of the longest line.
-  std::size_t RigaPiuLunga() const { return rigaPiuLunga_; }
 
   /// The line's first byte, and the byte behind its last character (its CR, or the text's end).
-  std::size_t InizioRiga(std::size_t riga) const { return PostoDi(riga).Inizio; }
-  std::size_t TermineRiga(std::size_t riga) const { return PostoDi(riga).Termine; }
+  std::size_t InizioRiga(std::size_t riga) const { return Estremi(riga).Inizio; }
+  std::size_t TermineRiga(std::size_t riga) const { return Estremi(riga).Termine; }
   /// Without its line end. Valid as long as this text is neither changed nor moved.
   std::string_view Riga(std::size_t riga) const;
   /// The line that `byte` lies in; its CR and LF are part of a line. Past the end of the text: the last one.
@@ -64,21 +62,20 @@ class TestoAnteprima {
     std::size_t Byte = 0;
   };
 
-  struct Posto {  // a line, without its end
+  struct EstremiRiga {  // a line, without its end
     std::size_t Inizio = 0;
     std::size_t Termine = 0;
   };
 
   void IndicizzaRighe();
   void IndicizzaTratti();
-  Posto PostoDi(std::size_t riga) const;
+  EstremiRiga Estremi(std::size_t riga) const;
   std::size_t TrattoCheFinisceDopo(std::size_t byte) const;
 
   Anteprima anteprima_;
   std::vector<Tappa> tappe_;
   std::vector<PerAspetto<std::size_t>> conteggi_;  // in front of every so many runs
   std::size_t numRighe_ = 1;
-  std::size_t rigaPiuLunga_ = 0;
 };
 
 }  // namespace parvik

@@ -22,7 +22,7 @@ QString Annunciato(const TestoAnteprima& testo, std::size_t byte) {
   return PerSchermo(testo.Testo().substr(byte, MassimoAnnunciato));
 }
 
-int Intero(std::size_t valore) {
+int ComeInt(std::size_t valore) {
   return static_cast<int>(std::min<std::size_t>(valore, std::numeric_limits<int>::max()));
 }
 
@@ -37,7 +37,7 @@ void ricAccessibile::Registra() {
 void ricAccessibile::AnnunciaTesto(ricAnte& pannello, const TestoAnteprima& prima) {
   if (!QAccessible::isActive()) return;
   QAccessibleTextUpdateEvent evento(&pannello, 0, Annunciato(prima, 0), Annunciato(pannello.Contenuto(), 0));
-  evento.setCursorPosition(Intero(CarattereDi(pannello.Contenuto(), pannello.Cursore())));
+  evento.setCursorPosition(ComeInt(CarattereDi(pannello.Contenuto(), pannello.Cursore())));
   QAccessible::updateAccessibility(&evento);
 }
 
@@ -45,15 +45,15 @@ void ricAccessibile::AnnunciaAggiunta(ricAnte& pannello, std::size_t byte) {
   if (!QAccessible::isActive()) return;
   const TestoAnteprima& testo = pannello.Contenuto();
   const std::size_t da = Aggancia(testo, byte);
-  QAccessibleTextInsertEvent evento(&pannello, Intero(CarattereDi(testo, da)), Annunciato(testo, da));
-  evento.setCursorPosition(Intero(CarattereDi(testo, pannello.Cursore())));
+  QAccessibleTextInsertEvent evento(&pannello, ComeInt(CarattereDi(testo, da)), Annunciato(testo, da));
+  evento.setCursorPosition(ComeInt(CarattereDi(testo, pannello.Cursore())));
   QAccessible::updateAccessibility(&evento);
 }
 
 void ricAccessibile::AnnunciaCursore(ricAnte& pannello, const Selezione& prima) {
   if (!QAccessible::isActive()) return;
   const auto posizione = [&pannello](std::size_t byte) {
-    return Intero(CarattereDi(pannello.Contenuto(), byte));
+    return ComeInt(CarattereDi(pannello.Contenuto(), byte));
   };
   const Selezione scelto = pannello.Selezionato();
   if (scelto.Lunghezza > 0 || prima.Lunghezza > 0) {
@@ -79,7 +79,7 @@ std::size_t ricAccessibile::Byte(int posizione) const {
 }
 
 int ricAccessibile::Posizione(std::size_t byte) const {
-  return Intero(CarattereDi(Testo(), byte));
+  return ComeInt(CarattereDi(Testo(), byte));
 }
 
 void* ricAccessibile::interface_cast(QAccessible::InterfaceType tipo) {

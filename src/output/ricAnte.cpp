@@ -64,7 +64,7 @@ Selezione ricAnte::Selezionato() const {
   return {.Inizio = da, .Lunghezza = a - da};
 }
 
-ricAnte::Posto ricAnte::RigaColonna() const {
+ricAnte::Coordinate ricAnte::RigaColonna() const {
   const std::size_t inizio = Selezionato().Inizio;
   const std::size_t riga = testo_->RigaDi(inizio);
   return {.Riga = riga + 1, .Colonna = inizio - testo_->InizioRiga(riga) + 1};

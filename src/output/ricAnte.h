@@ -51,8 +51,9 @@ class ricAnte final : public QAbstractScrollArea {
   /// What is selected, in bytes of the text; the caret alone when nothing is.
   Selezione Selezionato() const;
 
-  /// The caret's place, and the other end of the selection.
+  /// The caret's place.
   std::size_t Cursore() const { return cursore_; }
+  /// The other end of the selection. Only tests ask for it.
   std::size_t Ancora() const { return ancora_; }
 
   /// Selects from `ancora` to `cursore`, where the caret is then, and shows the caret. Places that the caret
@@ -65,11 +66,11 @@ class ricAnte final : public QAbstractScrollArea {
   void Copia() const;
 
   /// Where the selection starts, both from 1. Lines are those of the text; nothing wraps.
-  struct Posto {
+  struct Coordinate {
     std::size_t Riga = 1;
     std::size_t Colonna = 1;
   };
-  Posto RigaColonna() const;
+  Coordinate RigaColonna() const;
 
   // In the viewport's coordinates.
 

@@ -48,17 +48,17 @@ std::size_t FineRigaDa(std::string_view byte, std::size_t inizio) {
 
 std::optional<Marcatore> TrovaMarcatore(std::string_view byte, std::size_t da) {
   if (da == 0) da = FineRigaDa(byte, 0);
-  const std::size_t posto = TrovaCoppia(byte, InizioMarcatore, da);
-  if (posto == NonTrovato) return std::nullopt;
-  const std::size_t dopoCr = byte.rfind('\r', posto) + 1;  // another line lies before this one
+  const std::size_t coppia = TrovaCoppia(byte, InizioMarcatore, da);
+  if (coppia == NonTrovato) return std::nullopt;
+  const std::size_t dopoCr = byte.rfind('\r', coppia) + 1;  // another line lies before this one
   const std::size_t inizio = dopoCr + (byte[dopoCr] == '\n' ? 1 : 0);
-  return Marcatore{.InizioRiga = inizio, .Posto = posto, .FineRiga = FineRigaDa(byte, inizio)};
+  return Marcatore{.InizioRiga = inizio, .Coppia = coppia, .FineRiga = FineRigaDa(byte, inizio)};
 }
 
 Esito<void> LeggiMarcatore(std::string_view byte, const Marcatore& marcatore, ImpostazioniCorpo& corpo) {
   const std::string_view riga =
       LettoreRighe(byte.substr(0, marcatore.FineRiga).substr(marcatore.InizioRiga)).Prossima().value_or("");
-  const std::size_t inizio = marcatore.Posto - marcatore.InizioRiga;
+  const std::size_t inizio = marcatore.Coppia - marcatore.InizioRiga;
   const Esito<std::int16_t> righe = InteroLeniente(Da(riga, inizio + InizioMarcatore.size()));
   if (!righe) return righe.Errore();
   corpo.RigheCorpo = *righe;

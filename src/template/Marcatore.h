@@ -25,7 +25,7 @@ struct ImpostazioniCorpo {
 /// Where the marker's line is: places in the file's bytes.
 struct Marcatore {
   std::size_t InizioRiga = 0;
-  std::size_t Posto = 0;     // of the two bytes that it is known by
+  std::size_t Coppia = 0;    // of the two bytes that it is known by
   std::size_t FineRiga = 0;  // behind its line end
 };
 

@@ -33,6 +33,7 @@ class qtColori final : public QSyntaxHighlighter {
   /// others.
   void ImpostaTavolozza(const QPalette& tavolozza);
 
+  /// Of a kind of code. Only tests ask for it.
   QColor Colore(TipoCodice tipo) const;
 
   /// The background that marks the code under the caret: every kind's colour can be read on it.

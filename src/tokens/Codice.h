@@ -3,7 +3,6 @@
 // two delimiters.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -32,15 +31,6 @@ constexpr TipoCodice Riconosci(std::string_view contenuto) {
       return TipoCodice::Sconosciuto;
   }
 }
-
-/// A code in a text: from its opening delimiter (0-based byte) over `Lunghezza` bytes, both delimiters
-/// included.
-struct PosizioneCodice {
-  std::size_t Inizio = 0;
-  std::size_t Lunghezza = 0;
-
-  bool operator==(const PosizioneCodice&) const = default;
-};
 
 /// The content of a code with its delimiters; `codice` must have both.
 std::string_view ContenutoDi(std::string_view codice);

@@ -48,7 +48,7 @@ inline Tabella<Variabile> VariabiliTestata(const Catalogo& catalogo) {
   return catalogo.LeggiVariabili(catalogo.TipiDoc()[0], Sezione::Testata);
 }
 inline Tabella<Flag> FlagTestata(const Catalogo& catalogo) {
-  return catalogo.LeggiFlag(catalogo.TipiDoc()[0], Sezione::Testata);
+  return catalogo.LeggiFlags(catalogo.TipiDoc()[0], Sezione::Testata);
 }
 
 }  // namespace parvik::prova

@@ -46,7 +46,7 @@ TEST(CatalogoEsempio, Offers526VariablesAnd107FlagsThroughTheRangesOfItsTypes) {
     for (const Sezione sezione : TutteLeSezioni) {
       const VociSezione& voci = tipo.Voci[Indice(sezione)];
       const Tabella<Variabile> leVariabili = catalogo.LeggiVariabili(tipo, sezione);
-      const Tabella<Flag> iFlag = catalogo.LeggiFlag(tipo, sezione);
+      const Tabella<Flag> iFlag = catalogo.LeggiFlags(tipo, sezione);
       EXPECT_EQ(std::nullopt, leVariabili.Errore) << tipo.Descrizione;
       EXPECT_EQ(std::nullopt, iFlag.Errore) << tipo.Descrizione;
       if (gia.emplace(voci.Variabili.Da, voci.Variabili.A).second) variabili += leVariabili.Voci.size();

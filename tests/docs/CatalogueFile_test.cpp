@@ -65,7 +65,7 @@ TEST(CatalogueFilePage, TellsWhatRangesGive) {
                                               : Sezione::Testata;
     EXPECT_EQ(Numeri(catalogo->LeggiVariabili(tipo, sezione), &Variabile::Intero1), riga.Testo(2))
         << riga.Posto();
-    EXPECT_EQ(Numeri(catalogo->LeggiFlag(tipo, sezione), &Flag::Codice), riga.Testo(3)) << riga.Posto();
+    EXPECT_EQ(Numeri(catalogo->LeggiFlags(tipo, sezione), &Flag::Codice), riga.Testo(3)) << riga.Posto();
   }
 }
 
@@ -104,7 +104,7 @@ TEST(CatalogueFilePage, TellsWhatFlagLinesSay) {
   for (const RigaEsempio& riga : TabellaEsempi(Pagina, "flags", 5)) {
     const auto catalogo = ConRiga(riga.Byte(0), "0002,\"Altro;99;N");
     ASSERT_TRUE(catalogo);
-    const auto tabella = catalogo->LeggiFlag(catalogo->TipiDoc()[0], Sezione::Testata);
+    const auto tabella = catalogo->LeggiFlags(catalogo->TipiDoc()[0], Sezione::Testata);
     if (tabella.Errore) {
       EXPECT_EQ(Scritto(*tabella.Errore), riga.Testo(1)) << riga.Posto();
       continue;

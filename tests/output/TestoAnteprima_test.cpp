@@ -53,12 +53,6 @@ TEST(TestoAnteprima, TheLineEndBelongsToTheLineThatItEnds) {
   EXPECT_EQ(testo.RigaDi(100), 1U);
 }
 
-TEST(TestoAnteprima, TheLongestLineIsTheOneWithMostCharacters) {
-  EXPECT_EQ(TestoAnteprima({.Testo = "a\r\nbcd\r\nef", .Tratti = {}}).RigaPiuLunga(), 3U);
-  EXPECT_EQ(TestoAnteprima({.Testo = "a\r\nbcde", .Tratti = {}}).RigaPiuLunga(), 4U);
-  EXPECT_EQ(TestoAnteprima().RigaPiuLunga(), 0U);
-}
-
 TEST(TestoAnteprima, FindsLinesBehindAndBetweenLongOnes) {
   const std::string lunga(1'000'000, 'x');
   const TestoAnteprima testo({.Testo = "a\r\n" + lunga + "\r\nb\r\n" + lunga + "\r\n", .Tratti = {}});

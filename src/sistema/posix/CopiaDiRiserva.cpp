@@ -49,14 +49,14 @@ EsitoSistema<fs::path> CartellaPropria() {
 }
 
 /// The name stands for one file of the system, whichever way leads to it.
-EsitoSistema<FileProvvisorio::Posto> PostoTemporaneo(const fs::path& originale) {
+EsitoSistema<PostoProvvisorio> PostoTemporaneo(const fs::path& originale) {
   const EsitoSistema<struct stat> stato = Stato(originale);
   if (!stato) return stato.Errore();
   const EsitoSistema<fs::path> cartella = CartellaPropria();
   if (!cartella) return cartella.Errore();
   const std::string numeri = std::to_string(stato->st_dev) + "-" + std::to_string(stato->st_ino) + "-";
-  return FileProvvisorio::Posto{.File = originale,
-                                .Nome = *cartella / NomeDerivato(numeri, originale.filename().string(), "")};
+  return PostoProvvisorio{.File = originale,
+                          .Nome = *cartella / NomeDerivato(numeri, originale.filename().string(), "")};
 }
 
 }  // namespace
@@ -76,7 +76,7 @@ EsitoSistema<void> CopiaDiRiserva::Scrivi(std::string_view contenuto) {
   return file_->AffrontaRivali();
 }
 
-EsitoSistema<CopiaDiRiserva> CopiaDiRiserva::CreaIn(Posto posto, std::string_view contenuto) {
+EsitoSistema<CopiaDiRiserva> CopiaDiRiserva::CreaIn(PostoProvvisorio posto, std::string_view contenuto) {
   CopiaDiRiserva copia(std::move(posto));
   const EsitoSistema<void> passo = SeBastaMemoria([&] { return copia.Scrivi(contenuto); }, ENOMEM);
   if (passo) return copia;
@@ -95,7 +95,7 @@ EsitoSistema<CopiaDiRiserva> CopiaDiRiserva::CreaAltrove(const fs::path& origina
                                                          std::string_view contenuto) {
   constexpr int MaxTentativi = 10;
   for (int i = 0; i < MaxTentativi; ++i) {
-    const EsitoSistema<Posto> posto = PostoTemporaneo(originale);
+    const EsitoSistema<PostoProvvisorio> posto = PostoTemporaneo(originale);
     if (!posto && posto.Errore() != ENOENT) return posto.Errore();
     if (!posto) continue;
     EsitoSistema<CopiaDiRiserva> altrove = CreaIn(*posto, contenuto);

@@ -29,14 +29,13 @@ class CopiaDiRiserva {
   void Togli();
 
  private:
-  using Posto = FileProvvisorio::Posto;
-  explicit CopiaDiRiserva(Posto posto) : posto_(std::move(posto)) {}
-  static EsitoSistema<CopiaDiRiserva> CreaIn(Posto posto, std::string_view contenuto);
+  explicit CopiaDiRiserva(PostoProvvisorio posto) : posto_(std::move(posto)) {}
+  static EsitoSistema<CopiaDiRiserva> CreaIn(PostoProvvisorio posto, std::string_view contenuto);
   static EsitoSistema<CopiaDiRiserva> CreaAltrove(const std::filesystem::path& originale,
                                                   std::string_view contenuto);
   EsitoSistema<void> Scrivi(std::string_view contenuto);
 
-  Posto posto_;
+  PostoProvvisorio posto_;
   std::unique_ptr<FileProvvisorio> file_;  // keeps the copy locked: nobody takes it for an abandoned one
 };
 

@@ -11,7 +11,7 @@ namespace parvik {
 
 namespace fs = std::filesystem;
 
-FileProvvisorio::FileProvvisorio(Posto posto, const Scrivente& chi)
+FileProvvisorio::FileProvvisorio(PostoProvvisorio posto, const Scrivente& chi)
     : posto_(std::move(posto)),
       chi_(chi),
       nome_(NomeProvvisorio(posto_.Nome, chi_, Provvisorio::Nuovo)),
@@ -38,7 +38,8 @@ EsitoSistema<void> FileProvvisorio::Apri(mode_t modo) {
   return {};
 }
 
-EsitoSistema<std::unique_ptr<FileProvvisorio>> FileProvvisorio::Crea(const Posto& posto, mode_t modo) {
+EsitoSistema<std::unique_ptr<FileProvvisorio>> FileProvvisorio::Crea(const PostoProvvisorio& posto,
+                                                                     mode_t modo) {
   constexpr int MaxTentativi = 10;
   for (int i = 0; i < MaxTentativi; ++i) {
     std::unique_ptr<FileProvvisorio> file(new FileProvvisorio(posto, Scrivente::Questo()));

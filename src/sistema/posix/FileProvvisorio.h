@@ -16,10 +16,8 @@ namespace parvik {
 /// then goes away with the object.
 class FileProvvisorio {
  public:
-  using Posto = PostoProvvisorio;
-
   /// Clears away what killed programs left. EBUSY when somebody else is at work on the file.
-  static EsitoSistema<std::unique_ptr<FileProvvisorio>> Crea(const Posto& posto, mode_t modo);
+  static EsitoSistema<std::unique_ptr<FileProvvisorio>> Crea(const PostoProvvisorio& posto, mode_t modo);
 
   FileProvvisorio(const FileProvvisorio&) = delete;
   FileProvvisorio& operator=(const FileProvvisorio&) = delete;
@@ -41,10 +39,10 @@ class FileProvvisorio {
   EsitoSistema<void> AffrontaRivali();
 
  private:
-  FileProvvisorio(Posto posto, const Scrivente& chi);
+  FileProvvisorio(PostoProvvisorio posto, const Scrivente& chi);
   EsitoSistema<void> Apri(mode_t modo);
 
-  Posto posto_;
+  PostoProvvisorio posto_;
   Scrivente chi_;
   std::filesystem::path nome_;
   NomeInCorso inCorso_;  // from before the file is made: a signal finds it at any moment

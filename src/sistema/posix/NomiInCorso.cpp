@@ -15,7 +15,7 @@ namespace parvik {
 namespace {
 
 /// A name in memory that never goes away, so that a signal handler finds it whole at any moment.
-struct Posto {
+struct Casella {
   bool Preso = false;
   std::atomic<bool> Pronto = false;  // the name below is whole
   std::array<char, PATH_MAX> Nome = {};
@@ -24,40 +24,40 @@ struct Posto {
 /// The program's one piece of state without an owner: a signal, which has none either, must find it. As
 /// many as are ever at work at once, and some; who finds no place goes without.
 constexpr std::size_t MaxNomi = 8;
-std::array<Posto, MaxNomi> posti;
-std::mutex posti_mutex;  // between threads; a handler reads only what is Pronto
+std::array<Casella, MaxNomi> caselle;
+std::mutex caselle_mutex;  // between threads; a handler reads only what is Pronto
 
 }  // namespace
 
 NomeInCorso::NomeInCorso(const std::filesystem::path& file) {
   PrimaDiFinire(TogliNomiInCorso);
-  const std::lock_guard solo(posti_mutex);
+  const std::lock_guard solo(caselle_mutex);
   const std::string& nome = file.native();
-  const auto libero = std::ranges::find(posti, false, &Posto::Preso);
-  if (libero == posti.end() || nome.size() >= libero->Nome.size()) return;
+  const auto libero = std::ranges::find(caselle, false, &Casella::Preso);
+  if (libero == caselle.end() || nome.size() >= libero->Nome.size()) return;
   libero->Preso = true;
   *std::ranges::copy(nome, libero->Nome.begin()).out = '\0';
   libero->Pronto = true;
-  posto_ = static_cast<std::size_t>(libero - posti.begin());
+  casella_ = static_cast<std::size_t>(libero - caselle.begin());
 }
 
 NomeInCorso::~NomeInCorso() {
-  if (posto_ == Nessuno) return;
-  const std::lock_guard solo(posti_mutex);
-  posti[posto_].Pronto = false;
-  posti[posto_].Preso = false;
+  if (casella_ == Nessuno) return;
+  const std::lock_guard solo(caselle_mutex);
+  caselle[casella_].Pronto = false;
+  caselle[casella_].Preso = false;
 }
 
 bool InCorso(std::string_view parte) {
-  const std::lock_guard solo(posti_mutex);
-  return std::ranges::any_of(posti, [parte](const Posto& posto) {
-    return posto.Pronto && std::string_view(posto.Nome.data()).find(parte) != std::string_view::npos;
+  const std::lock_guard solo(caselle_mutex);
+  return std::ranges::any_of(caselle, [parte](const Casella& casella) {
+    return casella.Pronto && std::string_view(casella.Nome.data()).find(parte) != std::string_view::npos;
   });
 }
 
 void TogliNomiInCorso() {
-  for (const Posto& posto : posti) {
-    if (posto.Pronto) ::unlink(posto.Nome.data());
+  for (const Casella& casella : caselle) {
+    if (casella.Pronto) ::unlink(casella.Nome.data());
   }
 }
 

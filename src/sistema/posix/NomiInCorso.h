@@ -16,7 +16,7 @@ class NomeInCorso {
 
  private:
   static constexpr std::size_t Nessuno = static_cast<std::size_t>(-1);
-  std::size_t posto_ = Nessuno;
+  std::size_t casella_ = Nessuno;
 };
 
 /// Whether one of them has this in its name.

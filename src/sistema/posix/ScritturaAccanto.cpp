@@ -26,29 +26,29 @@ EsitoSistema<ScritturaAccanto::Aspetto> ScritturaAccanto::Guarda(const fs::path&
   return stato.Errore();
 }
 
-EsitoSistema<std::unique_ptr<ScritturaAccanto>> ScritturaAccanto::Apri(Posto posto) {
-  const EsitoSistema<Aspetto> prima = Guarda(posto.Destinazione);
+EsitoSistema<std::unique_ptr<ScritturaAccanto>> ScritturaAccanto::Apri(Meta meta) {
+  const EsitoSistema<Aspetto> prima = Guarda(meta.Destinazione);
   if (!prima) return prima.Errore();
-  std::unique_ptr<ScritturaAccanto> strada(new ScritturaAccanto(std::move(posto), *prima));
+  std::unique_ptr<ScritturaAccanto> strada(new ScritturaAccanto(std::move(meta), *prima));
   if (const auto passo = strada->Crea(); !passo) return passo.Errore();
   return strada;
 }
 
 EsitoSistema<void> ScritturaAccanto::Crea() {
   Aspetto originale;
-  if (posto_.Originale == posto_.Destinazione) {
+  if (meta_.Originale == meta_.Destinazione) {
     originale = prima_;
-  } else if (!posto_.Originale.empty()) {
-    const EsitoSistema<struct stat> stato = Stato(posto_.Originale);
+  } else if (!meta_.Originale.empty()) {
+    const EsitoSistema<struct stat> stato = Stato(meta_.Originale);
     if (!stato) return stato.Errore();
     originale = *stato;
   }
-  const fs::path& nome = posto_.Destinazione;
+  const fs::path& nome = meta_.Destinazione;
   auto file =
       FileProvvisorio::Crea({.File = nome, .Nome = nome}, originale ? ModoIniziale(*originale) : ModoNuovo);
   if (!file) return file.Errore();
   file_ = std::move(*file);
-  if (originale) diritti_ = CopiaAttributi(file_->File(), posto_.Originale, *originale);
+  if (originale) diritti_ = CopiaAttributi(file_->File(), meta_.Originale, *originale);
   return {};
 }
 
@@ -59,11 +59,11 @@ EsitoPasso ScritturaAccanto::Scrivi(std::string_view byte) {
 /// Somebody may have begun when this writer's file could not be seen yet, and be done already.
 EsitoSistema<void> ScritturaAccanto::Sostituisci() {
   if (const auto passo = file_->Chiudi(); !passo) return passo;
-  const EsitoSistema<Aspetto> adesso = Guarda(posto_.Destinazione);
+  const EsitoSistema<Aspetto> adesso = Guarda(meta_.Destinazione);
   if (!adesso) return adesso.Errore();
   if (prima_.has_value() != adesso->has_value()) return EBUSY;
   if (prima_ && !Immutato(*prima_, **adesso)) return EBUSY;
-  return file_->Rinomina(posto_.Destinazione);
+  return file_->Rinomina(meta_.Destinazione);
 }
 
 EsitoScrittura ScritturaAccanto::Conferma() {

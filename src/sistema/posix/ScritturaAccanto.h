@@ -14,14 +14,14 @@ namespace parvik {
 
 class ScritturaAccanto final : public ScritturaSicura::Strada {
  public:
-  struct Posto {
+  struct Meta {
     std::filesystem::path Destinazione;  // whatever stands there is replaced: no links are followed
     /// Whose owner, rights and extended attributes the file gets. Empty: those of any new file.
     std::filesystem::path Originale = {};
   };
 
   /// Makes the provisional file. EBUSY when somebody else is at work on the destination.
-  static EsitoSistema<std::unique_ptr<ScritturaAccanto>> Apri(Posto posto);
+  static EsitoSistema<std::unique_ptr<ScritturaAccanto>> Apri(Meta meta);
 
   EsitoPasso Scrivi(std::string_view byte) override;
   /// EBUSY when somebody else replaced or changed the destination since Apri.
@@ -30,11 +30,11 @@ class ScritturaAccanto final : public ScritturaSicura::Strada {
  private:
   using Aspetto = std::optional<struct stat>;  // of the destination; nullopt: nothing stands there
   static EsitoSistema<Aspetto> Guarda(const std::filesystem::path& destinazione);
-  ScritturaAccanto(Posto posto, const Aspetto& prima) : posto_(std::move(posto)), prima_(prima) {}
+  ScritturaAccanto(Meta meta, const Aspetto& prima) : meta_(std::move(meta)), prima_(prima) {}
   EsitoSistema<void> Crea();
   EsitoSistema<void> Sostituisci();
 
-  Posto posto_;
+  Meta meta_;
   Aspetto prima_;
   std::unique_ptr<FileProvvisorio> file_;
   Diritti diritti_ = Diritti::Conservati;
