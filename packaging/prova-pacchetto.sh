@@ -102,7 +102,7 @@ expect "the batch program without a display" 22 \
   "$(as_user parvik32-batch --velkor /usr/share/doc/ordavia/examples/velkor tipi | wc -l)"
 expect "manual page" there "$([ -e "$root/usr/share/man/it/man1/parvik32.1.gz" ] && echo there)"
 
-inside Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp >"$base/schermo" 2>"$base/xvfb.log" &
+inside Xvfb -displayfd 1 -noreset -screen 0 1280x1024x24 -nolisten tcp >"$base/schermo" 2>"$base/xvfb.log" &
 while [ ! -s "$base/schermo" ]; do sleep 0.1; kill -0 $!; done
 display=$(cat "$base/schermo")
 as_user openbox >"$base/openbox.log" 2>&1 &
