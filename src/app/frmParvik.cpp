@@ -59,7 +59,6 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
   new qtTastiRipetuti(this);
   CreaControlli();
   CreaMenu();
-  CollegaMenu();
   CreaPassi();
   resize(EntroLoSchermo(*this, DimensioneIniziale));
   Aggiorna();
@@ -129,7 +128,7 @@ void frmParvik::Aggiorna() {
   // "[*]" is the toolkit's own mark for modified windows; doubled, it stands for itself.
   setWindowTitle(DaUtf8(editore_.Titolo()).replace("[*]", "[*][*]"));
   if (!editore_.TipoScelto()) setFocus();  // keys have nowhere else to go
-  AggiornaMenu();
+  menu_->Aggiorna(editore_.PerMenu());
   ResizeControls();
   MostraFlagStampe();
   MostraTotali();

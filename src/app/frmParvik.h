@@ -1,16 +1,15 @@
 // The main editor window: the controls, and the wiring between them and the editor's commands.
 #pragma once
 
-#include <QHash>
 #include <QMainWindow>
 #include <array>
 #include <filesystem>
 #include <memory>
 #include <string>
-#include <string_view>
 
 #include "app/lblTCP.h"
 #include "app/qtMaschere.h"
+#include "app/qtMenu.h"
 #include "editor/Disposizione.h"
 #include "editor/Editore.h"
 #include "output/frmSettaFlag.h"
@@ -60,12 +59,11 @@ class frmParvik final : public QMainWindow, private Vista {
   void CreaSezione(Sezione sezione);
   void CollegaSezione(Sezione sezione);
   void CreaMenu();
-  void CollegaMenu();
+  void Esegui(Comando comando);
   void CreaPassi();
   void CollegaPasso(QKeySequence::StandardKey tasti, const char* nome, void (frmParvik::*comando)());
   void Annulla();
   void Ripeti();
-  void AggiornaMenu();
   Finestra Misure() const;
   void ResizeControls();
   void SpostaDivisore(int x);
@@ -88,7 +86,7 @@ class frmParvik final : public QMainWindow, private Vista {
   std::optional<int> divisore_;  // in twips; where the user has dragged the boundary since the last resize
   bool inAttesa_ = false;        // a command waits for its work: the window stays
   bool etichetteMisurate_ = false;
-  QHash<QString, QAction*> azioni_;
+  qtMenu* menu_ = nullptr;
   std::unique_ptr<frmTotRighe> totali_;  // made anew each time it is shown
   frmSettaFlag* settaFlag_ = nullptr;    // made when it is first shown
   std::filesystem::path dirProgramma_;   // where the print module is looked for from

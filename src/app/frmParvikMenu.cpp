@@ -1,10 +1,7 @@
-// The main window's menus: built from the table, wired to the commands, and asked again after each change.
+// The main window's commands: what each entry of the menus calls, and undo and redo.
 #include <QMenuBar>
-#include <algorithm>
-#include <string_view>
 
 #include "app/frmParvik.h"
-#include "editor/Menu.h"
 
 namespace parvik {
 namespace {
@@ -17,54 +14,56 @@ QList<QKeySequence> TastiSempreValidi(QKeySequence::StandardKey tasti) {
 
 }  // namespace
 
+/// What cannot be used does nothing, however it was called.
 void frmParvik::CreaMenu() {
-  QMenu* menu = nullptr;
-  for (const VoceMenu& voce : VociMenu()) {
-    QAction* azione = nullptr;
-    if (voce.Genere == GenereVoce::Menu) {
-      menu = menuBar()->addMenu(voce.Didascalia);
-      menu->setObjectName(voce.Nome);
-      azione = menu->menuAction();
-    } else if (voce.Genere == GenereVoce::Separatore) {
-      azione = menu->addSeparator();
-    } else {
-      azione = menu->addAction(voce.Didascalia);
-      azione->setShortcut(QKeySequence(voce.Scorciatoia, QKeySequence::PortableText));
-      azione->setCheckable(voce.ConSpunta);
-      azione->setAutoRepeat(false);          // a held key opens no dialog
-      azione->setMenuRole(QAction::NoRole);  // the tree stays as it is on every system
-    }
-    azione->setObjectName(voce.Nome);
-    azioni_.insert(voce.Nome, azione);
-  }
+  menu_ = new qtMenu(*menuBar(), this);
+  connect(menu_, &qtMenu::Scelto, this, [this](Comando comando) {
+    if (Abilitato(comando, editore_.PerMenu())) Esegui(comando);
+  });
 }
 
-/// What cannot be used does nothing, however it was called.
-void frmParvik::CollegaMenu() {
-  const auto collega = [this](const char* nome, auto comando) {
-    const auto voce = std::ranges::find(VociMenu(), std::string_view(nome), &VoceMenu::Nome);
-    connect(azioni_.value(nome), &QAction::triggered, this, [this, voce, comando] {
-      if (Abilitata(*voce, editore_.PerMenu())) comando();
-    });
-  };
-  collega("mnuScelta", [this] { ScegliTipo(0); });
-  collega("mnuNuovo", [this] { editore_.Nuovo(); });
-  collega("mnuApri", [this] { editore_.Apri(); });
-  collega("mnuSalva", [this] { editore_.Salva(); });
-  collega("mnuSalvaNome", [this] { editore_.SalvaConNome(); });
-  collega("mnuStampa", [this] { editore_.Stampa(); });
-  collega("mnuInfo", [this] { MostraInformazioni(); });
-  collega("mnuEsci", [this] { close(); });
-  collega("mnuAnte", [this] { editore_.CommutaAnteprima(); });
-  collega("mnuVar", [this] { maschere_.ApriForm(TipoCodice::Variabile); });
-  collega("mnuFlag", [this] { maschere_.ApriForm(TipoCodice::Flag); });
-  collega("mnuStile", [this] { maschere_.ApriForm(TipoCodice::Stile); });
-  collega("mnuLingua", [this] { maschere_.ApriForm(TipoCodice::Lingua); });
-  collega("mnuPagina", [this] { maschere_.ApriForm(TipoCodice::Pagina); });
-  collega("mnuCostante", [this] { maschere_.ApriForm(TipoCodice::Costante); });
-  collega("mnuComando", [this] { maschere_.ApriComando(); });
-  collega("mnuRighe", [this] { editore_.CommutaRighe(); });
-  collega("mnuSettaFlag", [this] { editore_.CommutaSettaFlag(); });
+/// Without a default: a command that is not here does not compile.
+void frmParvik::Esegui(Comando comando) {
+  switch (comando) {
+    case Comando::TipoStampa:
+      ScegliTipo(0);
+      break;
+    case Comando::Nuovo:
+      return editore_.Nuovo();
+    case Comando::Apri:
+      return editore_.Apri();
+    case Comando::Salva:
+      return editore_.Salva();
+    case Comando::SalvaConNome:
+      return editore_.SalvaConNome();
+    case Comando::Stampa:
+      return editore_.Stampa();
+    case Comando::Informazioni:
+      return MostraInformazioni();
+    case Comando::Esci:
+      close();
+      break;
+    case Comando::Anteprima:
+      return editore_.CommutaAnteprima();
+    case Comando::Variabile:
+      return maschere_.ApriForm(TipoCodice::Variabile);
+    case Comando::Flag:
+      return maschere_.ApriForm(TipoCodice::Flag);
+    case Comando::Stile:
+      return maschere_.ApriForm(TipoCodice::Stile);
+    case Comando::Lingua:
+      return maschere_.ApriForm(TipoCodice::Lingua);
+    case Comando::Pagina:
+      return maschere_.ApriForm(TipoCodice::Pagina);
+    case Comando::Costante:
+      return maschere_.ApriForm(TipoCodice::Costante);
+    case Comando::ComandoCorpo:
+      return maschere_.ApriComando();
+    case Comando::TotaliRighe:
+      return editore_.CommutaRighe();
+    case Comando::SettaFlag:
+      return editore_.CommutaSettaFlag();
+  }
 }
 
 /// Undo and redo, over all sections.
@@ -95,14 +94,6 @@ void frmParvik::Ripeti() {
   if (!editore_.TipoScelto()) return;
   for (txtTCP* sezione : sezioni_) sezione->FinisciComposizione();
   editore_.Ripeti();
-}
-
-void frmParvik::AggiornaMenu() {
-  for (const VoceMenu& voce : VociMenu())
-    azioni_.value(voce.Nome)->setEnabled(Abilitata(voce, editore_.PerMenu()));
-  azioni_.value("mnuAnte")->setChecked(editore_.AnteSpuntata());
-  azioni_.value("mnuRighe")->setChecked(editore_.Totali().has_value());
-  azioni_.value("mnuSettaFlag")->setChecked(editore_.SettaFlagSpuntata());
 }
 
 }  // namespace parvik

@@ -77,7 +77,13 @@ class Editore final : private Contorno {
   /// The check mark of the preview; it stays as it was when the document type is given up.
   bool AnteSpuntata() const { return anteSpuntata_; }
   bool AnteVisibile() const { return TipoScelto() && anteSpuntata_; }
-  StatoMenu PerMenu() const { return {.TipoScelto = TipoScelto(), .TreSezioni = TreSezioni()}; }
+  StatoMenu PerMenu() const {
+    return {.TipoScelto = TipoScelto(),
+            .TreSezioni = TreSezioni(),
+            .Anteprima = anteSpuntata_,
+            .TotaliRighe = totali_.has_value(),
+            .SettaFlag = settaFlagSpuntata_};
+  }
   const Catalogo& Campi() const { return catalogo_; }
   const Installazione& Dove() const { return installazione_; }
   const Documento& Modello() const { return documento_; }

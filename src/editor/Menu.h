@@ -1,6 +1,7 @@
 // The menus as a table, and the one rule of what can be used when (docs/menus.md).
 #pragma once
 
+#include <optional>
 #include <span>
 
 namespace parvik {
@@ -15,11 +16,34 @@ enum class Uso {
   TreSezioni,  // only while one with three sections is chosen
 };
 
+/// What an entry does, in the order of the screen.
+enum class Comando {
+  TipoStampa,
+  Nuovo,
+  Apri,
+  Salva,
+  SalvaConNome,
+  Stampa,
+  Informazioni,
+  Esci,
+  Anteprima,
+  Variabile,
+  Flag,
+  Stile,
+  Lingua,
+  Pagina,
+  Costante,
+  ComandoCorpo,
+  TotaliRighe,
+  SettaFlag,
+};
+
 struct VoceMenu {
-  const char* Nome;         // its objectName
-  GenereVoce Genere;        // a Menu opens a top menu; what follows it belongs to it
-  const char* Didascalia;   // UTF-8, with its access key
-  const char* Scorciatoia;  // portable key names, "" for none
+  const char* Nome;             // its objectName
+  GenereVoce Genere;            // a Menu opens a top menu; what follows it belongs to it
+  std::optional<Comando> Cosa;  // of an entry, and of nothing else
+  const char* Didascalia;       // UTF-8, with its access key
+  const char* Scorciatoia;      // portable key names, "" for none
   Uso Quando;
   bool ConSpunta;  // shows a check mark
 };
@@ -27,12 +51,19 @@ struct VoceMenu {
 /// In the order of the screen.
 std::span<const VoceMenu> VociMenu();
 
-/// What the rule looks at.
+/// What the rule looks at, and what is shown.
 struct StatoMenu {
   bool TipoScelto = false;
   bool TreSezioni = false;
+  bool Anteprima = false;
+  bool TotaliRighe = false;
+  bool SettaFlag = false;
 };
 
 bool Abilitata(const VoceMenu& voce, const StatoMenu& stato);
+bool Abilitato(Comando comando, const StatoMenu& stato);
+
+/// Whether the command's check mark is there; false of those that have none.
+bool Spuntato(Comando comando, const StatoMenu& stato);
 
 }  // namespace parvik

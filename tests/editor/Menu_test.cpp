@@ -96,5 +96,31 @@ TEST(Abilitata, TakesAwayTheBodyCommandTooWithATypeOfOneSection) {
   EXPECT_EQ((Nomi{"mnuScelta", "mnuComando"}), Disabilitate({.TipoScelto = true, .TreSezioni = false}));
 }
 
+TEST(Abilitato, IsACommandWhoseEntryCanBeUsed) {
+  for (const StatoMenu& stato :
+       {StatoMenu{}, StatoMenu{.TipoScelto = true}, StatoMenu{.TipoScelto = true, .TreSezioni = true}}) {
+    for (const VoceMenu& voce : VociMenu()) {
+      if (voce.Genere != GenereVoce::Voce) continue;
+      EXPECT_EQ(Abilitato(voce.Cosa.value(), stato), Abilitata(voce, stato)) << voce.Nome;
+    }
+  }
+}
+
+/// The names of the entries whose check mark is there.
+Nomi Spuntate(const StatoMenu& stato) {
+  Nomi nomi;
+  for (const VoceMenu& voce : VociMenu()) {
+    if (voce.Cosa && Spuntato(*voce.Cosa, stato)) nomi.insert(voce.Nome);
+  }
+  return nomi;
+}
+
+TEST(Spuntato, IsWhatIsShown) {
+  EXPECT_EQ(Nomi{}, Spuntate({.TipoScelto = true, .TreSezioni = true}));
+  EXPECT_EQ(Nomi{"mnuAnte"}, Spuntate({.Anteprima = true}));
+  EXPECT_EQ(Nomi{"mnuRighe"}, Spuntate({.TotaliRighe = true}));
+  EXPECT_EQ(Nomi{"mnuSettaFlag"}, Spuntate({.SettaFlag = true}));
+}
+
 }  // namespace
 }  // namespace parvik::prova
