@@ -6,16 +6,13 @@
 #include "common/Delimitatori.h"
 #include "common/Precondizione.h"
 #include "common/Windows1252.h"
-#include "start/Avvio.h"
 #include "template/RigheSezione.h"
 #include "template/TastiSezione.h"
-#include "tokens/DescriviCodice.h"
 
 namespace parvik {
 namespace {
 
 constexpr const char* TitoloSenzaTipo = "Ordavia";
-constexpr int UscitaPerErrore = 1;
 
 // What the commands expect.
 constexpr const char* ConTipo = "a document type is chosen";
@@ -29,13 +26,14 @@ Editore::Editore(Installazione installazione, Catalogo catalogo, Vista& vista, I
       vista_(vista),
       interlocutore_(interlocutore),
       comandi_(documento_, interlocutore, *this, installazione_.DirImg),
+      resa_(documento_, flag_, vista, interlocutore),
+      stampa_(documento_, installazione_, resa_, *this, vista, interlocutore),
       titolo_(TitoloSenzaTipo) {}
 
 void Editore::ScegliTipo(std::size_t slot) {
   PARVIK_ESIGE(slot < catalogo_.TipiDoc().size(), "the slot is one of the catalogue's");
-  tipoDocCorrente_ = slot;
+  tipo_ = std::make_unique<TipoInUso>(catalogo_, catalogo_.TipiDoc()[slot], interlocutore_);
   anteSpuntata_ = true;
-  tabelle_ = {};
   ApplicaTipoDoc();
   documento_.Stato().Modificato = false;
   documento_.Stato().Origine.reset();
@@ -51,48 +49,23 @@ void Editore::ApplicaTipoDoc() {
     documento_.Stato().Corpo = ImpostazioniPredefinite();
   }
   vista_.Aggiorna();
-  CaricaFlagStampe();
-}
-
-void Editore::CaricaFlagStampe() {
-  for (const ErroreSezione& errore : flag_.Carica(catalogo_, Tipo())) SegnalaErroreCatalogo(errore.Numero);
+  tipo_->CaricaFlagStampe(flag_);
   vista_.RicaricaFlagStampe();
-}
-
-void Editore::SegnalaErroreCatalogo(NumeroErrore errore) {
-  if (errore == NumeroErrore::ArgomentoNonValido) {
-    interlocutore_.Chiedi({.Testo = MessaggioVersioneDiversa});
-    interlocutore_.Termina(UscitaPerErrore);
-  } else {
-    interlocutore_.Chiedi({.Testo = TestoErrore(errore)});
-  }
 }
 
 std::vector<Variabile> Editore::VariabiliDaOffrire() {
   PARVIK_ESIGE(TipoScelto(), ConTipo);
-  Tabella<Variabile> tabella = catalogo_.CaricaVariabili(Tipo(), sezioneAttiva_);
-  if (tabella.Errore) SegnalaErroreCatalogo(*tabella.Errore);
-  tabella.Voci.pop_back();  // the empty slot
-  return std::move(tabella.Voci);
+  return tipo_->VariabiliDaOffrire(sezioneAttiva_);
 }
 
 std::vector<parvik::Flag> Editore::FlagDaOffrire() {
   PARVIK_ESIGE(TipoScelto(), ConTipo);
-  Tabella<parvik::Flag> tabella = catalogo_.CaricaFlag(Tipo(), sezioneAttiva_);
-  if (tabella.Errore) SegnalaErroreCatalogo(*tabella.Errore);
-  if (!tabella.Errore) tabella.Voci.pop_back();  // the empty slot
-  return std::move(tabella.Voci);
+  return tipo_->FlagDaOffrire(sezioneAttiva_);
 }
 
 std::string Editore::Descrivi(Sezione sezione, std::string_view contenuto) {
   PARVIK_ESIGE(InUso(sezione), ConSezione);
-  std::optional<TabelleSezione>& tabelle = tabelle_[Indice(sezione)];
-  if (!tabelle) {
-    // What the catalogue has wrong is told by the dialogs, not by a tooltip.
-    tabelle = TabelleSezione{.Variabili = catalogo_.LeggiVariabili(Tipo(), sezione).Voci,
-                             .Flag = catalogo_.CaricaFlag(Tipo(), sezione).Voci};
-  }
-  return DescriviCodice(contenuto, tabelle->Variabili, tabelle->Flag);
+  return tipo_->Descrivi(sezione, contenuto);
 }
 
 void Editore::AttivaSezione(Sezione sezione) {
@@ -215,6 +188,31 @@ void Editore::SalvaConNome() {
   vista_.Aggiorna();
 }
 
+bool Editore::AccendiAnteprima() {
+  anteSpuntata_ = true;
+  vista_.Aggiorna();
+  return resa_.RiempiAnteprima(Tipo());
+}
+
+void Editore::SpegniAnteprima() {
+  anteSpuntata_ = false;
+  vista_.Aggiorna();
+}
+
+void Editore::CommutaAnteprima() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  if (anteSpuntata_) {
+    SpegniAnteprima();
+  } else {
+    AccendiAnteprima();
+  }
+}
+
+void Editore::Stampa() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  if (comandi_.VerificaStampa(Tipo())) stampa_.Esegui(Tipo());
+}
+
 bool Editore::PuoChiudere() {
   return !TipoScelto() || comandi_.PuoChiudere(Tipo());
 }
@@ -229,7 +227,7 @@ void Editore::AzzeraFlagStampe() {
 }
 
 void Editore::TornaSenzaTipo() {
-  tipoDocCorrente_ = NessunTipo;
+  tipo_.reset();
   titolo_ = TitoloSenzaTipo;
   flag_.Svuota();
   settaFlagSpuntata_ = false;

@@ -1,24 +1,23 @@
 // The editor's state and commands, without a screen: what the main window shows is all said here.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <filesystem>
-#include <functional>
+#include <memory>
 #include <optional>
 #include <span>
-#include <stop_token>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "catalogue/Catalogo.h"
 #include "common/Interlocutore.h"
+#include "editor/ComandoStampa.h"
 #include "editor/Menu.h"
-#include "output/Destinazione.h"
+#include "editor/Resa.h"
+#include "editor/TipoInUso.h"
+#include "editor/Vista.h"
 #include "output/FlagPerStampe.h"
-#include "output/GeneraStampa.h"
-#include "output/LavoroStampa.h"
 #include "output/TotaliRighe.h"
 #include "start/Installazione.h"
 #include "template/ComandiFile.h"
@@ -26,42 +25,7 @@
 
 namespace parvik {
 
-/// The main window as its commands see it.
-class Vista {
- public:
-  Vista() = default;
-  Vista(const Vista&) = delete;
-  Vista& operator=(const Vista&) = delete;
-  virtual ~Vista() = default;
-
-  /// The editor's state has changed: caption, menus, what is visible, layout.
-  virtual void Aggiorna() = 0;
-  /// Fills the preview pane anew: the caret at its start, nothing selected.
-  virtual void MostraAnteprima(Anteprima anteprima) = 0;
-  /// Puts the whole text in the place of its beginning, which was shown first; what the user has done in the
-  /// pane meanwhile stays.
-  virtual void CompletaAnteprima(Anteprima anteprima) = 0;
-  /// Runs `lavoro` on a thread of its own while the window stays alive, and returns when it has ended. When
-  /// it takes long the window says so, and lets it be given up: then `lavoro` is asked to stop. Fails when
-  /// `lavoro` ran out of memory.
-  virtual Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) = 0;
-  /// The destination of a print; nullopt when it was given up.
-  virtual std::optional<Destinazione> ScegliDestinazione() = 0;
-  /// Asks for a printer. What it returns prints the preview pane's content, or its selection, under the name
-  /// of the print job (UTF-8), and says nothing of failures. Empty when no printer was chosen. The error is
-  /// the message that the user sees (UTF-8) when there is nothing to print with.
-  using Tipografo = std::function<void(const std::string& nomeLavoro)>;
-  virtual Esito<Tipografo, std::string> ScegliStampante() = 0;
-  /// Where the caret of a section is.
-  virtual Cursore CursoreIn(Sezione sezione) const = 0;
-  virtual void ImpostaCursore(Sezione sezione, Cursore cursore) = 0;
-  /// Gives the section the focus, with the caret in sight.
-  virtual void Raggiungi(const CursoreSezione& cursore) = 0;
-  /// The print flags were loaded anew, set to false or discarded.
-  virtual void RicaricaFlagStampe() = 0;
-};
-
-class Editore final : private Contorno {
+class Editore final : private Contorno, private InterruttoreAnteprima {
  public:
   /// Starts in the state without a document type. `vista` and `interlocutore` must outlive the editor;
   /// `vista` is first used when a command runs.
@@ -70,7 +34,7 @@ class Editore final : private Contorno {
   // --- what there is to show
 
   const std::string& Titolo() const { return titolo_; }  // UTF-8
-  bool TipoScelto() const { return tipoDocCorrente_ != NessunTipo; }
+  bool TipoScelto() const { return tipo_ != nullptr; }
   bool TreSezioni() const { return TipoScelto() && HaTreSezioni(Tipo().NumSezioni); }
   /// Whether the section is one of the template's.
   bool InUso(Sezione sezione) const { return sezione == Sezione::Testata ? TipoScelto() : TreSezioni(); }
@@ -161,26 +125,16 @@ class Editore final : private Contorno {
   void SegnaModificato();
 
  private:
-  static constexpr std::uint16_t NessunTipo = 999;
-
-  const TipoDoc& Tipo() const { return catalogo_.TipiDoc()[tipoDocCorrente_]; }
+  const TipoDoc& Tipo() const { return tipo_->Tipo(); }
   void ApplicaTipoDoc();
-  void CaricaFlagStampe();
-  void SegnalaErroreCatalogo(NumeroErrore errore);
   std::optional<RigheMostrate> CalcolaTotali();
-  LavoroStampa LavoroSenzaTesti() const;
-  LavoroStampa InizioLavoro() const;
-  /// Both: false when the run was given up, or ran out of memory.
-  bool Genera();
-  bool AnteprimaMancata(NumeroErrore perche);  // says it; false
-  bool AccendiAnteprima();
-  void StampaSuCarta();
-  void StampaTesto();
 
   void ImpostaTitolo(std::string titolo) override;
   void SpegniAnteprima() override;
   void AzzeraFlagStampe() override;
   void TornaSenzaTipo() override;
+  bool AnteprimaAccesa() const override { return anteSpuntata_; }
+  bool AccendiAnteprima() override;
 
   Installazione installazione_;
   Catalogo catalogo_;
@@ -189,19 +143,14 @@ class Editore final : private Contorno {
   Documento documento_;
   FlagPerStampe flag_;
   ComandiFile comandi_;
+  Resa resa_;
+  ComandoStampa stampa_;
+  std::unique_ptr<TipoInUso> tipo_;  // nullptr while none is chosen
   std::string titolo_;
-  std::size_t tipoDocCorrente_ = NessunTipo;
   bool anteSpuntata_ = false;
-  std::filesystem::path fileStampa_;  // what the last save dialog of the print command gave
   bool settaFlagSpuntata_ = false;
   std::optional<RigheMostrate> totali_;
   Sezione sezioneAttiva_ = Sezione::Testata;  // the one that last had the focus
-  /// What Descrivi reads: loaded for one section of the current type when it is first asked for.
-  struct TabelleSezione {
-    std::vector<Variabile> Variabili;
-    std::vector<parvik::Flag> Flag;
-  };
-  std::array<std::optional<TabelleSezione>, MaxSezioni> tabelle_;
 };
 
 }  // namespace parvik

@@ -1,0 +1,77 @@
+#include "editor/ComandoStampa.h"
+
+#include <optional>
+#include <string>
+#include <system_error>
+
+#include "common/Avverti.h"
+#include "common/Percorsi.h"
+
+namespace parvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* NomeLavoroSenzaFile = "Ordavia";
+constexpr const char* EstensioneTesti = ".txt";
+
+/// Where text files are offered: the host's folder for them, or the host's own when it has none.
+fs::path CartellaTesti(const Installazione& installazione) {
+  fs::path cartella = installazione.DirStm();
+  std::error_code errore;
+  return fs::is_directory(cartella, errore) ? cartella : installazione.DirVelkor;
+}
+
+}  // namespace
+
+void ComandoStampa::Esegui(const TipoDoc& tipo) {
+  const std::optional<Destinazione> destinazione = vista_.ScegliDestinazione();
+  if (!destinazione) return;
+  switch (*destinazione) {
+    case Destinazione::Stampante:
+      return SuCarta();
+    case Destinazione::File:
+      return SuFile(tipo);
+    case Destinazione::Anteprima:
+      anteprima_.AccendiAnteprima();
+  }
+}
+
+/// Failures to print are silent, and so is giving up the choice of the printer. A preview that is shown is
+/// printed as it stands.
+void ComandoStampa::SuCarta() {
+  const Esito<VistaStampa::Tipografo, std::string> stampa = vista_.ScegliStampante();
+  if (!stampa) {
+    interlocutore_.Chiedi({.Testo = stampa.Errore()});
+    return;
+  }
+  if (!*stampa) return;
+  if (!anteprima_.AnteprimaAccesa() && !anteprima_.AccendiAnteprima()) return;
+  const fs::path& file = documento_.Stato().NomeFile;
+  (*stampa)(file.empty() ? NomeLavoroSenzaFile : file.filename().string());
+}
+
+RichiestaFile ComandoStampa::RichiestaTesto() const {
+  RichiestaFile richiesta;
+  richiesta.Uso = RichiestaFile::Scopo::Salva;
+  richiesta.Cartella = CartellaTesti(installazione_);
+  richiesta.EtichettaFiltro = "File TXT (*.txt)";
+  richiesta.Modello = "*.txt";
+  if (!scelto_.empty()) {
+    richiesta.NomeProposto = scelto_.string();
+  } else if (!documento_.Stato().NomeFile.empty()) {
+    richiesta.NomeProposto = documento_.Stato().NomeFile.stem().string() + EstensioneTesti;
+  }
+  return richiesta;
+}
+
+/// An existing file is replaced without a question. Failures are silent.
+void ComandoStampa::SuFile(const TipoDoc& tipo) {
+  const fs::path scelto = interlocutore_.ScegliFile(RichiestaTesto());
+  if (scelto.empty()) return;
+  scelto_ = ConEstensione(scelto, EstensioneTesti);
+  const std::optional<Scritto> scritto = resa_.ScriviTesto(tipo, scelto_);
+  if (scritto) Avverti(*scritto, interlocutore_);
+}
+
+}  // namespace parvik

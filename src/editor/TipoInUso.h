@@ -1,0 +1,52 @@
+// The chosen document type, and what the catalogue offers to it: to dialogs, tooltips, print flags. What of
+// the catalogue cannot be read is told here.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "catalogue/Catalogo.h"
+#include "common/Interlocutore.h"
+#include "output/FlagPerStampe.h"
+
+namespace parvik {
+
+class TipoInUso {
+ public:
+  /// All must outlive this; `tipo` is one of the catalogue's.
+  TipoInUso(const Catalogo& catalogo, const TipoDoc& tipo, Interlocutore& interlocutore)
+      : catalogo_(catalogo), tipo_(tipo), interlocutore_(interlocutore) {}
+
+  const TipoDoc& Tipo() const { return tipo_; }
+
+  /// What a section offers to a dialog. Errors in the catalogue have been shown.
+  std::vector<Variabile> VariabiliDaOffrire(Sezione sezione);
+  std::vector<parvik::Flag> FlagDaOffrire(Sezione sezione);
+
+  /// The print flags, all false. Errors in the catalogue have been shown.
+  void CaricaFlagStampe(FlagPerStampe& flag);
+
+  /// What a code of that section is, for a tooltip. UTF-8. What the catalogue has wrong is told by the
+  /// dialogs, not by a tooltip.
+  std::string Descrivi(Sezione sezione, std::string_view contenuto);
+
+ private:
+  /// What Descrivi reads.
+  struct Tabelle {
+    std::vector<Variabile> Variabili;
+    std::vector<parvik::Flag> Flag;
+  };
+
+  const Tabelle& TabelleDi(Sezione sezione);
+  void Segnala(NumeroErrore errore);
+
+  const Catalogo& catalogo_;
+  const TipoDoc& tipo_;
+  Interlocutore& interlocutore_;
+  std::array<std::optional<Tabelle>, MaxSezioni> tabelle_;  // loaded when they are first asked for
+};
+
+}  // namespace parvik

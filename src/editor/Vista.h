@@ -1,0 +1,77 @@
+// The main window as the editor's commands see it, by what they are about.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <stop_token>
+#include <string>
+
+#include "common/Esito.h"
+#include "common/Sezione.h"
+#include "output/Destinazione.h"
+#include "output/GeneraStampa.h"
+#include "template/Documento.h"
+
+namespace parvik {
+
+/// The preview pane, and waiting for what fills it.
+class VistaAnteprima {
+ public:
+  VistaAnteprima() = default;
+  VistaAnteprima(const VistaAnteprima&) = delete;
+  VistaAnteprima& operator=(const VistaAnteprima&) = delete;
+  virtual ~VistaAnteprima() = default;
+
+  /// Fills the preview pane anew: the caret at its start, nothing selected.
+  virtual void MostraAnteprima(Anteprima anteprima) = 0;
+  /// Puts the whole text in the place of its beginning, which was shown first; what the user has done in the
+  /// pane meanwhile stays.
+  virtual void CompletaAnteprima(Anteprima anteprima) = 0;
+  /// Runs `lavoro` on a thread of its own while the window stays alive, and returns when it has ended. When
+  /// it takes long the window says so, and lets it be given up: then `lavoro` is asked to stop. Fails when
+  /// `lavoro` ran out of memory.
+  virtual Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) = 0;
+};
+
+/// What the print command asks for.
+class VistaStampa {
+ public:
+  VistaStampa() = default;
+  VistaStampa(const VistaStampa&) = delete;
+  VistaStampa& operator=(const VistaStampa&) = delete;
+  virtual ~VistaStampa() = default;
+
+  /// The destination of a print; nullopt when it was given up.
+  virtual std::optional<Destinazione> ScegliDestinazione() = 0;
+  /// Asks for a printer. What it returns prints the preview pane's content, or its selection, under the name
+  /// of the print job (UTF-8), and says nothing of failures. Empty when no printer was chosen. The error is
+  /// the message that the user sees (UTF-8) when there is nothing to print with.
+  using Tipografo = std::function<void(const std::string& nomeLavoro)>;
+  virtual Esito<Tipografo, std::string> ScegliStampante() = 0;
+};
+
+/// The carets of the sections.
+class VistaSezioni {
+ public:
+  VistaSezioni() = default;
+  VistaSezioni(const VistaSezioni&) = delete;
+  VistaSezioni& operator=(const VistaSezioni&) = delete;
+  virtual ~VistaSezioni() = default;
+
+  /// Where the caret of a section is.
+  virtual Cursore CursoreIn(Sezione sezione) const = 0;
+  virtual void ImpostaCursore(Sezione sezione, Cursore cursore) = 0;
+  /// Gives the section the focus, with the caret in sight.
+  virtual void Raggiungi(const CursoreSezione& cursore) = 0;
+};
+
+/// All of it.
+class Vista : public VistaAnteprima, public VistaStampa, public VistaSezioni {
+ public:
+  /// The editor's state has changed: caption, menus, what is visible, layout.
+  virtual void Aggiorna() = 0;
+  /// The print flags were loaded anew, set to false or discarded.
+  virtual void RicaricaFlagStampe() = 0;
+};
+
+}  // namespace parvik
