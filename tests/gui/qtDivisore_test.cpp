@@ -1,63 +1,13 @@
-#include <gtest/gtest.h>
-
+// Dragging the boundary: where it can be grasped, and where it goes.
 #include <QLabel>
-#include <QTest>
 
-#include "Finestra.h"
+#include "BancoDivisore.h"
 
 namespace parvik {
 namespace {
 
-using prova::Finestra;
+using prova::QtDivisore;
 using prova::Trova;
-
-/// The boundary under a mouse. Points are those of the window's inner area.
-class QtDivisore : public testing::Test {
- protected:
-  QtDivisore() { finestra_.Scegli(1); }
-  ~QtDivisore() override {
-    while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
-  }
-
-  QWidget& Pannello() { return *Trova<QWidget>(*finestra_, "ricAnte"); }
-  QPlainTextEdit& Testata() { return finestra_.Sezione(0); }
-  QWidget& Area() { return *Pannello().parentWidget(); }
-  int Bordo() { return Pannello().x(); }
-
-  static std::optional<Qt::CursorShape> Puntatore() {
-    const QCursor* puntatore = QApplication::overrideCursor();
-    return puntatore == nullptr ? std::nullopt : std::optional(puntatore->shape());
-  }
-
-  /// The widget that a mouse at this point is over.
-  QWidget& Sotto(QPoint punto) {
-    QWidget* trovato = Area().childAt(punto);
-    return trovato == nullptr ? Area() : *trovato;
-  }
-
-  void Manda(QEvent::Type tipo, QPoint punto, Qt::MouseButton tasto, Qt::MouseButtons premuti, QWidget& chi) {
-    const QPoint globale = Area().mapToGlobal(punto);
-    QMouseEvent evento(tipo, chi.mapFromGlobal(globale), globale, tasto, premuti, Qt::NoModifier);
-    QApplication::sendEvent(&chi, &evento);
-  }
-  void Muovi(QPoint punto, Qt::MouseButtons premuti = Qt::NoButton) {
-    Manda(QEvent::MouseMove, punto, Qt::NoButton, premuti, Sotto(punto));
-  }
-  void Premi(QPoint punto, Qt::MouseButton tasto = Qt::LeftButton) {
-    Manda(QEvent::MouseButtonPress, punto, tasto, tasto, Sotto(punto));
-  }
-  void Lascia(QPoint punto, Qt::MouseButton tasto = Qt::LeftButton) {
-    Manda(QEvent::MouseButtonRelease, punto, tasto, Qt::NoButton, Sotto(punto));
-  }
-  /// Over the left edge, pressed there.
-  void Afferra() {
-    Muovi({Bordo(), 200});
-    ASSERT_EQ(Puntatore(), Qt::SizeHorCursor);
-    Premi({Bordo(), 200});
-  }
-
-  Finestra finestra_;
-};
 
 TEST_F(QtDivisore, ThePointerSizesOnThePanesLeftEdgeOnly) {
   Muovi({Bordo(), 200});
@@ -164,71 +114,6 @@ TEST_F(QtDivisore, AMoveFarBeyondStopsAtTheBound) {
   EXPECT_EQ(Pannello().x(), destra - 120);
 }
 
-TEST_F(QtDivisore, EscapeGivesTheDragUpAndPutsTheBoundaryBack) {
-  const QRect prima = Pannello().geometry();
-  Afferra();
-  Muovi({prima.x() + 90, 300}, Qt::LeftButton);
-  ASSERT_NE(Pannello().geometry(), prima);
-  QTest::keyClick(&Testata(), Qt::Key_Escape);
-  EXPECT_EQ(Pannello().geometry(), prima);
-  EXPECT_EQ(Puntatore(), std::nullopt);
-  Muovi({prima.x() + 50, 300}, Qt::LeftButton);
-  EXPECT_EQ(Pannello().geometry(), prima) << "the button is still down, and nothing is dragged";
-  Lascia({prima.x() + 50, 300});
-  Afferra();
-  Muovi({prima.x() - 40, 300}, Qt::LeftButton);
-  EXPECT_EQ(Pannello().x(), prima.x() - 40) << "the next drag is one again";
-}
-
-TEST_F(QtDivisore, EscapeGoesBackToWhereTheSecondDragBegan) {
-  const int prima = Bordo();
-  Afferra();
-  Muovi({prima + 70, 300}, Qt::LeftButton);
-  Lascia({prima + 70, 300});
-  Afferra();
-  Muovi({prima - 70, 300}, Qt::LeftButton);
-  QTest::keyClick(&Testata(), Qt::Key_Escape);
-  EXPECT_EQ(Bordo(), prima + 70);
-}
-
-/// Keys that reach a section.
-class Contatore final : public QObject {
- public:
-  int Tasti = 0;
-
- protected:
-  bool eventFilter(QObject* /*oggetto*/, QEvent* evento) override {
-    Tasti += evento->type() == QEvent::KeyPress ? 1 : 0;
-    return false;
-  }
-};
-
-TEST_F(QtDivisore, EscapeReachesTheSectionUnlessADragIsGivenUp) {
-  Contatore contatore;
-  Testata().installEventFilter(&contatore);
-  Muovi({Bordo(), 200});
-  QTest::keyClick(&Testata(), Qt::Key_Escape);
-  EXPECT_EQ(contatore.Tasti, 1) << "the pointer sizes, but no button is down";
-  EXPECT_EQ(Puntatore(), Qt::SizeHorCursor);
-  Premi({Bordo(), 200});
-  QTest::keyClick(&Testata(), Qt::Key_Escape);
-  EXPECT_EQ(contatore.Tasti, 1);
-  QTest::keyClick(&Testata(), Qt::Key_Escape);
-  EXPECT_EQ(contatore.Tasti, 2) << "the drag was given up already";
-  Lascia({Bordo(), 200});
-  QTest::keyClick(&Testata(), Qt::Key_Escape);
-  EXPECT_EQ(contatore.Tasti, 3);
-}
-
-TEST_F(QtDivisore, OtherKeysLeaveTheDragAlone) {
-  const int prima = Bordo();
-  Afferra();
-  Muovi({prima + 70, 300}, Qt::LeftButton);
-  QTest::keyClick(&Testata(), Qt::Key_Left);
-  Muovi({prima + 50, 300}, Qt::LeftButton);
-  EXPECT_EQ(Bordo(), prima + 50);
-}
-
 TEST_F(QtDivisore, ASecondDragNeedsNoMoveInBetween) {
   const int prima = Bordo();
   Afferra();
@@ -260,38 +145,6 @@ TEST_F(QtDivisore, OnlyTheLeftButtonOnTheEdgeBelowTheTopRowBeginsADrag) {
   EXPECT_EQ(Puntatore(), std::nullopt);
   trascina({prima, 200}, Qt::LeftButton);
   EXPECT_EQ(Bordo(), prima + 60);
-}
-
-TEST_F(QtDivisore, ADragThatLosesThePreviewIsOver) {
-  Afferra();
-  finestra_.Azione("mnuAnte").trigger();
-  EXPECT_EQ(Puntatore(), std::nullopt);
-  finestra_.Azione("mnuAnte").trigger();
-  const int prima = Bordo();
-  Muovi({prima + 60, 300}, Qt::LeftButton);
-  EXPECT_EQ(Bordo(), prima);
-}
-
-TEST_F(QtDivisore, ThePlaceLastsUntilTheWindowIsResized) {
-  const int prima = Bordo();
-  Afferra();
-  Muovi({prima + 80, 300}, Qt::LeftButton);
-  Lascia({prima + 80, 300});
-  finestra_.Azione("mnuRighe").trigger();  // lays nothing out
-  EXPECT_EQ(Bordo(), prima + 80);
-  finestra_->resize(finestra_->width(), finestra_->height() + 30);
-  QApplication::processEvents();
-  EXPECT_EQ(Bordo(), prima);
-}
-
-TEST_F(QtDivisore, TurningThePreviewOffAndOnPutsTheBoundaryBackInTheMiddle) {
-  const int prima = Bordo();
-  Afferra();
-  Muovi({prima + 80, 300}, Qt::LeftButton);
-  Lascia({prima + 80, 300});
-  finestra_.Azione("mnuAnte").trigger();
-  finestra_.Azione("mnuAnte").trigger();
-  EXPECT_EQ(Bordo(), prima);
 }
 
 TEST_F(QtDivisore, ADragSelectsNoText) {

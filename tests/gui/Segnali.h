@@ -1,0 +1,35 @@
+// The signals that end a session, and a template on which commands take long.
+#pragma once
+
+#include <array>
+#include <csignal>
+#include <ostream>
+#include <string>
+
+#include "Scena.h"
+#include "template/ImmagineModello.h"
+
+namespace parvik::prova {
+
+struct Segnale {
+  const char* Nome;
+  int Numero;
+};
+
+inline void PrintTo(const Segnale& segnale, std::ostream* uscita) {
+  *uscita << segnale.Nome;
+}
+
+inline constexpr std::array<Segnale, 3> Segnali = {
+    {{"SIGTERM", SIGTERM}, {"SIGHUP", SIGHUP}, {"SIGINT", SIGINT}}};
+
+/// Gigabytes of work: a body of one long line, 32,767 times.
+inline void ApriCorpoEnorme(Scena& scena) {
+  TestiSezioni testi = {"\r\n", std::string(60'000, 'x') + "\r\n", "\r\n"};
+  ImpostazioniCorpo corpo = ImpostazioniPredefinite();
+  corpo.RigheCorpo = 32767;
+  Crea(scena.Editor().Modello("ENORME.IMG"), *ScriviImmagine(testi, corpo, Formato::TreSezioni));
+  scena.Apri("ENORME.IMG");
+}
+
+}  // namespace parvik::prova
