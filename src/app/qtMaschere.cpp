@@ -44,9 +44,10 @@ std::unique_ptr<frmCodice> qtMaschere::Crea(TipoCodice genere) {
       return std::make_unique<frmPagina>(&finestra_);
     case TipoCodice::Costante:
       return std::make_unique<frmCostante>(&finestra_);
-    default:
-      return nullptr;
+    case TipoCodice::Sconosciuto:
+      break;
   }
+  return nullptr;
 }
 
 void qtMaschere::Esegui(frmCodice& maschera) {

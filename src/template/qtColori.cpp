@@ -20,11 +20,11 @@ constexpr double ForzaFondo = 0.2;  // how much of the highlight colour is in th
 constexpr int Passi = 20;           // from a colour to black or white
 
 // By TipoCodice. Far apart in hue; light and dark sets give a kind the same hue.
-using Tinte = std::array<QRgb, 7>;
-constexpr Tinte TinteSuChiaro = {0xFFC0122F, 0xFF0B4FC4, 0xFF176B2C, 0xFF944200,
-                                 0xFF7D1FA8, 0xFF00656F, 0xFF66610A};
-constexpr Tinte TinteSuScuro = {0xFFFF8585, 0xFF8AB4F8, 0xFF7FD08F, 0xFFFBA35C,
-                                0xFFD7A5FB, 0xFF5FD9E6, 0xFFDCCB4E};
+constexpr auto TinteSuChiaro =
+    std::to_array<QRgb>({0xFFC0122F, 0xFF0B4FC4, 0xFF176B2C, 0xFF944200, 0xFF7D1FA8, 0xFF00656F, 0xFF66610A});
+constexpr auto TinteSuScuro =
+    std::to_array<QRgb>({0xFFFF8585, 0xFF8AB4F8, 0xFF7FD08F, 0xFFFBA35C, 0xFFD7A5FB, 0xFF5FD9E6, 0xFFDCCB4E});
+static_assert(TinteSuChiaro.size() == NumTipiCodice && TinteSuScuro.size() == NumTipiCodice);
 constexpr QRgb Nero = 0xFF000000;
 constexpr QRgb Bianco = 0xFFFFFFFF;
 
@@ -98,7 +98,7 @@ void qtColori::ImpostaTavolozza(const QPalette& tavolozza) {
   const bool chiaro = Contrasto(Nero, base) >= Contrasto(Bianco, base);
   const QRgb estremo = chiaro ? Nero : Bianco;
   const QRgb fondo = FondoSu(base, tavolozza.color(QPalette::Highlight).rgb(), estremo);
-  const Tinte& tinte = chiaro ? TinteSuChiaro : TinteSuScuro;
+  const auto& tinte = chiaro ? TinteSuChiaro : TinteSuScuro;
   const auto prima = formati_;
   for (std::size_t i = 0; i < formati_.size(); ++i) {
     formati_[i].setForeground(QColor(Leggibile(tinte[i], estremo, base, fondo)));

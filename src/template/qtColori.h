@@ -47,10 +47,8 @@ class qtColori final : public QSyntaxHighlighter {
   bool ChiusoPiuAvanti() const;
   void Colora(std::size_t inizio, std::size_t fine, TipoCodice tipo);
 
-  static constexpr std::size_t NumTipi = static_cast<std::size_t>(TipoCodice::Pagina) + 1;
-
   const txtSpecchio& specchio_;
-  std::array<QTextCharFormat, NumTipi> formati_;  // by TipoCodice
+  std::array<QTextCharFormat, NumTipiCodice> formati_;  // by TipoCodice
   QColor fondo_;
 };
 

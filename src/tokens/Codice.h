@@ -9,6 +9,7 @@
 namespace parvik {
 
 enum class TipoCodice { Sconosciuto, Variabile, Costante, Flag, Stile, Lingua, Pagina };
+inline constexpr std::size_t NumTipiCodice = static_cast<std::size_t>(TipoCodice::Pagina) + 1;
 
 /// The kind that a content's leading text tells. Letters count in their case.
 constexpr TipoCodice Riconosci(std::string_view contenuto) {
