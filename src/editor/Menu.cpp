@@ -51,7 +51,7 @@ constexpr bool UnaVocePerComando() {
   }
   return true;
 }
-static_assert(UnaVocePerComando());
+static_assert(UnaVocePerComando(), "each entry has a command, in the order of the enumeration");
 
 }  // namespace
 
