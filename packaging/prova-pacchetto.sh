@@ -106,6 +106,8 @@ inside Xvfb -displayfd 1 -noreset -screen 0 1280x1024x24 -nolisten tcp >"$base/s
 while [ ! -s "$base/schermo" ]; do sleep 0.1; kill -0 $!; done
 display=$(cat "$base/schermo")
 as_user openbox >"$base/openbox.log" 2>&1 &
+# A window that comes while the window manager starts may stay unmapped.
+while ! as_user xdotool get_desktop >"$base/finestra" 2>&1; do sleep 0.1; kill -0 $!; done
 
 as_user parvik32 --esempio velkor >"$base/editore.log" 2>&1 &
 expect "started with a copy of the example" there "$(window '^Ordavia$')"

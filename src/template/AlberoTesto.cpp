@@ -21,7 +21,7 @@ struct NodoTesto {
 
 namespace {
 
-using Rami = std::vector<RamoTesto>;
+using ElencoRami = std::vector<RamoTesto>;
 
 constexpr std::size_t MassimoBlocco = 512;  // bytes
 constexpr std::size_t MassimoRami = 16;
@@ -58,16 +58,16 @@ void PerParti(std::size_t quanti, std::size_t massimo, Azione fai) {
   for (std::size_t i = 0; i < parti; ++i) fai(i * quanti / parti, (i + 1) * quanti / parti);
 }
 
-Rami Blocchi(std::string_view byte) {
-  Rami blocchi;
+ElencoRami Blocchi(std::string_view byte) {
+  ElencoRami blocchi;
   PerParti(byte.size(), MassimoBlocco,
            [&](std::size_t da, std::size_t a) { blocchi.push_back(Blocco(byte.substr(da, a - da))); });
   return blocchi;
 }
 
 /// One height up.
-Rami Nodi(const Rami& rami) {
-  Rami nodi;
+ElencoRami Nodi(const ElencoRami& rami) {
+  ElencoRami nodi;
   PerParti(rami.size(), MassimoRami,
            [&](std::size_t da, std::size_t a) { nodi.push_back(Nodo(std::span(rami).subspan(da, a - da))); });
   return nodi;
@@ -94,13 +94,13 @@ std::optional<RamoTesto> Unione(const RamoTesto& uno, const RamoTesto& altro) {
     return Blocco(prima.Byte + dopo.Byte);
   }
   if (prima.Rami.size() + dopo.Rami.size() > MassimoRami / 2) return std::nullopt;
-  Rami rami = prima.Rami;
+  ElencoRami rami = prima.Rami;
   std::ranges::copy(dopo.Rami, std::back_inserter(rami));
   return Nodo(rami);
 }
 
 /// Adds a part, or lets the last one take it in.
-void Aggiungi(Rami& rami, const RamoTesto& ramo) {
+void Aggiungi(ElencoRami& rami, const RamoTesto& ramo) {
   const auto unione = rami.empty() ? std::nullopt : Unione(rami.back(), ramo);
   if (unione) {
     rami.back() = *unione;
@@ -110,7 +110,8 @@ void Aggiungi(Rami& rami, const RamoTesto& ramo) {
 }
 
 /// A block after a change, or several. Only what goes and what comes is measured, where it stays one.
-Rami SostituisciInBlocco(const RamoTesto& blocco, std::size_t da, std::size_t a, std::string_view messi) {
+ElencoRami SostituisciInBlocco(const RamoTesto& blocco, std::size_t da, std::size_t a,
+                               std::string_view messi) {
   const std::string_view byte = blocco.Nodo->Byte;
   const std::size_t lungo = byte.size() - (a - da) + messi.size();
   std::string nuovi;
@@ -124,20 +125,20 @@ Rami SostituisciInBlocco(const RamoTesto& blocco, std::size_t da, std::size_t a,
 }
 
 /// What comes in the place of a part, of the same height: as many parts as it takes, or none.
-Rami Sostituisci(const RamoTesto& ramo, std::size_t da, std::size_t a, std::string_view messi) {
+ElencoRami Sostituisci(const RamoTesto& ramo, std::size_t da, std::size_t a, std::string_view messi) {
   const NodoTesto& nodo = *ramo.Nodo;
   if (nodo.Blocco()) return SostituisciInBlocco(ramo, da, a, messi);
   const Ramo primo = RamoDi(nodo, da);
   const Ramo ultimo = RamoDi(nodo, a, primo);
   const RamoTesto& ramoPrimo = nodo.Rami[primo.Quale];
   const bool uno = primo.Quale == ultimo.Quale;
-  Rami nuovi =
+  ElencoRami nuovi =
       Sostituisci(ramoPrimo, da - primo.Inizio, uno ? a - primo.Inizio : ramoPrimo.Misura.Byte, messi);
   if (!uno) {
-    const Rami ultimi = Sostituisci(nodo.Rami[ultimo.Quale], 0, a - ultimo.Inizio, {});
+    const ElencoRami ultimi = Sostituisci(nodo.Rami[ultimo.Quale], 0, a - ultimo.Inizio, {});
     std::ranges::copy(ultimi, std::back_inserter(nuovi));
   }
-  Rami rami(nodo.Rami.begin(), nodo.Rami.begin() + static_cast<std::ptrdiff_t>(primo.Quale));
+  ElencoRami rami(nodo.Rami.begin(), nodo.Rami.begin() + static_cast<std::ptrdiff_t>(primo.Quale));
   for (const RamoTesto& nuovo : nuovi) Aggiungi(rami, nuovo);
   std::span<const RamoTesto> resto = std::span(nodo.Rami).subspan(ultimo.Quale + 1);
   if (!resto.empty()) {
@@ -148,7 +149,7 @@ Rami Sostituisci(const RamoTesto& ramo, std::size_t da, std::size_t a, std::stri
 }
 
 /// The whole tree over parts of the same height.
-RamoTesto Radice(Rami rami) {
+RamoTesto Radice(ElencoRami rami) {
   if (rami.empty()) return Blocco({});
   while (rami.size() > 1) rami = Nodi(rami);
   RamoTesto radice = rami.front();

@@ -106,7 +106,8 @@ Esito<ImmagineLetta> LeggiImmagine(std::string_view byte, Formato formato, const
   });
 }
 
-Esito<std::unique_ptr<const ImmagineInPosto>> ImmagineInPosto::Apri(ByteFile byte, PreparaImmagine prepara,
+Esito<std::unique_ptr<const ImmagineInPosto>> ImmagineInPosto::Apri(ByteFile byte,
+                                                                    const PreparaImmagine& prepara,
                                                                     const ImpostazioniCorpo& attuali) {
   using Aperta = std::unique_ptr<const ImmagineInPosto>;
   return SeBastaMemoria([&]() -> parvik::Esito<Aperta> {

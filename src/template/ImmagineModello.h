@@ -48,7 +48,8 @@ struct ImmagineDivisa : EsitoImmagine {
 class ImmagineInPosto {
  public:
   /// Of bytes that `prepara` was shown, or a beginning of them. An error only when memory is exhausted.
-  static parvik::Esito<std::unique_ptr<const ImmagineInPosto>> Apri(ByteFile byte, PreparaImmagine prepara,
+  static parvik::Esito<std::unique_ptr<const ImmagineInPosto>> Apri(ByteFile byte,
+                                                                    const PreparaImmagine& prepara,
                                                                     const ImpostazioniCorpo& attuali);
   ImmagineInPosto(const ImmagineInPosto&) = delete;
   ImmagineInPosto& operator=(const ImmagineInPosto&) = delete;
