@@ -40,12 +40,18 @@ TEST(Pagine, LinkOnlyToFilesThatExist) {
   EXPECT_GE(collegamenti, 10);
 }
 
+/// A name with NAME in it is a pattern for a file that is still to come; its folder must be there.
+fs::path DaCercare(const std::string& nome) {
+  const fs::path intero = Docs().parent_path() / nome;
+  return nome.find("NAME") == std::string::npos ? intero : intero.parent_path();
+}
+
 TEST(Pagine, NameOnlySourcesThatExist) {
   int nominati = 0;
   for (const std::string& pagina : Pagine()) {
     for (const std::string& nome :
          Trovati(Contenuto(Docs() / pagina), "`((?:src|tests|cmake|esempio)/[\\w./-]+)`")) {
-      EXPECT_TRUE(fs::exists(Docs().parent_path() / nome)) << pagina << " names " << nome;
+      EXPECT_TRUE(fs::exists(DaCercare(nome))) << pagina << " names " << nome;
       ++nominati;
     }
   }
