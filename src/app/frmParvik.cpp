@@ -104,8 +104,8 @@ void frmParvik::CollegaSezione(Sezione sezione) {
     });
   };
   collega(&txtTCP::TastoPremuto, [this] { editore_.SegnaModificato(); });
-  collega(&txtTCP::DaAnnullare, [this] { Annulla(); });
-  collega(&txtTCP::DaRipetere, [this] { Ripeti(); });
+  collega(&txtTCP::DaAnnullare, [this] { EseguiPasso(&Editore::Annulla); });
+  collega(&txtTCP::DaRipetere, [this] { EseguiPasso(&Editore::Ripeti); });
   collega(&txtTCP::Attivata, [this](Sezione attiva) { AttivaSezione(attiva); });
   collega(&txtTCP::CodiceDaAprire, [this, sezione](const std::string& contenuto) {
     AttivaSezione(sezione);

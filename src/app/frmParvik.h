@@ -61,9 +61,10 @@ class frmParvik final : public QMainWindow, private Vista {
   void CreaMenu();
   void Esegui(Comando comando);
   void CreaPassi();
-  void CollegaPasso(QKeySequence::StandardKey tasti, const char* nome, void (frmParvik::*comando)());
-  void Annulla();
-  void Ripeti();
+  /// Undo or redo, over all sections.
+  using PassoEditore = void (Editore::*)();
+  void CollegaPasso(QKeySequence::StandardKey tasti, const char* nome, PassoEditore passo);
+  void EseguiPasso(PassoEditore passo);
   Finestra Misure() const;
   void ResizeControls();
   void SpostaDivisore(int x);

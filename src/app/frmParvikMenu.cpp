@@ -66,14 +66,12 @@ void frmParvik::Esegui(Comando comando) {
   }
 }
 
-/// Undo and redo, over all sections.
 void frmParvik::CreaPassi() {
-  CollegaPasso(QKeySequence::Undo, "mnuAnnulla", &frmParvik::Annulla);
-  CollegaPasso(QKeySequence::Redo, "mnuRipeti", &frmParvik::Ripeti);
+  CollegaPasso(QKeySequence::Undo, "mnuAnnulla", &Editore::Annulla);
+  CollegaPasso(QKeySequence::Redo, "mnuRipeti", &Editore::Ripeti);
 }
 
-void frmParvik::CollegaPasso(QKeySequence::StandardKey tasti, const char* nome,
-                             void (frmParvik::*comando)()) {
+void frmParvik::CollegaPasso(QKeySequence::StandardKey tasti, const char* nome, PassoEditore passo) {
   auto* azione = new QAction(this);
   azione->setObjectName(nome);
   QList<QKeySequence> tutti = QKeySequence::keyBindings(tasti);
@@ -81,19 +79,13 @@ void frmParvik::CollegaPasso(QKeySequence::StandardKey tasti, const char* nome,
     if (!tutti.contains(altro)) tutti += altro;
   azione->setShortcuts(tutti);
   addAction(azione);
-  connect(azione, &QAction::triggered, this, comando);
+  connect(azione, &QAction::triggered, this, [this, passo] { EseguiPasso(passo); });
 }
 
-void frmParvik::Annulla() {
+void frmParvik::EseguiPasso(PassoEditore passo) {
   if (!editore_.TipoScelto()) return;
   for (txtTCP* sezione : sezioni_) sezione->FinisciComposizione();
-  editore_.Annulla();
-}
-
-void frmParvik::Ripeti() {
-  if (!editore_.TipoScelto()) return;
-  for (txtTCP* sezione : sezioni_) sezione->FinisciComposizione();
-  editore_.Ripeti();
+  (editore_.*passo)();
 }
 
 }  // namespace parvik

@@ -49,15 +49,15 @@ class TestoSezione {
   Selezione Riga(std::size_t riga) const;
   std::size_t RigaDi(std::size_t posto) const { return albero_.Conta(Segno::FineRiga, posto); }
   Posto PostoDi(std::size_t byte) const;
-  std::size_t ByteDi(Posto posto) const;
+  std::size_t ByteDi(Posto posto) const;  // so far only tests ask
 
   // --- codes and what is between them
 
   /// The piece in which the byte at `posto` lies, which must not be the end. As LettorePezzi reads.
   Pezzo PezzoDi(std::size_t posto) const;
-  /// The pieces that have bytes in a part of the text, whole and in their order.
+  /// The pieces that have bytes in a part of the text, whole and in their order. So far only tests ask.
   std::vector<Pezzo> PezziDi(Selezione parte) const;
-  /// The code that opens in a line before this one and is not closed there.
+  /// The code that opens in a line before this one and is not closed there. So far only tests ask.
   std::optional<Pezzo> CodiceAperto(std::size_t riga) const;
 
   /// The nearest delimiters. nullopt where there is none.

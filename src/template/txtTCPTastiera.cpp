@@ -110,7 +110,9 @@ void txtTCP::Incolla(const QString& testo) {
 }
 
 void txtTCP::Elimina() {
-  if (InUso()) comandi_.Elimina();
+  if (!InUso()) return;
+  comandi_.Elimina();
+  ensureCursorVisible();
 }
 
 void txtTCP::Taglia(Pressione pressione) {
@@ -118,6 +120,7 @@ void txtTCP::Taglia(Pressione pressione) {
   if (!InUso() || scelta.Lunghezza == 0 || !comandi_.LasciaTogliere(scelta, pressione)) return;
   copy();
   comandi_.Togli(scelta);
+  ensureCursorVisible();
 }
 
 bool txtTCP::MuoviDiParola(const QKeyEvent& evento) {
@@ -150,29 +153,28 @@ void txtTCP::keyPressEvent(QKeyEvent* evento) {
     Taglia(pressione);
   } else if (evento->keyCombination() == CancellaFineRiga) {
     comandi_.CancellaFinoAFineRiga(pressione);
-  } else if (!MuoviDiParola(*evento) && !TastoDelToolkit(*evento)) {
-    return evento->ignore();  // a Tab too, where there is nowhere to move the focus: templates hold none
+  } else {
+    // A Tab too, where there is nowhere to move the focus: templates hold none.
+    if (!MuoviDiParola(*evento) && !TastoDelToolkit(*evento)) evento->ignore();
+    return;
   }
   ensureCursorVisible();
 }
 
-/// What is composed takes the place of the selection, and of what the input method replaces, from the start:
-/// the toolkit would take both away by itself.
+/// What is being composed takes the place of the selection, or of what the input method replaces, from the
+/// start: the toolkit would take both away by itself. What is finished at once is typed over them.
 bool txtTCP::AccettaComposizione(const QInputMethodEvent& evento) {
-  const bool compone = !evento.commitString().isEmpty() ||
+  const bool compone = !evento.preeditString().isEmpty() &&
                        evento.preeditString() != textCursor().block().layout()->preeditAreaText();
   const int ultimo = document()->characterCount() - 1;
   const int da = std::clamp(textCursor().position() + evento.replacementStart(), 0, ultimo);
   const std::size_t inizio = specchio_->InByte(da);
   const std::size_t fine = specchio_->InByte(std::clamp(da + evento.replacementLength(), da, ultimo));
-  const Selezione sostituita = {.Inizio = inizio, .Lunghezza = fine - inizio};
   const Selezione scelta = compone ? comandi_.Selezionato() : Selezione{};
-  for (const Selezione parte : {scelta, sostituita}) {
-    if (!comandi_.LasciaTogliere(parte, Pressione::Prima)) return false;
-    if (parte.Lunghezza == 0) continue;
-    comandi_.Togli(parte);
-    break;  // the other one was said of a text that is no more
-  }
+  const Selezione via =
+      scelta.Lunghezza > 0 ? scelta : Selezione{.Inizio = inizio, .Lunghezza = fine - inizio};
+  if (!comandi_.LasciaTogliere(via, Pressione::Prima)) return false;
+  if (via.Lunghezza > 0) comandi_.Togli(via);
   return true;
 }
 

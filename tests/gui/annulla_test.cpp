@@ -148,6 +148,17 @@ TEST_F(Annulla, SaveAsKeepsTheHistoryAndItsReadingBackIsOneStep) {
   EXPECT_EQ(Testo(1), "");
 }
 
+TEST_F(Annulla, WhatAnInputMethodCommitsOverASelectionIsOneStepWithIt) {
+  Scrivi(0, "ab");
+  finestra_.Sezione(0).selectAll();
+  QInputMethodEvent composto;
+  composto.setCommitString(QStringLiteral("è"));
+  QApplication::sendEvent(&finestra_.Sezione(0), &composto);
+  EXPECT_EQ(Testo(0), "è");
+  Premi(Qt::Key_Z);
+  EXPECT_EQ(Testo(0), "ab\n");
+}
+
 TEST_F(Annulla, UndoEndsAComposition) {
   Scrivi(0, "ab");
   QInputMethodEvent inCorso(QStringLiteral("´"), {});

@@ -16,11 +16,13 @@
 
 #include "Tavolozze.h"
 #include "common/qtTesto.h"
+#include "supporto/ConNome.h"
 #include "template/txtTCP.h"
 
 namespace parvik {
 namespace {
 
+using prova::PrintTo;
 using prova::Scura;
 using prova::Tipi;
 

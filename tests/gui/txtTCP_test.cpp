@@ -5,8 +5,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <functional>
+#include <vector>
 
 #include "Finestra.h"
 #include "common/qtTesto.h"
@@ -145,6 +148,39 @@ std::string TanteRighe(int quante) {
              " \xAB"
              "V1;5\xBB\r\n";
   return righe;
+}
+
+TEST(TxtTCP, CopyingAndSelectingAllLeaveWhatIsInSight) {
+  Banco banco(TanteRighe(200));
+  banco.Editor.resize(400, 200);
+  banco.Editor.show();
+  QScrollBar& barra = *banco.Editor.verticalScrollBar();
+  for (const Qt::Key tasto : {Qt::Key_C, Qt::Key_A}) {
+    banco.Editor.moveCursor(QTextCursor::Start);
+    barra.setValue(100);
+    QTest::keyClick(&banco.Editor, tasto, Qt::ControlModifier);
+    EXPECT_EQ(barra.value(), 100) << "key " << tasto;
+  }
+}
+
+TEST(TxtTCP, TypingTakingAwayAndCuttingBringTheCaretIntoSight) {
+  Banco banco(TanteRighe(200));
+  banco.Editor.resize(400, 200);
+  banco.Editor.show();
+  QScrollBar& barra = *banco.Editor.verticalScrollBar();
+  const std::vector<std::function<void()>> modi = {
+      [&] { QTest::keyClick(&banco.Editor, Qt::Key_X); },
+      [&] { QTest::keyClick(&banco.Editor, Qt::Key_Return); },
+      [&] { QTest::keyClick(&banco.Editor, Qt::Key_Delete); },
+      [&] { QTest::keyClick(&banco.Editor, Qt::Key_K, Qt::ControlModifier); },
+      [&] { banco.Editor.Taglia(); },
+      [&] { banco.Editor.Elimina(); }};
+  for (std::size_t i = 0; i < modi.size(); ++i) {
+    banco.Editor.Poni({.Ancora = 0, .Posto = i < 4 ? 0U : 2U});
+    barra.setValue(100);
+    modi[i]();
+    EXPECT_TRUE(banco.Editor.viewport()->rect().contains(banco.Editor.cursorRect().center())) << i;
+  }
 }
 
 TEST(TxtTCP, AVeryLongTextLooksInANewWidthAsOneOpenedInThatWidth) {
