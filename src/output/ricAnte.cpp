@@ -26,8 +26,7 @@ int InBarra(double valore) {
 
 }  // namespace
 
-ricAnte::ricAnte(QWidget* padre)
-    : QAbstractScrollArea(padre), testo_(std::make_shared<const TestoAnteprima>()) {
+ricAnte::ricAnte(QWidget* padre) : QAbstractScrollArea(padre) {
   setObjectName("ricAnte");
   setAccessibleName("Anteprima");
   setFocusPolicy(Qt::StrongFocus);
@@ -37,57 +36,40 @@ ricAnte::ricAnte(QWidget* padre)
 }
 
 void ricAnte::Mostra(Anteprima anteprima) {
-  const std::shared_ptr<const TestoAnteprima> prima =
-      std::exchange(testo_, std::make_shared<const TestoAnteprima>(std::move(anteprima)));
-  cursore_ = ancora_ = 0;
-  xVoluta_.reset();
+  const SelezioneAnteprima prima = std::exchange(scelta_, SelezioneAnteprima(std::move(anteprima)));
   trascina_.reset();
   verticalScrollBar()->setValue(0);
   horizontalScrollBar()->setValue(0);
   MisuraLarghezza();
-  ricAccessibile::AnnunciaTesto(*this, *prima);
+  ricAccessibile::AnnunciaTesto(*this, prima.Testo());
   emit Mostrata();
 }
 
 void ricAnte::Completa(Anteprima anteprima) {
-  const std::shared_ptr<const TestoAnteprima> prima =
-      std::exchange(testo_, std::make_shared<const TestoAnteprima>(std::move(anteprima)));
-  cursore_ = Aggancia(*testo_, cursore_);
-  ancora_ = Aggancia(*testo_, ancora_);
+  const std::size_t prima = Contenuto().Testo().size();
+  scelta_.Completa(std::move(anteprima));
   MisuraLarghezza();
-  ricAccessibile::AnnunciaAggiunta(*this, prima->Testo().size());
+  ricAccessibile::AnnunciaAggiunta(*this, prima);
   emit Mostrata();
 }
 
-Selezione ricAnte::Selezionato() const {
-  const auto [da, a] = std::minmax(cursore_, ancora_);
-  return {.Inizio = da, .Lunghezza = a - da};
-}
-
-ricAnte::Coordinate ricAnte::RigaColonna() const {
-  const std::size_t inizio = Selezionato().Inizio;
-  const std::size_t riga = testo_->RigaDi(inizio);
-  return {.Riga = riga + 1, .Colonna = inizio - testo_->InizioRiga(riga) + 1};
-}
-
 void ricAnte::Seleziona(std::size_t ancora, std::size_t cursore) {
-  xVoluta_.reset();
-  Imposta(Aggancia(*testo_, ancora), Aggancia(*testo_, cursore));
-  Rivela(cursore_);
+  const SelezioneAnteprima prima = scelta_;
+  scelta_.Seleziona(ancora, cursore);
+  MostraMossa(prima);
+  Rivela(Cursore());
 }
 
-void ricAnte::Imposta(std::size_t ancora, std::size_t cursore) {
-  if (ancora == ancora_ && cursore == cursore_) return;
-  const Selezione prima = Selezionato();
-  ancora_ = ancora;
-  cursore_ = cursore;
+/// Anchor and caret were those of `prima`, in the same text.
+void ricAnte::MostraMossa(const SelezioneAnteprima& prima) {
+  if (scelta_.Estremi() == prima.Estremi()) return;
   if (hasFocus()) AccendiCursore();
   viewport()->update();
-  ricAccessibile::AnnunciaCursore(*this, prima);
+  ricAccessibile::AnnunciaCursore(*this, prima.Selezionato());
 }
 
 VedutaAnteprima ricAnte::Veduta() const {
-  return {*testo_,
+  return {Contenuto(),
           *celle_,
           {.PrimaRiga = static_cast<std::size_t>(verticalScrollBar()->value()),
            .Scorrimento = horizontalScrollBar()->value(),
@@ -103,11 +85,11 @@ std::size_t ricAnte::CarattereA(QPoint punto) const {
 }
 
 void ricAnte::Rivela(std::size_t byte) {
-  const std::size_t riga = testo_->RigaDi(byte);
+  const std::size_t riga = Contenuto().RigaDi(byte);
   if (riga < static_cast<std::size_t>(verticalScrollBar()->value())) {
     verticalScrollBar()->setValue(InBarra(static_cast<double>(riga)));
   } else if (riga > Veduta().UltimaRigaIntera()) {
-    const std::size_t prima = VedutaAnteprima::PrimaRigaPer(*testo_, *celle_, riga, viewport()->height());
+    const std::size_t prima = VedutaAnteprima::PrimaRigaPer(Contenuto(), *celle_, riga, viewport()->height());
     verticalScrollBar()->setValue(InBarra(static_cast<double>(prima)));
   }
   const QRect rettangolo = RettangoloDi(byte);
@@ -116,6 +98,12 @@ void ricAnte::Rivela(std::size_t byte) {
   const int passo =
       oltreSinistra < 0 ? oltreSinistra : std::clamp(oltreDestra, 0, std::max(0, oltreSinistra));
   horizontalScrollBar()->setValue(horizontalScrollBar()->value() + passo);
+}
+
+/// On by so many lines and pixels, back where they are negative.
+void ricAnte::Scorri(int righe, int pixel) {
+  verticalScrollBar()->setValue(verticalScrollBar()->value() + righe);
+  horizontalScrollBar()->setValue(horizontalScrollBar()->value() + pixel);
 }
 
 /// The device or the font has changed.
@@ -127,25 +115,25 @@ void ricAnte::Rimisura() {
 }
 
 void ricAnte::MisuraLarghezza() {
-  const auto conteggio = testo_->Conta(testo_->Testo().size());
+  const auto conteggio = Contenuto().Conta(Contenuto().Testo().size());
   PerAspetto<double> larghezze = {};
   for (std::size_t i = 0; i < NumAspetti; ++i) {
     if (conteggio[i] > 0) larghezze[i] = celle_->Avanzamento(AspettoDiIndice(i));
   }
-  larghezza_ = InBarra(testo_->LarghezzaMassima(larghezze));
+  larghezza_ = InBarra(Contenuto().LarghezzaMassima(larghezze));
   AggiornaBarre();
   viewport()->update();
 }
 
 void ricAnte::AggiornaBarre() {
-  if (testo_->Testo().empty()) {  // the hidden pane of a program that has just started looks no font up
+  if (Contenuto().Testo().empty()) {  // the hidden pane of a program that has just started looks no font up
     verticalScrollBar()->setRange(0, 0);
     horizontalScrollBar()->setRange(0, 0);
     return;
   }
   const QSize finestra = viewport()->size();
-  const std::size_t ultima = testo_->NumRighe() - 1;
-  const std::size_t prima = VedutaAnteprima::PrimaRigaPer(*testo_, *celle_, ultima, finestra.height());
+  const std::size_t ultima = Contenuto().NumRighe() - 1;
+  const std::size_t prima = VedutaAnteprima::PrimaRigaPer(Contenuto(), *celle_, ultima, finestra.height());
   verticalScrollBar()->setRange(0, InBarra(static_cast<double>(prima)));
   verticalScrollBar()->setPageStep(std::max(1, static_cast<int>(finestra.height() / celle_->Altezza({}))));
   verticalScrollBar()->setSingleStep(1);
@@ -198,7 +186,7 @@ void ricAnte::paintEvent(QPaintEvent* evento) {
                                                    : QPalette::Inactive;
   veduta.Disegna(pittore, evento->rect(), Selezionato(), palette(), gruppo);
   if (!cursoreAcceso_) return;
-  QRectF cursore = veduta.RettangoloDi(cursore_);
+  QRectF cursore = veduta.RettangoloDi(Cursore());
   cursore.setWidth(style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this));
   pittore.fillRect(cursore, palette().brush(gruppo, QPalette::Text));
 }
@@ -213,7 +201,7 @@ void ricAnte::AccendiCursore() {
 void ricAnte::timerEvent(QTimerEvent* evento) {
   if (evento->timerId() == lampeggio_.timerId()) {
     cursoreAcceso_ = !cursoreAcceso_;
-    viewport()->update(RettangoloDi(cursore_));
+    viewport()->update(RettangoloDi(Cursore()));
   } else if (evento->timerId() == scorrimento_.timerId()) {
     ScorriTrascinando();
   } else {

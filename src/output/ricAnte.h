@@ -8,12 +8,9 @@
 #include <QPoint>
 #include <QRect>
 #include <cstddef>
-#include <memory>
 #include <optional>
 
-#include "output/GeneraStampa.h"
-#include "output/MovimentiAnteprima.h"
-#include "output/TestoAnteprima.h"
+#include "output/SelezioneAnteprima.h"
 #include "output/ricCelle.h"
 #include "output/ricVeduta.h"
 
@@ -23,21 +20,6 @@ class ricAnte final : public QAbstractScrollArea {
   Q_OBJECT
 
  public:
-  enum class Movimento {
-    CarattereDopo,
-    CarattereDavanti,
-    ParolaDopo,
-    ParolaDavanti,
-    InizioRiga,
-    TermineRiga,
-    InizioTesto,
-    FineTesto,
-    RigaSopra,
-    RigaSotto,
-    PaginaSopra,
-    PaginaSotto,
-  };
-
   explicit ricAnte(QWidget* padre);
 
   /// Replaces the content. The caret is at the start, nothing is selected, and the start shows.
@@ -46,15 +28,13 @@ class ricAnte final : public QAbstractScrollArea {
   /// Replaces the content by a longer one that begins with it. Caret, selection and what shows stay.
   void Completa(Anteprima anteprima);
 
-  const TestoAnteprima& Contenuto() const { return *testo_; }
+  const TestoAnteprima& Contenuto() const { return scelta_.Testo(); }
 
   /// What is selected, in bytes of the text; the caret alone when nothing is.
-  Selezione Selezionato() const;
-
+  Selezione Selezionato() const { return scelta_.Selezionato(); }
   /// The caret's place.
-  std::size_t Cursore() const { return cursore_; }
-  /// The other end of the selection. Only tests ask for it.
-  std::size_t Ancora() const { return ancora_; }
+  std::size_t Cursore() const { return scelta_.Estremi().Posto; }
+  SelezioneAnteprima::Coordinate RigaColonna() const { return scelta_.RigaColonna(); }
 
   /// Selects from `ancora` to `cursore`, where the caret is then, and shows the caret. Places that the caret
   /// cannot stand at are moved to one.
@@ -64,13 +44,6 @@ class ricAnte final : public QAbstractScrollArea {
 
   /// Puts the selected text on the clipboard, lines separated by line feeds. Without a selection nothing.
   void Copia() const;
-
-  /// Where the selection starts, both from 1. Lines are those of the text; nothing wraps.
-  struct Coordinate {
-    std::size_t Riga = 1;
-    std::size_t Colonna = 1;
-  };
-  Coordinate RigaColonna() const;
 
   // In the viewport's coordinates.
 
@@ -114,27 +87,24 @@ class ricAnte final : public QAbstractScrollArea {
   void MisuraLarghezza();
   void AggiornaBarre();
   void AccendiCursore();
-  void Imposta(std::size_t ancora, std::size_t cursore);
+  void MostraMossa(const SelezioneAnteprima& prima);
 
   static bool Riconosce(const QKeyEvent& evento);
-  void Muovi(Movimento dove, bool seleziona);
-  std::size_t InOrizzontale(Movimento dove, bool seleziona) const;
-  std::size_t InVerticale(Movimento dove);
+  void Muovi(Movimento dove, ModoMovimento modo);
+  int RighePerPagina() const;
+  void Scorri(int righe, int pixel);
   void OffriSelezione() const;
 
   void IniziaTrascinamento(QPoint punto, const Selezione& pezzo, Grana grana);
   void EstendiSelezione(QPoint punto);
   void ScorriTrascinando();
 
-  std::shared_ptr<const TestoAnteprima> testo_;  // the clipboard may keep it longer
+  SelezioneAnteprima scelta_;  // what is shown, too
   std::optional<Celle> celle_;
   qreal rapporto_ = 0;  // the device's pixel ratio and resolution that the cells were made for
   int risoluzione_ = 0;
   int larghezza_ = 0;  // of the widest line, in pixels
 
-  std::size_t cursore_ = 0;
-  std::size_t ancora_ = 0;
-  std::optional<qreal> xVoluta_;  // where vertical movements started
   bool cursoreAcceso_ = false;
   QBasicTimer lampeggio_;
 

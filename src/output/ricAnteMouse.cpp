@@ -4,6 +4,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "output/MovimentiAnteprima.h"
 #include "output/ricAnte.h"
 
 namespace parvik {
@@ -31,9 +32,9 @@ void ricAnte::mousePressEvent(QMouseEvent* evento) {
                      (punto - puntoDoppio_).manhattanLength() < QApplication::startDragDistance();
   dopoDoppio_.invalidate();
   if (terzo) {
-    IniziaTrascinamento(punto, RigaA(*testo_, CarattereA(punto)), Grana::Riga);
+    IniziaTrascinamento(punto, RigaA(Contenuto(), CarattereA(punto)), Grana::Riga);
   } else if (evento->modifiers().testFlag(Qt::ShiftModifier)) {
-    IniziaTrascinamento(punto, {.Inizio = ancora_, .Lunghezza = 0}, Grana::Carattere);
+    IniziaTrascinamento(punto, {.Inizio = scelta_.Estremi().Ancora, .Lunghezza = 0}, Grana::Carattere);
   } else {
     const std::size_t posto = Veduta().PostoA(punto);
     IniziaTrascinamento(punto, {.Inizio = posto, .Lunghezza = 0}, Grana::Carattere);
@@ -44,14 +45,13 @@ void ricAnte::mouseDoubleClickEvent(QMouseEvent* evento) {
   if (evento->button() != Qt::LeftButton) return evento->ignore();
   puntoDoppio_ = evento->position().toPoint();
   dopoDoppio_.start();
-  IniziaTrascinamento(puntoDoppio_, ParolaA(*testo_, CarattereA(puntoDoppio_)), Grana::Parola);
+  IniziaTrascinamento(puntoDoppio_, ParolaA(Contenuto(), CarattereA(puntoDoppio_)), Grana::Parola);
 }
 
 void ricAnte::IniziaTrascinamento(QPoint punto, const Selezione& pezzo, Grana grana) {
   grana_ = grana;
   pezzoIniziale_ = pezzo;
   trascina_ = punto;
-  xVoluta_.reset();
   EstendiSelezione(punto);
 }
 
@@ -59,13 +59,11 @@ void ricAnte::IniziaTrascinamento(QPoint punto, const Selezione& pezzo, Grana gr
 void ricAnte::EstendiSelezione(QPoint punto) {
   const VedutaAnteprima veduta = Veduta();
   Selezione pezzo{.Inizio = veduta.PostoA(punto), .Lunghezza = 0};
-  if (grana_ == Grana::Parola) pezzo = ParolaA(*testo_, veduta.CarattereA(punto));
-  if (grana_ == Grana::Riga) pezzo = RigaA(*testo_, veduta.CarattereA(punto));
-  if (pezzo.Inizio < pezzoIniziale_.Inizio) {
-    Imposta(pezzoIniziale_.Fine(), pezzo.Inizio);
-  } else {
-    Imposta(pezzoIniziale_.Inizio, std::max(pezzo.Fine(), pezzoIniziale_.Fine()));
-  }
+  if (grana_ == Grana::Parola) pezzo = ParolaA(Contenuto(), veduta.CarattereA(punto));
+  if (grana_ == Grana::Riga) pezzo = RigaA(Contenuto(), veduta.CarattereA(punto));
+  const SelezioneAnteprima prima = scelta_;
+  scelta_.SelezionaFra(pezzoIniziale_, pezzo);
+  MostraMossa(prima);
 }
 
 void ricAnte::mouseMoveEvent(QMouseEvent* evento) {
@@ -85,8 +83,7 @@ void ricAnte::ScorriTrascinando() {
   const int altezzaRiga = static_cast<int>(celle_->Altezza({}));
   const int righe = Passi(FuoriDi(trascina_->y(), viewport()->height()), altezzaRiga);
   const int colonne = FuoriDi(trascina_->x(), viewport()->width());
-  verticalScrollBar()->setValue(verticalScrollBar()->value() + righe);
-  horizontalScrollBar()->setValue(horizontalScrollBar()->value() + colonne);
+  Scorri(righe, colonne);
   EstendiSelezione(*trascina_);
 }
 
@@ -94,7 +91,7 @@ void ricAnte::mouseReleaseEvent(QMouseEvent* evento) {
   if (evento->button() == Qt::LeftButton && trascina_) {
     trascina_.reset();
     scorrimento_.stop();
-    Rivela(cursore_);
+    Rivela(Cursore());
     OffriSelezione();
   }
   emit CursoreMosso();

@@ -20,46 +20,39 @@ namespace {
 /// Converts when it is asked: a selection may be as large as the preview, and is offered whenever it changes.
 class DatiTesto final : public QMimeData {
  public:
-  DatiTesto(std::shared_ptr<const TestoAnteprima> testo, Selezione parte)
-      : testo_(std::move(testo)), parte_(parte) {}
+  explicit DatiTesto(SelezioneAnteprima scelta) : scelta_(std::move(scelta)) {}
 
   QStringList formats() const override { return {QStringLiteral("text/plain")}; }
 
  protected:
   QVariant retrieveData(const QString& formato, QMetaType tipo) const override {
     if (!hasFormat(formato)) return QMimeData::retrieveData(formato, tipo);
-    return PerSchermo(testo_->Testo().substr(parte_.Inizio, parte_.Lunghezza));
+    return PerSchermo(scelta_.TestoSelezionato());
   }
 
  private:
-  std::shared_ptr<const TestoAnteprima> testo_;
-  Selezione parte_;
+  SelezioneAnteprima scelta_;
 };
 
 struct Tasto {
   QKeySequence::StandardKey Muove;
   QKeySequence::StandardKey Seleziona;
-  ricAnte::Movimento Dove;
+  Movimento Dove;
 };
 
 constexpr std::array Tasti = {
-    Tasto{QKeySequence::MoveToNextChar, QKeySequence::SelectNextChar, ricAnte::Movimento::CarattereDopo},
-    Tasto{QKeySequence::MoveToPreviousChar, QKeySequence::SelectPreviousChar,
-          ricAnte::Movimento::CarattereDavanti},
-    Tasto{QKeySequence::MoveToNextWord, QKeySequence::SelectNextWord, ricAnte::Movimento::ParolaDopo},
-    Tasto{QKeySequence::MoveToPreviousWord, QKeySequence::SelectPreviousWord,
-          ricAnte::Movimento::ParolaDavanti},
-    Tasto{QKeySequence::MoveToNextLine, QKeySequence::SelectNextLine, ricAnte::Movimento::RigaSotto},
-    Tasto{QKeySequence::MoveToPreviousLine, QKeySequence::SelectPreviousLine, ricAnte::Movimento::RigaSopra},
-    Tasto{QKeySequence::MoveToNextPage, QKeySequence::SelectNextPage, ricAnte::Movimento::PaginaSotto},
-    Tasto{QKeySequence::MoveToPreviousPage, QKeySequence::SelectPreviousPage,
-          ricAnte::Movimento::PaginaSopra},
-    Tasto{QKeySequence::MoveToStartOfLine, QKeySequence::SelectStartOfLine, ricAnte::Movimento::InizioRiga},
-    Tasto{QKeySequence::MoveToEndOfLine, QKeySequence::SelectEndOfLine, ricAnte::Movimento::TermineRiga},
-    Tasto{QKeySequence::MoveToStartOfDocument, QKeySequence::SelectStartOfDocument,
-          ricAnte::Movimento::InizioTesto},
-    Tasto{QKeySequence::MoveToEndOfDocument, QKeySequence::SelectEndOfDocument,
-          ricAnte::Movimento::FineTesto},
+    Tasto{QKeySequence::MoveToNextChar, QKeySequence::SelectNextChar, Movimento::CarattereDopo},
+    Tasto{QKeySequence::MoveToPreviousChar, QKeySequence::SelectPreviousChar, Movimento::CarattereDavanti},
+    Tasto{QKeySequence::MoveToNextWord, QKeySequence::SelectNextWord, Movimento::ParolaDopo},
+    Tasto{QKeySequence::MoveToPreviousWord, QKeySequence::SelectPreviousWord, Movimento::ParolaDavanti},
+    Tasto{QKeySequence::MoveToNextLine, QKeySequence::SelectNextLine, Movimento::RigaSotto},
+    Tasto{QKeySequence::MoveToPreviousLine, QKeySequence::SelectPreviousLine, Movimento::RigaSopra},
+    Tasto{QKeySequence::MoveToNextPage, QKeySequence::SelectNextPage, Movimento::PaginaSotto},
+    Tasto{QKeySequence::MoveToPreviousPage, QKeySequence::SelectPreviousPage, Movimento::PaginaSopra},
+    Tasto{QKeySequence::MoveToStartOfLine, QKeySequence::SelectStartOfLine, Movimento::InizioRiga},
+    Tasto{QKeySequence::MoveToEndOfLine, QKeySequence::SelectEndOfLine, Movimento::TermineRiga},
+    Tasto{QKeySequence::MoveToStartOfDocument, QKeySequence::SelectStartOfDocument, Movimento::InizioTesto},
+    Tasto{QKeySequence::MoveToEndOfDocument, QKeySequence::SelectEndOfDocument, Movimento::FineTesto},
 };
 
 const Tasto* TastoDi(const QKeyEvent& evento) {
@@ -87,7 +80,8 @@ void ricAnte::keyPressEvent(QKeyEvent* evento) {
   } else if (evento->matches(QKeySequence::SelectAll)) {
     SelezionaTutto();
   } else if (const Tasto* tasto = TastoDi(*evento)) {
-    Muovi(tasto->Dove, evento->matches(tasto->Seleziona));
+    const bool seleziona = evento->matches(tasto->Seleziona);
+    Muovi(tasto->Dove, seleziona ? ModoMovimento::Seleziona : ModoMovimento::Muove);
   } else {
     evento->ignore();
   }
@@ -101,73 +95,45 @@ void ricAnte::keyReleaseEvent(QKeyEvent* evento) {
   }
 }
 
-void ricAnte::Muovi(Movimento dove, bool seleziona) {
-  const bool verticale = dove == Movimento::RigaSopra || dove == Movimento::RigaSotto ||
-                         dove == Movimento::PaginaSopra || dove == Movimento::PaginaSotto;
-  if (!verticale) xVoluta_.reset();
-  const std::size_t cursore = verticale ? InVerticale(dove) : InOrizzontale(dove, seleziona);
-  Imposta(seleziona ? ancora_ : cursore, cursore);
-  Rivela(cursore_);
+void ricAnte::Muovi(Movimento dove, ModoMovimento modo) {
+  const bool pagina = dove == Movimento::PaginaSopra || dove == Movimento::PaginaSotto;
+  const int righe = pagina ? RighePerPagina() : 1;
+  const SelezioneAnteprima prima = scelta_;
+  scelta_.Muovi(dove, modo,
+                {.PerPagina = static_cast<std::size_t>(righe),
+                 .XDi = [this](std::size_t riga,
+                               std::size_t colonna) { return XDi(Contenuto(), riga, colonna, *celle_); },
+                 .ColonnaVicina = [this](std::size_t riga,
+                                         qreal x) { return ColonnaVicina(Contenuto(), riga, x, *celle_); }});
+  if (pagina) Scorri(dove == Movimento::PaginaSopra ? -righe : righe, 0);
+  MostraMossa(prima);
+  Rivela(Cursore());
   OffriSelezione();
 }
 
-std::size_t ricAnte::InOrizzontale(Movimento dove, bool seleziona) const {
-  const Selezione scelto = Selezionato();
-  const bool lascia = !seleziona && scelto.Lunghezza > 0;  // goes to an edge of what was selected
-  switch (dove) {
-    case Movimento::CarattereDopo:
-      return lascia ? scelto.Fine() : CarattereDopo(*testo_, cursore_);
-    case Movimento::CarattereDavanti:
-      return lascia ? scelto.Inizio : CarattereDavanti(*testo_, cursore_);
-    case Movimento::ParolaDopo:
-      return ParolaDopo(*testo_, cursore_);
-    case Movimento::ParolaDavanti:
-      return ParolaDavanti(*testo_, cursore_);
-    case Movimento::InizioRiga:
-      return testo_->InizioRiga(testo_->RigaDi(cursore_));
-    case Movimento::TermineRiga:
-      return testo_->TermineRiga(testo_->RigaDi(cursore_));
-    case Movimento::FineTesto:
-      return testo_->Testo().size();
-    default:
-      return 0;
-  }
-}
-
-/// Keeps to the x where the first of a row of vertical movements started. At the first and last line it
-/// stays.
-std::size_t ricAnte::InVerticale(Movimento dove) {
-  const bool pagina = dove == Movimento::PaginaSopra || dove == Movimento::PaginaSotto;
-  const bool sopra = dove == Movimento::RigaSopra || dove == Movimento::PaginaSopra;
-  const std::size_t riga = testo_->RigaDi(cursore_);
+/// How many lines show whole, without the last one, which the next page begins with.
+int ricAnte::RighePerPagina() const {
   const auto prima = static_cast<std::size_t>(verticalScrollBar()->value());
-  const std::size_t righe = pagina ? std::max<std::size_t>(Veduta().UltimaRigaIntera() - prima, 1) : 1;
-  const std::size_t nuova =
-      sopra ? riga - std::min(riga, righe) : std::min(riga + righe, testo_->NumRighe() - 1);
-  if (!xVoluta_) xVoluta_ = XDi(*testo_, riga, cursore_ - testo_->InizioRiga(riga), *celle_);
-  if (pagina) {
-    const int passo = static_cast<int>(righe);
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + (sopra ? -passo : passo));
-  }
-  return testo_->InizioRiga(nuova) + ColonnaVicina(*testo_, nuova, *xVoluta_, *celle_);
+  return static_cast<int>(std::max<std::size_t>(Veduta().UltimaRigaIntera() - prima, 1));
 }
 
 void ricAnte::SelezionaTutto() {
-  xVoluta_.reset();
-  Imposta(0, testo_->Testo().size());  // what shows stays
+  const SelezioneAnteprima prima = scelta_;
+  scelta_.SelezionaTutto();
+  MostraMossa(prima);  // what shows stays
   OffriSelezione();
 }
 
 void ricAnte::Copia() const {
-  if (ancora_ == cursore_) return;
-  QGuiApplication::clipboard()->setMimeData(new DatiTesto(testo_, Selezionato()));  // it takes it over
+  if (Selezionato().Lunghezza == 0) return;
+  QGuiApplication::clipboard()->setMimeData(new DatiTesto(scelta_));  // it takes it over
 }
 
 /// To whoever pastes with the middle button, where there is such a thing.
 void ricAnte::OffriSelezione() const {
   QClipboard* appunti = QGuiApplication::clipboard();
-  if (!appunti->supportsSelection() || ancora_ == cursore_) return;
-  appunti->setMimeData(new DatiTesto(testo_, Selezionato()), QClipboard::Selection);
+  if (!appunti->supportsSelection() || Selezionato().Lunghezza == 0) return;
+  appunti->setMimeData(new DatiTesto(scelta_), QClipboard::Selection);
 }
 
 void ricAnte::contextMenuEvent(QContextMenuEvent* evento) {
@@ -176,15 +142,15 @@ void ricAnte::contextMenuEvent(QContextMenuEvent* evento) {
   QAction* copia = menu->addAction(QIcon::fromTheme("edit-copy"), Voce("&Copy", QKeySequence::Copy), this,
                                    &ricAnte::Copia);
   copia->setObjectName("edit-copy");
-  copia->setEnabled(ancora_ != cursore_);
+  copia->setEnabled(Selezionato().Lunghezza > 0);
   menu->addSeparator();
   QAction* tutto =
       menu->addAction(QIcon::fromTheme("edit-select-all"), Voce("Select All", QKeySequence::SelectAll), this,
                       &ricAnte::SelezionaTutto);
   tutto->setObjectName("select-all");
-  tutto->setEnabled(!testo_->Testo().empty());
+  tutto->setEnabled(!Contenuto().Testo().empty());
   const bool daTastiera = evento->reason() == QContextMenuEvent::Keyboard;
-  const QPoint alCursore = viewport()->mapToGlobal(RettangoloDi(cursore_).bottomLeft());
+  const QPoint alCursore = viewport()->mapToGlobal(RettangoloDi(Cursore()).bottomLeft());
   menu->popup(daTastiera ? alCursore : evento->globalPos());
 }
 

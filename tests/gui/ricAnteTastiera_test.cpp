@@ -47,7 +47,11 @@ class TastoAnteprima : public testing::TestWithParam<Tasto> {
     pannello_.Premi(GetParam().Chiave, GetParam().Modificatori | inPiu);
   }
   /// The other end of the selection, and the caret.
-  std::pair<std::size_t, std::size_t> Estremi() { return {pannello_->Ancora(), pannello_->Cursore()}; }
+  std::pair<std::size_t, std::size_t> Estremi() {
+    const Selezione scelto = pannello_->Selezionato();
+    const std::size_t cursore = pannello_->Cursore();
+    return {cursore == scelto.Inizio ? scelto.Fine() : scelto.Inizio, cursore};
+  }
 
   Pannello pannello_{Testo};
 };
@@ -108,7 +112,8 @@ TEST(RicAnteTasti, CopyAndSelectAllAreThePanesAndNoShortcutsOfTheWindow) {
   QShortcut tutto(QKeySequence::SelectAll, &*pannello, [&scorciatoie] { ++scorciatoie; });
   QGuiApplication::clipboard()->setText("altro");
   pannello.Premi(Qt::Key_A, Ctrl);
-  EXPECT_EQ(std::pair(pannello->Ancora(), pannello->Cursore()), std::pair(std::size_t{0}, std::size_t{7}));
+  EXPECT_EQ(pannello->Selezionato(), (Selezione{0, 7}));
+  EXPECT_EQ(pannello->Cursore(), 7U);
   pannello.Premi(Qt::Key_C, Ctrl);
   EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), "uno due");
   EXPECT_EQ(scorciatoie, 0);
