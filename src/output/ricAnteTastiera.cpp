@@ -1,38 +1,19 @@
-// The keyboard, the clipboard and the menu of the preview pane.
+// The keyboard and the menu of the preview pane.
 #include <QAction>
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QMimeData>
 #include <QScrollBar>
 #include <algorithm>
+#include <array>
 
-#include "common/qtTesto.h"
 #include "output/ricAnte.h"
+#include "output/ricAppunti.h"
 
 namespace parvik {
 namespace {
-
-/// Converts when it is asked: a selection may be as large as the preview, and is offered whenever it changes.
-class DatiTesto final : public QMimeData {
- public:
-  explicit DatiTesto(SelezioneAnteprima scelta) : scelta_(std::move(scelta)) {}
-
-  QStringList formats() const override { return {QStringLiteral("text/plain")}; }
-
- protected:
-  QVariant retrieveData(const QString& formato, QMetaType tipo) const override {
-    if (!hasFormat(formato)) return QMimeData::retrieveData(formato, tipo);
-    return PerSchermo(scelta_.TestoSelezionato());
-  }
-
- private:
-  SelezioneAnteprima scelta_;
-};
 
 struct Tasto {
   QKeySequence::StandardKey Muove;
@@ -125,15 +106,12 @@ void ricAnte::SelezionaTutto() {
 }
 
 void ricAnte::Copia() const {
-  if (Selezionato().Lunghezza == 0) return;
-  QGuiApplication::clipboard()->setMimeData(new DatiTesto(scelta_));  // it takes it over
+  MettiNegliAppunti(scelta_, QClipboard::Clipboard);
 }
 
 /// To whoever pastes with the middle button, where there is such a thing.
 void ricAnte::OffriSelezione() const {
-  QClipboard* appunti = QGuiApplication::clipboard();
-  if (!appunti->supportsSelection() || Selezionato().Lunghezza == 0) return;
-  appunti->setMimeData(new DatiTesto(scelta_), QClipboard::Selection);
+  MettiNegliAppunti(scelta_, QClipboard::Selection);
 }
 
 void ricAnte::contextMenuEvent(QContextMenuEvent* evento) {
