@@ -3,8 +3,6 @@
 #pragma once
 
 #include <QAbstractScrollArea>
-#include <QBasicTimer>
-#include <QElapsedTimer>
 #include <QPoint>
 #include <QRect>
 #include <cstddef>
@@ -15,6 +13,9 @@
 #include "output/ricVeduta.h"
 
 namespace parvik {
+
+class ricLampeggio;
+class ricTrascinamento;
 
 class ricAnte final : public QAbstractScrollArea {
   Q_OBJECT
@@ -67,7 +68,6 @@ class ricAnte final : public QAbstractScrollArea {
   void resizeEvent(QResizeEvent* evento) override;
   void scrollContentsBy(int dx, int dy) override;
   void showEvent(QShowEvent* evento) override;
-  void timerEvent(QTimerEvent* evento) override;
   void focusInEvent(QFocusEvent* evento) override;
   void focusOutEvent(QFocusEvent* evento) override;
   void keyPressEvent(QKeyEvent* evento) override;
@@ -79,25 +79,19 @@ class ricAnte final : public QAbstractScrollArea {
   void contextMenuEvent(QContextMenuEvent* evento) override;
 
  private:
-  enum class Grana { Carattere, Parola, Riga };  // what a drag selects by
-
   VedutaAnteprima Veduta() const;
   void Rimisura();
   void RimisuraSeDiverso();
   void MisuraLarghezza();
   void AggiornaBarre();
-  void AccendiCursore();
   void MostraMossa(const SelezioneAnteprima& prima);
 
   static bool Riconosce(const QKeyEvent& evento);
   void Muovi(Movimento dove, ModoMovimento modo);
+  void SelezionaFra(const Selezione& dal, const Selezione& al);
   int RighePerPagina() const;
   void Scorri(int righe, int pixel);
   void OffriSelezione() const;
-
-  void IniziaTrascinamento(QPoint punto, const Selezione& pezzo, Grana grana);
-  void EstendiSelezione(QPoint punto);
-  void ScorriTrascinando();
 
   SelezioneAnteprima scelta_;  // what is shown, too
   std::optional<Celle> celle_;
@@ -105,15 +99,8 @@ class ricAnte final : public QAbstractScrollArea {
   int risoluzione_ = 0;
   int larghezza_ = 0;  // of the widest line, in pixels
 
-  bool cursoreAcceso_ = false;
-  QBasicTimer lampeggio_;
-
-  Grana grana_ = Grana::Carattere;
-  Selezione pezzoIniziale_;  // what the drag started with
-  std::optional<QPoint> trascina_;
-  QBasicTimer scorrimento_;
-  QElapsedTimer dopoDoppio_;
-  QPoint puntoDoppio_;
+  ricLampeggio* lampeggio_ = nullptr;
+  ricTrascinamento* trascinamento_ = nullptr;
 };
 
 }  // namespace parvik

@@ -34,6 +34,11 @@ class VedutaAnteprima {
   static std::size_t PrimaRigaPer(const TestoAnteprima& testo, const Celle& celle, std::size_t ultima,
                                   int altezza);
 
+  const TestoAnteprima& Testo() const { return testo_; }
+  QSize Dimensione() const { return finestrella_.Dimensione; }
+  /// Of a line in the pane's own look.
+  qreal AltezzaRiga() const { return celle_.Altezza({}); }
+
   /// The last line that fits whole; the first one at least.
   std::size_t UltimaRigaIntera() const;
 

@@ -110,9 +110,12 @@ TEST(RicAnteMouse, ATripleClickSelectsALineWithItsEnd) {
   QTest::mouseRelease(pannello->viewport(), Sinistro, {}, punto);
 }
 
-/// How many timers it has running.
+/// How many timers it and its parts have running.
 qsizetype Orologi(ricAnte& pannello) {
-  return QAbstractEventDispatcher::instance()->registeredTimers(&pannello).size();
+  const QAbstractEventDispatcher* orologi = QAbstractEventDispatcher::instance();
+  qsizetype quanti = orologi->registeredTimers(&pannello).size();
+  for (QObject* parte : pannello.findChildren<QObject*>()) quanti += orologi->registeredTimers(parte).size();
+  return quanti;
 }
 
 TEST(RicAnteMouse, AMouseHeldBelowScrollsOnAndSelects) {
