@@ -29,4 +29,9 @@ constexpr bool HaTreSezioni(std::int16_t numSezioni) {
   return numSezioni == 3;
 }
 
+/// Whether the section is one of such a template's.
+constexpr bool HaSezione(std::int16_t numSezioni, Sezione sezione) {
+  return sezione == Sezione::Testata || HaTreSezioni(numSezioni);
+}
+
 }  // namespace parvik

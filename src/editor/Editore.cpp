@@ -109,12 +109,17 @@ void Editore::Ripeti() {
 
 std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
   PARVIK_ESIGE(InUso(sezione), ConSezione);
+  return Conta(sezione);
+}
+
+/// A section that is out of sight keeps its text.
+std::optional<std::int16_t> Editore::Conta(Sezione sezione) {
   const Esito<ConteggioRighe> conteggio = ContaRigheSezione(documento_.Testo(sezione).Byte());
   if (!conteggio) {
     interlocutore_.Chiedi({.Testo = TestoErrore(conteggio.Errore())});
     return std::nullopt;
   }
-  if (conteggio->DaCompletare) documento_.CompletaUltimaRiga(sezione);
+  if (conteggio->DaCompletare && InUso(sezione)) documento_.CompletaUltimaRiga(sezione);
   return conteggio->Righe;
 }
 
@@ -128,8 +133,8 @@ void Editore::ImpostaCorpo(const ImpostazioniCorpo& corpo) {
 std::optional<Editore::RigheMostrate> Editore::CalcolaTotali() {
   TotaliRighe righe;
   righe.UnaSezione = Tipo().NumSezioni == 1;
-  const std::optional<std::int16_t> testata = ContaRighe(Sezione::Testata);
-  const std::optional<std::int16_t> piede = righe.UnaSezione ? std::int16_t{0} : ContaRighe(Sezione::Piede);
+  const std::optional<std::int16_t> testata = Conta(Sezione::Testata);
+  const std::optional<std::int16_t> piede = righe.UnaSezione ? std::int16_t{0} : Conta(Sezione::Piede);
   if (!testata || !piede) return std::nullopt;
   righe.Testata = *testata;
   righe.Corpo = documento_.Stato().Corpo.RigheCorpo;

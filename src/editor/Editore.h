@@ -37,7 +37,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
   bool TipoScelto() const { return tipo_ != nullptr; }
   bool TreSezioni() const { return TipoScelto() && HaTreSezioni(Tipo().NumSezioni); }
   /// Whether the section is one of the template's.
-  bool InUso(Sezione sezione) const { return sezione == Sezione::Testata ? TipoScelto() : TreSezioni(); }
+  bool InUso(Sezione sezione) const { return TipoScelto() && HaSezione(Tipo().NumSezioni, sezione); }
   /// The check mark of the preview; it stays as it was when the document type is given up.
   bool AnteSpuntata() const { return anteSpuntata_; }
   bool AnteVisibile() const { return TipoScelto() && anteSpuntata_; }
@@ -127,6 +127,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
  private:
   const TipoDoc& Tipo() const { return tipo_->Tipo(); }
   void ApplicaTipoDoc();
+  std::optional<std::int16_t> Conta(Sezione sezione);
   std::optional<RigheMostrate> CalcolaTotali();
 
   void ImpostaTitolo(std::string titolo) override;
