@@ -6,7 +6,6 @@
 #include "common/Delimitatori.h"
 #include "common/Precondizione.h"
 #include "common/Windows1252.h"
-#include "template/RigheSezione.h"
 #include "template/TastiSezione.h"
 
 namespace parvik {
@@ -28,6 +27,7 @@ Editore::Editore(Installazione installazione, Catalogo catalogo, Vista& vista, I
       comandi_(documento_, interlocutore, *this, installazione_.DirImg),
       resa_(documento_, flag_, vista, interlocutore),
       stampa_(documento_, installazione_, resa_, *this, vista, interlocutore),
+      conto_(documento_, interlocutore),
       titolo_(TitoloSenzaTipo) {}
 
 void Editore::ScegliTipo(std::size_t slot) {
@@ -109,18 +109,7 @@ void Editore::Ripeti() {
 
 std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
   PARVIK_ESIGE(InUso(sezione), ConSezione);
-  return Conta(sezione);
-}
-
-/// A section that is out of sight keeps its text.
-std::optional<std::int16_t> Editore::Conta(Sezione sezione) {
-  const Esito<ConteggioRighe> conteggio = ContaRigheSezione(documento_.Testo(sezione).Byte());
-  if (!conteggio) {
-    interlocutore_.Chiedi({.Testo = TestoErrore(conteggio.Errore())});
-    return std::nullopt;
-  }
-  if (conteggio->DaCompletare && InUso(sezione)) documento_.CompletaUltimaRiga(sezione);
-  return conteggio->Righe;
+  return conto_.Conta(Tipo(), sezione);
 }
 
 void Editore::ImpostaCorpo(const ImpostazioniCorpo& corpo) {
@@ -130,24 +119,9 @@ void Editore::ImpostaCorpo(const ImpostazioniCorpo& corpo) {
   documento_.Stato().Corpo = corpo;
 }
 
-std::optional<Editore::RigheMostrate> Editore::CalcolaTotali() {
-  TotaliRighe righe;
-  righe.UnaSezione = Tipo().NumSezioni == 1;
-  const std::optional<std::int16_t> testata = Conta(Sezione::Testata);
-  const std::optional<std::int16_t> piede = righe.UnaSezione ? std::int16_t{0} : Conta(Sezione::Piede);
-  if (!testata || !piede) return std::nullopt;
-  righe.Testata = *testata;
-  righe.Corpo = documento_.Stato().Corpo.RigheCorpo;
-  righe.Piede = *piede;
-  const Esito<std::int16_t> pagina = righe.Pagina();
-  if (pagina) return RigheMostrate{.Righe = righe, .Pagina = *pagina};
-  interlocutore_.Chiedi({.Testo = TestoErrore(pagina.Errore())});
-  return std::nullopt;
-}
-
 void Editore::CommutaRighe() {
   PARVIK_ESIGE(TipoScelto(), ConTipo);
-  totali_ = totali_ ? std::nullopt : CalcolaTotali();
+  conto_.Commuta(Tipo());
   vista_.Aggiorna();
 }
 
@@ -236,7 +210,7 @@ void Editore::TornaSenzaTipo() {
   titolo_ = TitoloSenzaTipo;
   flag_.Svuota();
   settaFlagSpuntata_ = false;
-  totali_.reset();
+  conto_.Nascondi();
   vista_.RicaricaFlagStampe();
   vista_.Aggiorna();
 }

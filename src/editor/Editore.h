@@ -13,12 +13,12 @@
 #include "catalogue/Catalogo.h"
 #include "common/Interlocutore.h"
 #include "editor/ComandoStampa.h"
+#include "editor/ContoRighe.h"
 #include "editor/Menu.h"
 #include "editor/Resa.h"
 #include "editor/TipoInUso.h"
 #include "editor/Vista.h"
 #include "output/FlagPerStampe.h"
-#include "output/TotaliRighe.h"
 #include "start/Installazione.h"
 #include "template/ComandiFile.h"
 #include "template/Documento.h"
@@ -45,7 +45,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
     return {.TipoScelto = TipoScelto(),
             .TreSezioni = TreSezioni(),
             .Anteprima = anteSpuntata_,
-            .TotaliRighe = totali_.has_value(),
+            .TotaliRighe = Totali().has_value(),
             .SettaFlag = settaFlagSpuntata_};
   }
   const Catalogo& Campi() const { return catalogo_; }
@@ -58,11 +58,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
   bool SettaFlagSpuntata() const { return settaFlagSpuntata_; }
   /// The numbers of the line-totals window; nullopt while it is not shown. They are those of the moment at
   /// which it was shown.
-  struct RigheMostrate {
-    TotaliRighe Righe;
-    std::int16_t Pagina = 0;
-  };
-  const std::optional<RigheMostrate>& Totali() const { return totali_; }
+  const std::optional<RigheMostrate>& Totali() const { return conto_.Mostrati(); }
 
   // --- what the user does
 
@@ -127,8 +123,6 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
  private:
   const TipoDoc& Tipo() const { return tipo_->Tipo(); }
   void ApplicaTipoDoc();
-  std::optional<std::int16_t> Conta(Sezione sezione);
-  std::optional<RigheMostrate> CalcolaTotali();
 
   void ImpostaTitolo(std::string titolo) override;
   void SpegniAnteprima() override;
@@ -146,11 +140,11 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
   ComandiFile comandi_;
   Resa resa_;
   ComandoStampa stampa_;
+  ContoRighe conto_;
   std::unique_ptr<TipoInUso> tipo_;  // nullptr while none is chosen
   std::string titolo_;
   bool anteSpuntata_ = false;
   bool settaFlagSpuntata_ = false;
-  std::optional<RigheMostrate> totali_;
   Sezione sezioneAttiva_ = Sezione::Testata;  // the one that last had the focus
 };
 

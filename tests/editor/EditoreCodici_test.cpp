@@ -48,15 +48,6 @@ TEST_F(EditoreCodici, CountsTheBodyAndCompletesItsLastLine) {
   EXPECT_EQ(Testo(Sezione::Corpo), "uno\r\ndue\r\n");
 }
 
-TEST_F(EditoreCodici, ABodyWithTooManyLinesIsSaidAndNotCounted) {
-  std::string righe;
-  for (int i = 0; i < 32768; ++i) righe += "\r\n";
-  Imposta(Sezione::Corpo, righe);
-  interlocutore_.Rispondera(Risposta::Ok);
-  EXPECT_EQ(editore_.ContaRighe(Sezione::Corpo), std::nullopt);
-  EXPECT_EQ(interlocutore_.Messaggi.front().Testo, "Si è verificato l'errore: 6 Overflow");
-}
-
 TEST_F(EditoreCodici, BodySettingsThatChangeMakeTheTemplateModified) {
   ImpostazioniCorpo corpo = editore_.Modello().Stato().Corpo;
   editore_.ImpostaCorpo(corpo);
@@ -65,16 +56,6 @@ TEST_F(EditoreCodici, BodySettingsThatChangeMakeTheTemplateModified) {
   editore_.ImpostaCorpo(corpo);
   EXPECT_TRUE(editore_.Modello().Stato().Modificato);
   EXPECT_EQ(editore_.Modello().Stato().Corpo, corpo);
-}
-
-TEST_F(EditoreCodici, ATotalBeyond16BitsIsSaidAndNotShown) {
-  ImpostazioniCorpo corpo = editore_.Modello().Stato().Corpo;
-  corpo.RigheCorpo = 32767;
-  editore_.ImpostaCorpo(corpo);
-  interlocutore_.Rispondera(Risposta::Ok);
-  editore_.CommutaRighe();
-  EXPECT_FALSE(editore_.Totali().has_value());
-  EXPECT_EQ(interlocutore_.Messaggi.front().Testo, "Si è verificato l'errore: 6 Overflow");
 }
 
 /// One section, whose second variable and second flag cannot be read.
