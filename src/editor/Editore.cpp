@@ -6,7 +6,6 @@
 #include "common/Delimitatori.h"
 #include "common/Precondizione.h"
 #include "common/Windows1252.h"
-#include "template/TastiSezione.h"
 
 namespace parvik {
 namespace {
@@ -28,6 +27,7 @@ Editore::Editore(Installazione installazione, Catalogo catalogo, Vista& vista, I
       resa_(documento_, flag_, vista, interlocutore),
       stampa_(documento_, installazione_, resa_, *this, vista, interlocutore),
       conto_(documento_, interlocutore),
+      inserimento_(documento_, vista),
       titolo_(TitoloSenzaTipo) {}
 
 void Editore::ScegliTipo(std::size_t slot) {
@@ -51,84 +51,6 @@ void Editore::ApplicaTipoDoc() {
   vista_.Aggiorna();
   tipo_->CaricaFlagStampe(flag_);
   vista_.RicaricaFlagStampe();
-}
-
-std::vector<Variabile> Editore::VariabiliDaOffrire() {
-  PARVIK_ESIGE(TipoScelto(), ConTipo);
-  return tipo_->VariabiliDaOffrire(sezioneAttiva_);
-}
-
-std::vector<parvik::Flag> Editore::FlagDaOffrire() {
-  PARVIK_ESIGE(TipoScelto(), ConTipo);
-  return tipo_->FlagDaOffrire(sezioneAttiva_);
-}
-
-std::string Editore::Descrivi(Sezione sezione, std::string_view contenuto) {
-  PARVIK_ESIGE(InUso(sezione), ConSezione);
-  return tipo_->Descrivi(sezione, contenuto);
-}
-
-void Editore::AttivaSezione(Sezione sezione) {
-  PARVIK_ESIGE(InUso(sezione), ConSezione);
-  sezioneAttiva_ = sezione;
-}
-
-void Editore::PreparaInserimento() {
-  PARVIK_ESIGE(TipoScelto(), ConTipo);
-  const Cursore cursore = vista_.CursoreIn(sezioneAttiva_);
-  const TestoSezione& testo = documento_.Testo(sezioneAttiva_);
-  const EsitoTasto esito = PremiTasto(testo, cursore.Selezionato(), TastoSezione::Togli);
-  if (esito.Azione == AzioneTasto::Allarga) vista_.ImpostaCursore(sezioneAttiva_, CursoreSu(esito.Nuova));
-}
-
-void Editore::SegnaModificato() {
-  PARVIK_ESIGE(TipoScelto(), ConTipo);
-  documento_.Stato().Modificato = true;
-}
-
-void Editore::InserisciCodici(std::span<const std::string> codici) {
-  PARVIK_ESIGE(TipoScelto(), ConTipo);
-  const Documento::PassoUnico passo(documento_);
-  for (const std::string& codice : codici) {
-    const Cursore cursore = vista_.CursoreIn(sezioneAttiva_);
-    const Selezione scelta = cursore.Selezionato();
-    documento_.Applica(sezioneAttiva_, {.Dove = scelta.Inizio, .Tolti = scelta.Lunghezza, .Messi = codice},
-                       GenereModifica::Intera, cursore);
-  }
-}
-
-void Editore::Annulla() {
-  PARVIK_ESIGE(TipoScelto(), ConTipo);
-  if (documento_.PuoAnnullare()) vista_.Raggiungi(documento_.Annulla());
-}
-
-void Editore::Ripeti() {
-  PARVIK_ESIGE(TipoScelto(), ConTipo);
-  if (documento_.PuoRipetere()) vista_.Raggiungi(documento_.Ripeti());
-}
-
-std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
-  PARVIK_ESIGE(InUso(sezione), ConSezione);
-  return conto_.Conta(Tipo(), sezione);
-}
-
-void Editore::ImpostaCorpo(const ImpostazioniCorpo& corpo) {
-  PARVIK_ESIGE(TreSezioni(), "the document type has three sections");
-  if (corpo != documento_.Stato().Corpo)
-    documento_.Stato().Modificato = true;  // the file would be another one
-  documento_.Stato().Corpo = corpo;
-}
-
-void Editore::CommutaRighe() {
-  PARVIK_ESIGE(TipoScelto(), ConTipo);
-  conto_.Commuta(Tipo());
-  vista_.Aggiorna();
-}
-
-void Editore::CommutaSettaFlag() {
-  PARVIK_ESIGE(TipoScelto(), ConTipo);
-  settaFlagSpuntata_ = !settaFlagSpuntata_;
-  vista_.Aggiorna();
 }
 
 void Editore::Nuovo() {
@@ -167,24 +89,10 @@ void Editore::SalvaConNome() {
   vista_.Aggiorna();
 }
 
-bool Editore::AccendiAnteprima() {
-  anteSpuntata_ = true;
-  vista_.Aggiorna();
-  return resa_.RiempiAnteprima(Tipo());
-}
-
-void Editore::SpegniAnteprima() {
-  anteSpuntata_ = false;
-  vista_.Aggiorna();
-}
-
 void Editore::CommutaAnteprima() {
   PARVIK_ESIGE(TipoScelto(), ConTipo);
-  if (anteSpuntata_) {
-    SpegniAnteprima();
-  } else {
-    AccendiAnteprima();
-  }
+  if (anteSpuntata_) return SpegniAnteprima();
+  AccendiAnteprima();
 }
 
 void Editore::Stampa() {
@@ -192,12 +100,78 @@ void Editore::Stampa() {
   if (comandi_.VerificaStampa(Tipo())) stampa_.Esegui(Tipo());
 }
 
-bool Editore::PuoChiudere() {
-  return !TipoScelto() || comandi_.PuoChiudere(Tipo());
+void Editore::CommutaSettaFlag() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  settaFlagSpuntata_ = !settaFlagSpuntata_;
+  vista_.Aggiorna();
 }
 
-void Editore::ImpostaTitolo(std::string titolo) {
-  titolo_ = std::move(titolo);
+void Editore::CommutaRighe() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  conto_.Commuta(Tipo());
+  vista_.Aggiorna();
+}
+
+void Editore::AttivaSezione(Sezione sezione) {
+  PARVIK_ESIGE(InUso(sezione), ConSezione);
+  inserimento_.ImpostaAttiva(sezione);
+}
+
+void Editore::PreparaInserimento() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  inserimento_.Prepara();
+}
+
+void Editore::InserisciCodici(std::span<const std::string> codici) {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  inserimento_.Inserisci(codici);
+}
+
+void Editore::Annulla() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  if (documento_.PuoAnnullare()) vista_.Raggiungi(documento_.Annulla());
+}
+
+void Editore::Ripeti() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  if (documento_.PuoRipetere()) vista_.Raggiungi(documento_.Ripeti());
+}
+
+std::vector<Variabile> Editore::VariabiliDaOffrire() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  return tipo_->VariabiliDaOffrire(inserimento_.Attiva());
+}
+
+std::vector<parvik::Flag> Editore::FlagDaOffrire() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  return tipo_->FlagDaOffrire(inserimento_.Attiva());
+}
+
+std::string Editore::Descrivi(Sezione sezione, std::string_view contenuto) {
+  PARVIK_ESIGE(InUso(sezione), ConSezione);
+  return tipo_->Descrivi(sezione, contenuto);
+}
+
+std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
+  PARVIK_ESIGE(InUso(sezione), ConSezione);
+  return conto_.Conta(Tipo(), sezione);
+}
+
+void Editore::ImpostaCorpo(const ImpostazioniCorpo& corpo) {
+  PARVIK_ESIGE(TreSezioni(), "the document type has three sections");
+  if (corpo != documento_.Stato().Corpo)
+    documento_.Stato().Modificato = true;  // the file would be another one
+  documento_.Stato().Corpo = corpo;
+}
+
+void Editore::SegnaModificato() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  documento_.Stato().Modificato = true;
+}
+
+void Editore::SpegniAnteprima() {
+  anteSpuntata_ = false;
+  vista_.Aggiorna();
 }
 
 void Editore::AzzeraFlagStampe() {
@@ -213,6 +187,12 @@ void Editore::TornaSenzaTipo() {
   conto_.Nascondi();
   vista_.RicaricaFlagStampe();
   vista_.Aggiorna();
+}
+
+bool Editore::AccendiAnteprima() {
+  anteSpuntata_ = true;
+  vista_.Aggiorna();
+  return resa_.RiempiAnteprima(Tipo());
 }
 
 }  // namespace parvik

@@ -8,12 +8,14 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "catalogue/Catalogo.h"
 #include "common/Interlocutore.h"
 #include "editor/ComandoStampa.h"
 #include "editor/ContoRighe.h"
+#include "editor/Inserimento.h"
 #include "editor/Menu.h"
 #include "editor/Resa.h"
 #include "editor/TipoInUso.h"
@@ -86,15 +88,12 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
   void CommutaSettaFlag();
   /// The menu entry of the line totals: shows the numbers of this moment, or hides them.
   void CommutaRighe();
-  /// One that is in use.
+  /// The section that now has the focus; it must be in use.
   void AttivaSezione(Sezione sezione);
 
-  /// Before a dialog that builds a code is shown: what its answer will take the place of cuts no code.
+  /// Before a dialog that builds a code is shown.
   void PreparaInserimento();
-
-  /// The one routine through which every dialog inserts finished codes: at the caret of the active section,
-  /// the first in place of its selection, each next one behind it; one step to undo. The template is modified
-  /// by it, even if a code is empty.
+  /// The one routine through which every dialog inserts finished codes (editor/Inserimento.h).
   void InserisciCodici(std::span<const std::string> codici);
 
   /// Takes back, or does again, the last change of all sections; nothing where there is none.
@@ -116,7 +115,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
   void ImpostaCorpo(const ImpostazioniCorpo& corpo);
 
   /// Whether the window may close. Asks when the template is modified. In every state.
-  bool PuoChiudere();
+  bool PuoChiudere() { return !TipoScelto() || comandi_.PuoChiudere(Tipo()); }
   /// A section was edited, or a key was pressed in it.
   void SegnaModificato();
 
@@ -124,7 +123,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
   const TipoDoc& Tipo() const { return tipo_->Tipo(); }
   void ApplicaTipoDoc();
 
-  void ImpostaTitolo(std::string titolo) override;
+  void ImpostaTitolo(std::string titolo) override { titolo_ = std::move(titolo); }
   void SpegniAnteprima() override;
   void AzzeraFlagStampe() override;
   void TornaSenzaTipo() override;
@@ -141,11 +140,11 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
   Resa resa_;
   ComandoStampa stampa_;
   ContoRighe conto_;
+  Inserimento inserimento_;
   std::unique_ptr<TipoInUso> tipo_;  // nullptr while none is chosen
   std::string titolo_;
   bool anteSpuntata_ = false;
   bool settaFlagSpuntata_ = false;
-  Sezione sezioneAttiva_ = Sezione::Testata;  // the one that last had the focus
 };
 
 }  // namespace parvik
