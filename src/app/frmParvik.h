@@ -63,7 +63,6 @@ class frmParvik final : public QMainWindow, private Vista {
   void CreaPassi();
   /// Undo or redo, over all sections.
   using PassoEditore = void (Editore::*)();
-  void CollegaPasso(QKeySequence::StandardKey tasti, const char* nome, PassoEditore passo);
   void EseguiPasso(PassoEditore passo);
   Finestra Misure() const;
   void ResizeControls();

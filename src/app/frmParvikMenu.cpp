@@ -2,17 +2,9 @@
 #include <QMenuBar>
 
 #include "app/frmParvik.h"
+#include "app/qtPassi.h"
 
 namespace parvik {
-namespace {
-
-/// The keys of undo and redo on every system, beside those that it has itself.
-QList<QKeySequence> TastiSempreValidi(QKeySequence::StandardKey tasti) {
-  if (tasti == QKeySequence::Undo) return {QKeySequence(Qt::CTRL | Qt::Key_Z)};
-  return {QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)};
-}
-
-}  // namespace
 
 /// What cannot be used does nothing, however it was called.
 void frmParvik::CreaMenu() {
@@ -67,19 +59,9 @@ void frmParvik::Esegui(Comando comando) {
 }
 
 void frmParvik::CreaPassi() {
-  CollegaPasso(QKeySequence::Undo, "mnuAnnulla", &Editore::Annulla);
-  CollegaPasso(QKeySequence::Redo, "mnuRipeti", &Editore::Ripeti);
-}
-
-void frmParvik::CollegaPasso(QKeySequence::StandardKey tasti, const char* nome, PassoEditore passo) {
-  auto* azione = new QAction(this);
-  azione->setObjectName(nome);
-  QList<QKeySequence> tutti = QKeySequence::keyBindings(tasti);
-  for (const QKeySequence& altro : TastiSempreValidi(tasti))
-    if (!tutti.contains(altro)) tutti += altro;
-  azione->setShortcuts(tutti);
-  addAction(azione);
-  connect(azione, &QAction::triggered, this, [this, passo] { EseguiPasso(passo); });
+  auto* passi = new qtPassi(this);
+  connect(passi, &qtPassi::DaAnnullare, this, [this] { EseguiPasso(&Editore::Annulla); });
+  connect(passi, &qtPassi::DaRipetere, this, [this] { EseguiPasso(&Editore::Ripeti); });
 }
 
 void frmParvik::EseguiPasso(PassoEditore passo) {
