@@ -2,11 +2,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <cmath>
 #include <utility>
 
-#include "app/frmAbout.h"
-#include "app/qtDivisore.h"
 #include "common/qtAttesa.h"
 #include "common/qtSchermo.h"
 #include "common/qtTastiInCoda.h"
@@ -14,32 +11,12 @@
 #include "common/qtTesto.h"
 #include "output/frmDestStampa.h"
 #include "output/qtStampa.h"
-#include "output/ricAccessibile.h"
 #include "start/CartelleProgramma.h"
-#include "template/txtAccessibile.h"
 
 namespace parvik {
 namespace {
 
-constexpr int SinistraEtichette = 4;  // pixels
 const QSize DimensioneIniziale(1100, 700);
-
-int InTwip(int pixel) {
-  return pixel * TwipPerPixel;
-}
-
-/// Both edges are rounded, not the width: neighbours stay neighbours.
-QRect InPixel(const Rettangolo& twip) {
-  const auto pixel = [](int valore) { return static_cast<int>(std::lround(valore / double{TwipPerPixel})); };
-  const QPoint inizio(pixel(twip.Sinistra), pixel(twip.Alto));
-  const QPoint fine(pixel(twip.Sinistra + twip.Larghezza), pixel(twip.Alto + twip.Altezza));
-  return {inizio, QSize(fine.x() - inizio.x(), fine.y() - inizio.y())};
-}
-
-void Colloca(QWidget& controllo, const std::optional<Rettangolo>& posto) {
-  controllo.setVisible(posto.has_value());
-  if (posto) controllo.setGeometry(InPixel(*posto));
-}
 
 /// The pane's selection, or all of it.
 Selezione DaStampare(const ricAnte& pannello) {
@@ -53,53 +30,34 @@ Selezione DaStampare(const ricAnte& pannello) {
 frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
     : dirProgramma_(std::move(dati.DirProgramma)),
       editore_(std::move(dati.Dove), std::move(dati.Campi), *this, interlocutore),
-      maschere_(editore_, *this) {
+      maschere_(editore_, *this),
+      finestrelle_(editore_, *this) {
   setObjectName("frmParvik");
   new qtTastiInCoda(this);
   new qtTastiRipetuti(this);
-  CreaControlli();
+  CreaArea();
   CreaMenu();
   CreaPassi();
   resize(EntroLoSchermo(*this, DimensioneIniziale));
   Aggiorna();
 }
 
-void frmParvik::CreaControlli() {
-  txtAccessibile::Registra();
-  ricAccessibile::Registra();
-  area_ = new QWidget(this);
-  area_->installEventFilter(this);
+void frmParvik::CreaArea() {
+  area_ = new qtArea(editore_.Modello(), this);
   setCentralWidget(area_);
   for (const Sezione sezione : TutteLeSezioni) {
-    etichette_[Indice(sezione)] = new lblTCP(sezione, area_);
-    CreaSezione(sezione);
+    area_->Editor(sezione).ImpostaDescrizione([this, sezione](std::string_view contenuto) {
+      return DaUtf8(editore_.Descrivi(sezione, contenuto));
+    });
+    CollegaSezione(sezione);
   }
-  anteprima_ = new ricAnte(area_);
-  lblRighe_ = new lblRighe(*anteprima_, area_);
-  lblRighe_->stackUnder(anteprima_);  // it is read first
-  CreaDivisore();
   CreaApertura();
-}
-
-void frmParvik::CreaDivisore() {
-  auto* divisore = new qtDivisore(anteprima_, this);
-  for (txtTCP* sezione : sezioni_) divisore->Osserva(sezione);
-  for (lblTCP* etichetta : etichette_) divisore->Osserva(etichetta);
-  connect(divisore, &qtDivisore::Spostato, this, &frmParvik::SpostaDivisore);
-}
-
-void frmParvik::CreaSezione(Sezione sezione) {
-  auto* editor = new txtTCP(editore_.Modello(), sezione, area_);
-  editor->ImpostaDescrizione(
-      [this, sezione](std::string_view contenuto) { return DaUtf8(editore_.Descrivi(sezione, contenuto)); });
-  sezioni_[Indice(sezione)] = editor;
-  CollegaSezione(sezione);
 }
 
 /// What a section tells counts only while it is in use.
 void frmParvik::CollegaSezione(Sezione sezione) {
   const auto collega = [this, sezione](auto segnale, auto comando) {
-    connect(sezioni_[Indice(sezione)], segnale, this, [this, sezione, comando](const auto&... dati) {
+    connect(&area_->Editor(sezione), segnale, this, [this, sezione, comando](const auto&... dati) {
       if (editore_.InUso(sezione)) comando(dati...);
     });
   };
@@ -114,14 +72,9 @@ void frmParvik::CollegaSezione(Sezione sezione) {
   collega(&txtTCP::VariabileDaInserire, [this] { maschere_.ApriForm(TipoCodice::Variabile); });
 }
 
-void frmParvik::MisuraEtichette() {
-  if (etichetteMisurate_) return;
-  etichetteMisurate_ = true;
-  for (lblTCP* etichetta : etichette_) etichetta->Misura();
-}
-
-void frmParvik::MostraInformazioni() {
-  frmAbout(this).exec();
+void frmParvik::AttivaSezione(Sezione sezione) {
+  editore_.AttivaSezione(sezione);
+  area_->Attiva(sezione);
 }
 
 void frmParvik::Aggiorna() {
@@ -129,84 +82,16 @@ void frmParvik::Aggiorna() {
   setWindowTitle(DaUtf8(editore_.Titolo()).replace("[*]", "[*][*]"));
   if (!editore_.TipoScelto()) setFocus();  // keys have nowhere else to go
   menu_->Aggiorna(editore_.PerMenu());
-  ResizeControls();
-  MostraFlagStampe();
-  MostraTotali();
-}
-
-void frmParvik::MostraTotali() {
-  const auto& totali = editore_.Totali();
-  if (totali.has_value() == (totali_ != nullptr)) return;
-  totali_ = totali ? std::make_unique<frmTotRighe>(totali->Righe, totali->Pagina, this) : nullptr;
-  if (totali_) totali_->show();
-}
-
-void frmParvik::MostraFlagStampe() {
-  const bool visibile = editore_.SettaFlagSpuntata();
-  if (settaFlag_ == nullptr && !visibile) return;
-  if (settaFlag_ == nullptr) {
-    settaFlag_ = new frmSettaFlag(editore_.Flag(), this);
-    connect(settaFlag_, &frmSettaFlag::Nascosta, this, [this] {
-      if (editore_.SettaFlagSpuntata()) editore_.CommutaSettaFlag();
-    });
-  }
-  settaFlag_->setVisible(visibile);
-}
-
-void frmParvik::RicaricaFlagStampe() {
-  if (settaFlag_ != nullptr) settaFlag_->Ricarica();
-}
-
-void frmParvik::AttivaSezione(Sezione sezione) {
-  editore_.AttivaSezione(sezione);
-  ColoraLabel(sezione);
-}
-
-Finestra frmParvik::Misure() const {
-  return {.Larghezza = InTwip(area_->width()),
-          .Altezza = InTwip(area_->height()),
-          .SinistraSezioni = InTwip(2 * SinistraEtichette + etichette_[0]->width()),
-          .SinistraEtichette = InTwip(SinistraEtichette),
-          .TreSezioni = editore_.TreSezioni(),
-          .Anteprima = editore_.AnteVisibile(),
-          .Divisore = divisore_};
-}
-
-void frmParvik::SpostaDivisore(int x) {
-  const std::optional<int> ammesso = DivisoreAmmesso(Misure(), InTwip(x));
-  if (!ammesso) return;
-  divisore_ = ammesso;
-  ResizeControls();
-}
-
-void frmParvik::ResizeControls() {
-  if (!editore_.AnteVisibile()) divisore_.reset();
-  Disposizione disposizione;
-  if (editore_.TipoScelto()) {
-    MisuraEtichette();
-    disposizione = Disponi(Misure());
-  }
-  for (std::size_t i = 0; i < MaxSezioni; ++i) {
-    Colloca(*sezioni_[i], disposizione.Sezioni[i]);
-    sezioni_[i]->ImpostaUso(editore_.InUso(TutteLeSezioni[i]));
-    const auto& etichetta = disposizione.Etichette[i];
-    etichette_[i]->setVisible(etichetta.has_value());
-    if (etichetta) etichette_[i]->move(InPixel(*etichetta).topLeft());
-  }
-  Colloca(*lblRighe_, disposizione.StatoAnteprima);
-  Colloca(*anteprima_, disposizione.Anteprima);
-}
-
-void frmParvik::ColoraLabel(Sezione attiva) {
-  for (const Sezione sezione : TutteLeSezioni) etichette_[Indice(sezione)]->Attiva(sezione == attiva);
+  area_->Mostra(editore_.PerArea());
+  finestrelle_.Aggiorna();
 }
 
 void frmParvik::MostraAnteprima(Anteprima anteprima) {
-  anteprima_->Mostra(std::move(anteprima));
+  area_->Pannello().Mostra(std::move(anteprima));
 }
 
 void frmParvik::CompletaAnteprima(Anteprima anteprima) {
-  anteprima_->Completa(std::move(anteprima));
+  area_->Pannello().Completa(std::move(anteprima));
 }
 
 Esito<void> frmParvik::Attendi(const std::function<void(std::stop_token)>& lavoro) {
@@ -230,36 +115,29 @@ Esito<Vista::Tipografo, std::string> frmParvik::ScegliStampante() {
   return Tipografo([this, stampante](const std::string& nomeLavoro) {
     if (!isVisible()) return;  // the program is ending
     stampante->Intitola(DaUtf8(nomeLavoro));
-    StampaConAttesa(*stampante, anteprima_->Contenuto(), DaStampare(*anteprima_), this);
+    StampaConAttesa(*stampante, area_->Pannello().Contenuto(), DaStampare(area_->Pannello()), this);
   });
 }
 
 Cursore frmParvik::CursoreIn(Sezione sezione) const {
-  return sezioni_[Indice(sezione)]->CursoreAttuale();
+  return area_->Editor(sezione).CursoreAttuale();
 }
 
 void frmParvik::ImpostaCursore(Sezione sezione, Cursore cursore) {
-  sezioni_[Indice(sezione)]->Poni(cursore);
+  area_->Editor(sezione).Poni(cursore);
 }
 
 void frmParvik::Raggiungi(const CursoreSezione& cursore) {
-  txtTCP& sezione = *sezioni_[Indice(cursore.Dove)];
-  sezione.Poni(cursore.Dentro);
-  sezione.setFocus(Qt::OtherFocusReason);
-  sezione.ensureCursorVisible();
+  area_->Raggiungi(cursore);
   AttivaSezione(cursore.Dove);
+}
+
+void frmParvik::RicaricaFlagStampe() {
+  finestrelle_.RicaricaFlag();
 }
 
 void frmParvik::closeEvent(QCloseEvent* evento) {
   evento->setAccepted(!inAttesa_ && editore_.PuoChiudere());
-}
-
-bool frmParvik::eventFilter(QObject* oggetto, QEvent* evento) {
-  if (oggetto == area_ && evento->type() == QEvent::Resize) {
-    divisore_.reset();
-    ResizeControls();
-  }
-  return QMainWindow::eventFilter(oggetto, evento);
 }
 
 }  // namespace parvik

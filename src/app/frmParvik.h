@@ -1,23 +1,19 @@
-// The main editor window: the controls, and the wiring between them and the editor's commands.
+// The main editor window: the wiring between the editor's commands and what shows them.
 #pragma once
 
 #include <QMainWindow>
-#include <array>
 #include <filesystem>
-#include <memory>
+#include <functional>
+#include <optional>
 #include <string>
 
-#include "app/lblTCP.h"
+#include "app/qtArea.h"
+#include "app/qtFinestrelle.h"
 #include "app/qtMaschere.h"
 #include "app/qtMenu.h"
-#include "editor/Disposizione.h"
 #include "editor/Editore.h"
-#include "output/frmSettaFlag.h"
-#include "output/frmTotRighe.h"
-#include "output/lblRighe.h"
-#include "output/ricAnte.h"
+#include "editor/Vista.h"
 #include "start/Avvio.h"
-#include "template/txtTCP.h"
 
 namespace parvik {
 
@@ -37,7 +33,6 @@ class frmParvik final : public QMainWindow, private Vista {
 
  protected:
   void closeEvent(QCloseEvent* evento) override;
-  bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
  private:
   // What the editor's commands see of the window.
@@ -52,46 +47,32 @@ class frmParvik final : public QMainWindow, private Vista {
   void Raggiungi(const CursoreSezione& cursore) override;
   void RicaricaFlagStampe() override;
 
-  void CreaControlli();
-  void CreaDivisore();
-  void CreaApertura();
-  void MisuraEtichette();
-  void CreaSezione(Sezione sezione);
+  void CreaArea();
   void CollegaSezione(Sezione sezione);
+  void AttivaSezione(Sezione sezione);
+
+  // frmParvikMenu.cpp
   void CreaMenu();
   void Esegui(Comando comando);
   void CreaPassi();
   /// Undo or redo, over all sections.
   using PassoEditore = void (Editore::*)();
   void EseguiPasso(PassoEditore passo);
-  Finestra Misure() const;
-  void ResizeControls();
-  void SpostaDivisore(int x);
-  void ColoraLabel(Sezione attiva);
 
+  // frmParvikApertura.cpp
+  void CreaApertura();
   /// True when a type was chosen.
   bool ScegliTipo(std::size_t proposta);
   void ApplicaTipo(std::size_t slot);
   void ApriDaFuori(const std::filesystem::path& file);
-  void MostraInformazioni();
-  void MostraFlagStampe();
-  void MostraTotali();
-  void AttivaSezione(Sezione sezione);
 
-  QWidget* area_ = nullptr;
-  std::array<txtTCP*, MaxSezioni> sezioni_ = {};
-  std::array<lblTCP*, MaxSezioni> etichette_ = {};
-  lblRighe* lblRighe_ = nullptr;
-  ricAnte* anteprima_ = nullptr;
-  std::optional<int> divisore_;  // in twips; where the user has dragged the boundary since the last resize
-  bool inAttesa_ = false;        // a command waits for its work: the window stays
-  bool etichetteMisurate_ = false;
+  qtArea* area_ = nullptr;
   qtMenu* menu_ = nullptr;
-  std::unique_ptr<frmTotRighe> totali_;  // made anew each time it is shown
-  frmSettaFlag* settaFlag_ = nullptr;    // made when it is first shown
-  std::filesystem::path dirProgramma_;   // where the print module is looked for from
+  std::filesystem::path dirProgramma_;  // where the print module is looked for from
+  bool inAttesa_ = false;               // a command waits for its work: the window stays
   Editore editore_;
   qtMaschere maschere_;
+  qtFinestrelle finestrelle_;
 };
 
 }  // namespace parvik

@@ -10,7 +10,7 @@ namespace parvik {
 void frmParvik::CreaApertura() {
   auto* apertura = new qtApertura(this);
   apertura->Osserva(*this);
-  for (txtTCP* sezione : sezioni_) apertura->Osserva(*sezione->viewport());
+  for (const Sezione sezione : TutteLeSezioni) apertura->Osserva(*area_->Editor(sezione).viewport());
   connect(apertura, &qtApertura::Depositato, this,
           [this](const QString& file) { ApriDaFuori(file.toStdString()); });
 }
@@ -29,7 +29,7 @@ bool frmParvik::ScegliTipo(std::size_t proposta) {
 void frmParvik::ApplicaTipo(std::size_t slot) {
   editore_.ScegliTipo(slot);
   AttivaSezione(Sezione::Testata);
-  sezioni_[Indice(Sezione::Testata)]->setFocus();
+  area_->Editor(Sezione::Testata).setFocus();
 }
 
 void frmParvik::ApriDaFuori(const std::filesystem::path& file) {

@@ -1,6 +1,7 @@
 // The main window's commands: what each entry of the menus calls, and undo and redo.
 #include <QMenuBar>
 
+#include "app/frmAbout.h"
 #include "app/frmParvik.h"
 #include "app/qtPassi.h"
 
@@ -31,7 +32,8 @@ void frmParvik::Esegui(Comando comando) {
     case Comando::Stampa:
       return editore_.Stampa();
     case Comando::Informazioni:
-      return MostraInformazioni();
+      frmAbout(this).exec();
+      break;
     case Comando::Esci:
       close();
       break;
@@ -66,7 +68,7 @@ void frmParvik::CreaPassi() {
 
 void frmParvik::EseguiPasso(PassoEditore passo) {
   if (!editore_.TipoScelto()) return;
-  for (txtTCP* sezione : sezioni_) sezione->FinisciComposizione();
+  area_->FinisciComposizione();
   (editore_.*passo)();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <optional>
 
 #include "common/Sezione.h"
@@ -34,6 +35,14 @@ struct Finestra {
 /// The nearest place where the boundary may stand: both columns keep 120 pixels, or a quarter of the window's
 /// width where that is less. nullopt in a window too narrow even for that.
 std::optional<int> DivisoreAmmesso(const Finestra& finestra, int divisore);
+
+/// What the window has to show.
+struct StatoArea {
+  std::optional<std::int16_t> NumSezioni;  // of the document type; nullopt while none is chosen
+  bool Anteprima = false;
+
+  bool InUso(Sezione sezione) const { return NumSezioni && HaSezione(*NumSezioni, sezione); }
+};
 
 /// Only what is laid out has a place; the rest is hidden.
 struct Disposizione {

@@ -15,6 +15,7 @@
 #include "common/Interlocutore.h"
 #include "editor/ComandoStampa.h"
 #include "editor/ContoRighe.h"
+#include "editor/Disposizione.h"
 #include "editor/Inserimento.h"
 #include "editor/Menu.h"
 #include "editor/Resa.h"
@@ -39,10 +40,14 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
   bool TipoScelto() const { return tipo_ != nullptr; }
   bool TreSezioni() const { return TipoScelto() && HaTreSezioni(Tipo().NumSezioni); }
   /// Whether the section is one of the template's.
-  bool InUso(Sezione sezione) const { return TipoScelto() && HaSezione(Tipo().NumSezioni, sezione); }
+  bool InUso(Sezione sezione) const { return PerArea().InUso(sezione); }
   /// The check mark of the preview; it stays as it was when the document type is given up.
   bool AnteSpuntata() const { return anteSpuntata_; }
-  bool AnteVisibile() const { return TipoScelto() && anteSpuntata_; }
+  bool AnteVisibile() const { return PerArea().Anteprima; }
+  StatoArea PerArea() const {
+    if (!TipoScelto()) return {};
+    return {.NumSezioni = Tipo().NumSezioni, .Anteprima = anteSpuntata_};
+  }
   StatoMenu PerMenu() const {
     return {.TipoScelto = TipoScelto(),
             .TreSezioni = TreSezioni(),

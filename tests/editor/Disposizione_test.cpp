@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <optional>
 #include <ostream>
+#include <vector>
 
 namespace parvik {
 
@@ -131,6 +134,20 @@ TEST(Disponi, WithoutAPreviewThereIsNoBoundary) {
   const Disposizione prima = Disponi(finestra);
   finestra.Divisore = 3000;
   EXPECT_EQ(prima, Disponi(finestra));
+}
+
+TEST(StatoArea, HasNoSectionWithoutATypeOneByItselfAndThreeWithExactlyThree) {
+  const auto inUso = [](std::optional<std::int16_t> numSezioni) {
+    const StatoArea stato{.NumSezioni = numSezioni};
+    std::vector<Sezione> quali;
+    for (const Sezione sezione : TutteLeSezioni)
+      if (stato.InUso(sezione)) quali.push_back(sezione);
+    return quali;
+  };
+  EXPECT_EQ(inUso(std::nullopt), std::vector<Sezione>());
+  for (const std::int16_t una : std::to_array<std::int16_t>({0, 1, 2, 4}))
+    EXPECT_EQ(inUso(una), std::vector{Sezione::Testata}) << una;
+  EXPECT_EQ(inUso(3), std::vector(TutteLeSezioni.begin(), TutteLeSezioni.end()));
 }
 
 TEST(DivisoreAmmesso, LeavesEachColumnAHundredAndTwentyPixels) {
