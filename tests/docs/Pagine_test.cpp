@@ -58,6 +58,29 @@ TEST(Pagine, NameOnlySourcesThatExist) {
   EXPECT_GE(nominati, 10);
 }
 
+/// Whether a header or source of the program says both words.
+bool DiceInsieme(const std::string& classe, const std::string& membro) {
+  const std::regex cercato("\\b" + membro + "\\b");
+  for (const auto& voce : fs::recursive_directory_iterator(Docs().parent_path() / "src")) {
+    if (!voce.is_regular_file()) continue;
+    const std::string testo = Contenuto(voce.path());
+    if (testo.find(classe) != std::string::npos && std::regex_search(testo, cercato)) return true;
+  }
+  return false;
+}
+
+TEST(Pagine, NameOnlyMembersThatExist) {
+  int nominati = 0;
+  for (const std::string& pagina : Pagine()) {
+    for (const std::string& nome : Trovati(Contenuto(Docs() / pagina), "`(\\w+::\\w+)")) {
+      const std::size_t mezzo = nome.find("::");
+      EXPECT_TRUE(DiceInsieme(nome.substr(0, mezzo), nome.substr(mezzo + 2))) << pagina << " names " << nome;
+      ++nominati;
+    }
+  }
+  EXPECT_GE(nominati, 2);
+}
+
 /// An example that nothing reads would grow stale unseen.
 TEST(Pagine, HaveNoExampleThatNoTestReads) {
   std::string test;
