@@ -2,12 +2,20 @@
 
 #include <QFocusEvent>
 #include <QFontDatabase>
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
 #include <QResizeEvent>
 #include <QTextDocument>
 #include <QTextEdit>
-#include <algorithm>
+#include <array>
 
+#include "common/qtTesto.h"
+#include "template/txtComposizione.h"
 #include "template/txtDisposizione.h"
+#include "template/txtTasti.h"
 
 namespace parvik {
 namespace {
@@ -27,21 +35,6 @@ bool EUnIntervento(const QEvent& evento) {
     default:
       return evento.isInputEvent();
   }
-}
-
-/// Keys that only make another key of the next one.
-bool EUnModificatore(int tasto) {
-  constexpr std::array Modificatori = {
-      Qt::Key_Shift,   Qt::Key_Control,    Qt::Key_Alt,         Qt::Key_AltGr,    Qt::Key_Meta,
-      Qt::Key_Super_L, Qt::Key_Super_R,    Qt::Key_Hyper_L,     Qt::Key_Hyper_R,  Qt::Key_CapsLock,
-      Qt::Key_NumLock, Qt::Key_ScrollLock, Qt::Key_Mode_switch, Qt::Key_Multi_key};
-  return std::ranges::find(Modificatori, tasto) != Modificatori.end();
-}
-
-/// The keys that the base class would take from the window's shortcuts although it has nothing to undo.
-bool EDellaFinestra(const QKeyEvent& evento) {
-  return evento.matches(QKeySequence::Undo) || evento.matches(QKeySequence::Redo) ||
-         evento.keyCombination() == QKeyCombination(Qt::ControlModifier, Qt::Key_Y);
 }
 
 QTextDocument* NuovoDocumento(QObject* padre) {
@@ -88,7 +81,7 @@ bool txtTCP::event(QEvent* evento) {
     return true;
   }
   // Here and not in keyPressEvent, which never sees the keys that move the focus.
-  if (evento->type() == QEvent::KeyPress && !EUnModificatore(static_cast<QKeyEvent*>(evento)->key()))
+  if (evento->type() == QEvent::KeyPress && !EUnModificatore(*static_cast<QKeyEvent*>(evento)))
     emit TastoPremuto();
   // Not before it can be seen, as no section can when the program starts: loading a font takes time.
   if (evento->type() == QEvent::Show) setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
@@ -134,6 +127,97 @@ void txtTCP::resizeEvent(QResizeEvent* evento) {
   const bool tante = document()->blockCount() > RigheDisposteSubito;
   QResizeEvent ridotto(evento->size(), tante ? evento->size() : evento->oldSize());
   QPlainTextEdit::resizeEvent(&ridotto);
+}
+
+void txtTCP::Scrivi(const QString& testo, Pressione pressione) {
+  if (!InUso()) return;
+  comandi_.Scrivi(DaSchermo(testo), pressione);
+  ensureCursorVisible();
+}
+
+void txtTCP::Incolla(const QString& testo) {
+  if (InUso()) comandi_.Incolla(DaAltrove(testo));
+}
+
+void txtTCP::Elimina() {
+  if (!InUso()) return;
+  comandi_.Elimina();
+  ensureCursorVisible();
+}
+
+void txtTCP::Taglia(Pressione pressione) {
+  const Selezione scelta = comandi_.Selezionato();
+  if (!InUso() || scelta.Lunghezza == 0 || !comandi_.LasciaTogliere(scelta, pressione)) return;
+  copy();
+  comandi_.Togli(scelta);
+  ensureCursorVisible();
+}
+
+/// What the keys change, under the rules.
+bool txtTCP::EseguiModifica(const QKeyEvent& evento) {
+  const Pressione pressione = PressioneDi(evento);
+  if (const auto tasto = TastoDi(evento)) {
+    comandi_.Premi(*tasto, pressione);
+  } else if (FinisceRiga(evento)) {
+    comandi_.VaiACapo(pressione);
+  } else if (ScriveTesto(evento)) {
+    Scrivi(evento.text(), pressione);
+  } else if (evento.matches(QKeySequence::Cut)) {
+    Taglia(pressione);
+  } else if (CancellaFinoAFineRiga(evento)) {
+    comandi_.CancellaFinoAFineRiga(pressione);
+  } else {
+    return false;
+  }
+  ensureCursorVisible();
+  return true;
+}
+
+/// What moves the caret, selects, copies and pastes.
+bool txtTCP::EseguiMovimento(QKeyEvent& evento) {
+  if (const auto passo = PassoDi(evento)) {
+    Poni(passo->Da(comandi_.Testo(), CursoreAttuale()));
+    return true;
+  }
+  if (!EDelToolkit(evento)) return false;
+  const bool trattenuta =
+      evento.isAutoRepeat() && evento.matches(QKeySequence::Paste) && textCursor().hasSelection();
+  if (!trattenuta) QPlainTextEdit::keyPressEvent(&evento);
+  return true;
+}
+
+/// A Tab is left, too, where there is nowhere to move the focus: templates hold none.
+void txtTCP::keyPressEvent(QKeyEvent* evento) {
+  if (!EseguiModifica(*evento) && !EseguiMovimento(*evento)) evento->ignore();
+}
+
+void txtTCP::inputMethodEvent(QInputMethodEvent* evento) {
+  evento->accept();
+  const Selezione via = SostituitaDa(*evento, *this, *specchio_);
+  if (!comandi_.LasciaTogliere(via, Pressione::Prima)) return QGuiApplication::inputMethod()->reset();
+  if (via.Lunghezza > 0) comandi_.Togli(via);
+  // The base class shows what is being composed; what is finished is typed.
+  QInputMethodEvent inCorso(evento->preeditString(), evento->attributes());
+  QPlainTextEdit::inputMethodEvent(&inCorso);
+  Scrivi(evento->commitString(), Pressione::Prima);
+}
+
+void txtTCP::FinisciComposizione() {
+  if (!Compone(*this)) return;
+  QGuiApplication::inputMethod()->reset();
+  QInputMethodEvent niente;
+  QPlainTextEdit::inputMethodEvent(&niente);
+}
+
+// Not the base class's: it turns the no-break space into a space, and a copy would not be what was copied.
+QMimeData* txtTCP::createMimeDataFromSelection() const {
+  auto* dati = new QMimeData;  // the caller owns it
+  dati->setText(textCursor().selectedText().replace(QChar::ParagraphSeparator, u'\n'));
+  return dati;
+}
+
+void txtTCP::insertFromMimeData(const QMimeData* dati) {
+  if (dati->hasText()) Incolla(dati->text());
 }
 
 }  // namespace parvik

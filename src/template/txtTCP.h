@@ -4,13 +4,14 @@
 
 #include <QPlainTextEdit>
 #include <functional>
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "common/Sezione.h"
 #include "template/ComandiSezione.h"
 #include "template/qtColori.h"
+#include "template/txtGesti.h"
+#include "template/txtPunti.h"
 #include "template/txtSpecchio.h"
 
 namespace parvik {
@@ -65,7 +66,6 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   void changeEvent(QEvent* evento) override;
   void resizeEvent(QResizeEvent* evento) override;
   void focusInEvent(QFocusEvent* evento) override;
-  // txtTCPTastiera.cpp
   void keyPressEvent(QKeyEvent* evento) override;
   void inputMethodEvent(QInputMethodEvent* evento) override;
   QMimeData* createMimeDataFromSelection() const override;
@@ -86,26 +86,12 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   bool Esclude(QEvent& evento) const;
   void SegnaCodiciAlCursore();
   void CursoreMosso();
+  bool EseguiModifica(const QKeyEvent& evento);
+  bool EseguiMovimento(QKeyEvent& evento);
 
-  bool MuoviDiParola(const QKeyEvent& evento);
-  bool TastoDelToolkit(QKeyEvent& evento);
-  bool AccettaComposizione(const QInputMethodEvent& evento);
-
-  std::size_t CarattereAlPunto(QPoint punto) const;
-  std::optional<std::size_t> ByteAlPunto(QPoint punto) const;
-  Selezione ParolaAlPunto(QPoint punto) const;
+  txtPunti Punti() const { return {*this, *specchio_}; }
   bool MostraDescrizione(QPoint punto, QPoint globale);
-  bool TrattieniTrascinamento(const QMouseEvent& evento);
-  void EstendiParola(QPoint punto);
-  std::size_t PostoAlPunto(QPoint punto) const;
   void OffriSelezione();
-
-  /// What the left button is about while it is down.
-  struct Gesto {
-    std::optional<QPoint> Presa;          // on the screen: pressed on the selection, which may be dragged
-    std::optional<Selezione> Trattenuta;  // was to be dragged, but cut a code and has grown
-    std::optional<Selezione> Parola;      // a double click selected it, and moving on selects by words
-  };
 
   Documento& documento_;
   Sezione sezione_;
@@ -113,7 +99,7 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   txtSpecchio* specchio_ = nullptr;
   qtColori* colori_ = nullptr;
   Descrizione descrizione_;
-  Gesto gesto_;
+  txtGesti gesti_;
 };
 
 }  // namespace parvik

@@ -1,19 +1,17 @@
 // The section editor's mouse: codes under the pointer, words, dragging and dropping, the context menu.
 #include <QAction>
-#include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QToolTip>
-#include <algorithm>
 #include <utility>
 
 #include "common/qtTesto.h"
-#include "template/ParoleSezione.h"
 #include "template/txtTCP.h"
 #include "tokens/Codice.h"
 
@@ -43,27 +41,6 @@ void Ricollega(QMenu& menu, const char* nome, bool possibile, txtTCP* editor, Co
 
 }  // namespace
 
-/// The place of the character drawn at `punto` of the viewport; behind the end of a line, the line's end.
-std::size_t txtTCP::CarattereAlPunto(QPoint punto) const {
-  QTextCursor cursore = cursorForPosition(punto);
-  // The nearest place of the caret is behind the character where its right half was hit.
-  if (punto.x() < cursorRect(cursore).left() && !cursore.atBlockStart())
-    cursore.movePosition(QTextCursor::PreviousCharacter);
-  return specchio_->InByte(cursore.position());
-}
-
-/// The same, where there is a character.
-std::optional<std::size_t> txtTCP::ByteAlPunto(QPoint punto) const {
-  const std::size_t posto = CarattereAlPunto(punto);
-  const TestoSezione& testo = comandi_.Testo();
-  if (posto == testo.Riga(testo.RigaDi(posto)).Fine()) return std::nullopt;
-  return posto;
-}
-
-Selezione txtTCP::ParolaAlPunto(QPoint punto) const {
-  return ParolaSotto(comandi_.Testo(), CarattereAlPunto(punto));
-}
-
 bool txtTCP::viewportEvent(QEvent* evento) {
   if (Esclude(*evento)) return true;
   if (evento->type() != QEvent::ToolTip) return QPlainTextEdit::viewportEvent(evento);
@@ -73,7 +50,7 @@ bool txtTCP::viewportEvent(QEvent* evento) {
 }
 
 bool txtTCP::MostraDescrizione(QPoint punto, QPoint globale) {
-  const auto posto = descrizione_ ? ByteAlPunto(punto) : std::nullopt;
+  const auto posto = descrizione_ ? Punti().ByteA(punto) : std::nullopt;
   if (!posto) return false;
   const Pezzo codice = comandi_.Testo().PezzoDi(*posto);
   if (codice.Genere != GenerePezzo::Codice) return false;
@@ -84,66 +61,43 @@ bool txtTCP::MostraDescrizione(QPoint punto, QPoint globale) {
 
 void txtTCP::mousePressEvent(QMouseEvent* evento) {
   const QTextCursor prima = textCursor();
-  gesto_ = {};
+  gesti_ = {};
   QPlainTextEdit::mousePressEvent(evento);
   const QTextCursor dopo = textCursor();
   // A press on the selection leaves it as it is, for it may be dragged.
   const bool rimasta = prima.hasSelection() && prima.anchor() == dopo.anchor() && prima == dopo;
   if (evento->button() == Qt::LeftButton && !evento->modifiers().testFlag(Qt::ShiftModifier) && rimasta)
-    gesto_.Presa = evento->globalPosition().toPoint();
-}
-
-/// A selection that cuts a code is not dragged: it grows, and stays when the button is released.
-bool txtTCP::TrattieniTrascinamento(const QMouseEvent& evento) {
-  if (gesto_.Trattenuta) return true;
-  if (!gesto_.Presa) return false;
-  const int strada = (evento.globalPosition().toPoint() - *gesto_.Presa).manhattanLength();
-  if (strada < QApplication::startDragDistance()) return false;
-  gesto_.Presa.reset();
-  if (comandi_.LasciaTogliere(comandi_.Selezionato(), Pressione::Prima)) return false;
-  gesto_.Trattenuta = comandi_.Selezionato();
-  return true;
+    gesti_.Afferra(evento->globalPosition().toPoint());
 }
 
 void txtTCP::mouseMoveEvent(QMouseEvent* evento) {
-  if (!evento->buttons().testFlag(Qt::LeftButton)) return QPlainTextEdit::mouseMoveEvent(evento);
-  if (TrattieniTrascinamento(*evento)) return;
-  if (gesto_.Parola) return EstendiParola(evento->pos());
-  QPlainTextEdit::mouseMoveEvent(evento);
-}
-
-/// From the word of the double click to the one under the pointer, both whole.
-void txtTCP::EstendiParola(QPoint punto) {
-  const Selezione prima = *gesto_.Parola;
-  const Selezione ultima = ParolaAlPunto(punto);
-  if (ultima.Inizio < prima.Inizio) {
-    Poni({.Ancora = prima.Fine(), .Posto = ultima.Inizio});
-  } else {
-    Poni({.Ancora = prima.Inizio, .Posto = std::max(prima.Fine(), ultima.Fine())});
-  }
+  const bool sinistro = evento->buttons().testFlag(Qt::LeftButton);
+  if (sinistro && gesti_.Trattiene(evento->globalPosition().toPoint(), comandi_)) return;
+  if (!sinistro || !gesti_.AParole()) return QPlainTextEdit::mouseMoveEvent(evento);
+  Poni(gesti_.FinoA(Punti().ParolaA(evento->pos())));
   ensureCursorVisible();
 }
 
 void txtTCP::mouseReleaseEvent(QMouseEvent* evento) {
-  const Gesto gesto = std::exchange(gesto_, {});
+  const txtGesti gesti = std::exchange(gesti_, {});
   if (evento->button() == Qt::MiddleButton && Selezioni() != nullptr) {
     const QString testo = Selezioni()->text(QClipboard::Selection);
-    return comandi_.Deposita(PostoAlPunto(evento->pos()), DaAltrove(testo));
+    return comandi_.Deposita(Punti().PostoFuoriA(evento->pos()), DaAltrove(testo));
   }
   QPlainTextEdit::mouseReleaseEvent(evento);
-  if (gesto.Trattenuta) Poni(CursoreSu(*gesto.Trattenuta));
-  if (gesto.Parola) OffriSelezione();
+  if (gesti.Trattenuta()) Poni(CursoreSu(*gesti.Trattenuta()));
+  if (gesti.AParole()) OffriSelezione();
 }
 
 void txtTCP::mouseDoubleClickEvent(QMouseEvent* evento) {
   const bool sinistro = evento->button() == Qt::LeftButton;
-  const auto posto = sinistro ? ByteAlPunto(evento->pos()) : std::nullopt;
-  if (const auto codice = posto ? CodiceSotto(comandi_.Testo(), *posto) : std::nullopt)
+  if (const auto codice = sinistro ? Punti().CodiceA(evento->pos()) : std::nullopt)
     return comandi_.ApriCodice(*codice);
   QPlainTextEdit::mouseDoubleClickEvent(evento);
   if (!sinistro) return;
-  gesto_.Parola = ParolaAlPunto(evento->pos());
-  Poni(CursoreSu(*gesto_.Parola));
+  const Selezione parola = Punti().ParolaA(evento->pos());
+  gesti_.IniziaAParole(parola);
+  Poni(CursoreSu(parola));
 }
 
 /// To whoever takes the system's selection, as the toolkit does with the selections that it makes itself.
@@ -165,15 +119,11 @@ void txtTCP::contextMenuEvent(QContextMenuEvent* evento) {
   menu->popup(evento->globalPos());
 }
 
-std::size_t txtTCP::PostoAlPunto(QPoint punto) const {
-  return FuoriDaiCodici(comandi_.Testo(), specchio_->InByte(cursorForPosition(punto).position()));
-}
-
 void txtTCP::dropEvent(QDropEvent* evento) {
   QDragLeaveEvent finito;
   QPlainTextEdit::dragLeaveEvent(&finito);  // what the toolkit shows while something is dragged over the text
   if (!evento->mimeData()->hasText()) return evento->ignore();
-  const std::size_t posto = PostoAlPunto(evento->position().toPoint());
+  const std::size_t posto = Punti().PostoFuoriA(evento->position().toPoint());
   const bool suo = evento->source() == viewport() && evento->dropAction() == Qt::MoveAction;
   if (suo) {
     comandi_.Sposta(posto);

@@ -163,20 +163,23 @@ TEST(TxtTCP, CopyingAndSelectingAllLeaveWhatIsInSight) {
   }
 }
 
-TEST(TxtTCP, TypingTakingAwayAndCuttingBringTheCaretIntoSight) {
+TEST(TxtTCP, ChangingTheTextAndMovingBringTheCaretIntoSight) {
   Banco banco(TanteRighe(200));
   banco.Editor.resize(400, 200);
   banco.Editor.show();
   QScrollBar& barra = *banco.Editor.verticalScrollBar();
+  QApplication::clipboard()->setText("zz");
   const std::vector<std::function<void()>> modi = {
       [&] { QTest::keyClick(&banco.Editor, Qt::Key_X); },
       [&] { QTest::keyClick(&banco.Editor, Qt::Key_Return); },
       [&] { QTest::keyClick(&banco.Editor, Qt::Key_Delete); },
       [&] { QTest::keyClick(&banco.Editor, Qt::Key_K, Qt::ControlModifier); },
+      [&] { QTest::keyClick(&banco.Editor, Qt::Key_V, Qt::ControlModifier); },
+      [&] { QTest::keyClick(&banco.Editor, Qt::Key_Right, Qt::ControlModifier); },
       [&] { banco.Editor.Taglia(); },
       [&] { banco.Editor.Elimina(); }};
   for (std::size_t i = 0; i < modi.size(); ++i) {
-    banco.Editor.Poni({.Ancora = 0, .Posto = i < 4 ? 0U : 2U});
+    banco.Editor.Poni({.Ancora = 0, .Posto = i < 6 ? 0U : 2U});
     barra.setValue(100);
     modi[i]();
     EXPECT_TRUE(banco.Editor.viewport()->rect().contains(banco.Editor.cursorRect().center())) << i;
