@@ -5,6 +5,7 @@
 #include <QProgressDialog>
 #include <QTimer>
 #include <atomic>
+#include <system_error>
 #include <thread>
 
 #include "common/SeBastaMemoria.h"
@@ -19,8 +20,15 @@ constexpr auto PrimaDiDirlo = 500ms;
 /// A thread at work, and the event loop that waits for it.
 class Attesa {
  public:
-  explicit Attesa(const std::function<void(std::stop_token)>& lavoro)
-      : filo_([this, &lavoro](const std::stop_token& smetti) { Lavora(lavoro, smetti); }) {}
+  /// Where the system has no thread to give, the work is done here: the window stands still meanwhile.
+  explicit Attesa(const std::function<void(std::stop_token)>& lavoro) {
+    const auto lavora = [this, &lavoro](const std::stop_token& smetti) { Lavora(lavoro, smetti); };
+    try {
+      filo_ = std::jthread(lavora);
+    } catch (const std::system_error&) {
+      lavora(std::stop_token());
+    }
+  }
 
   /// Until the work has ended or the time is over, without keys and clicks. Whether it has ended.
   bool PerPoco() {
@@ -38,7 +46,7 @@ class Attesa {
   void Smetti() { filo_.request_stop(); }
 
   Esito<void> Chiudi() {
-    filo_.join();
+    if (filo_.joinable()) filo_.join();
     if (esaurita_) return NumeroErrore::MemoriaEsaurita;
     return {};
   }

@@ -1,6 +1,7 @@
 #include "common/qtAttesa.h"
 
 #include <gtest/gtest.h>
+#include <pthread.h>
 
 #include <QProgressDialog>
 #include <QPushButton>
@@ -8,6 +9,7 @@
 #include <QTimer>
 #include <new>
 #include <semaphore>
+#include <system_error>
 #include <thread>
 
 #include "Finestra.h"
@@ -87,6 +89,31 @@ TEST(AttendiLavoro, TheProgramStaysAliveMeanwhile) {
     for (int i = 0; i < 4; ++i) vivo = vivo && battiti.try_acquire_for(20s);
   }));
   EXPECT_TRUE(vivo);
+}
+
+/// While it lives the system has no thread to give: none with so large a stack.
+class SenzaFili {
+ public:
+  SenzaFili() {
+    pthread_getattr_default_np(&prima_);
+    pthread_attr_t enorme = prima_;
+    pthread_attr_setstacksize(&enorme, std::size_t{1} << 60U);
+    pthread_setattr_default_np(&enorme);
+  }
+  SenzaFili(const SenzaFili&) = delete;
+  SenzaFili& operator=(const SenzaFili&) = delete;
+  ~SenzaFili() { pthread_setattr_default_np(&prima_); }
+
+ private:
+  pthread_attr_t prima_;
+};
+
+TEST(AttendiLavoro, WithoutAThreadTheWorkIsDoneAllTheSame) {
+  const SenzaFili senza;
+  EXPECT_THROW(std::thread([] {}).join(), std::system_error);
+  std::thread::id altro;
+  EXPECT_TRUE(AttendiLavoro(nullptr, [&](std::stop_token) { altro = std::this_thread::get_id(); }));
+  EXPECT_EQ(altro, std::this_thread::get_id());
 }
 
 TEST(AttendiLavoro, WorkThatRunsOutOfMemoryFails) {
