@@ -85,6 +85,9 @@ int main(int argc, char** argv) {
   if (!parvik::ParlaItaliano(*programma))
     std::cerr << "parvik32: manca la traduzione italiana di Qt (qtbase_it)\n";
   parvik::qtDialoghi dialoghi;
+  QObject::connect(programma.get(), &parvik::qtProgramma::MemoriaEsaurita, [&dialoghi] {
+    dialoghi.Chiedi({.Testo = parvik::TestoErrore(parvik::NumeroErrore::MemoriaEsaurita)});
+  });
   auto dati = AvviaConSegnali(ambiente, segnali, dialoghi);
   if (!dati) return EXIT_FAILURE;
   std::optional<std::size_t> tipo;

@@ -39,10 +39,10 @@ class Ricevitore {
 
 }  // namespace
 
-std::unique_ptr<QApplication> ApriSchermo(int& argc, char** argv, const SegnaliFine& segnali) {
+std::unique_ptr<qtProgramma> ApriSchermo(int& argc, char** argv, const SegnaliFine& segnali) {
   const Ricevitore ricevitore;
   const SegnaliFatali fatali(segnali);
-  auto programma = std::make_unique<QApplication>(argc, argv);
+  auto programma = std::make_unique<qtProgramma>(argc, argv);
   // A platform may start without a screen, and end in the middle of the first window.
   if (QApplication::primaryScreen() == nullptr) FinisciSenzaSchermo();
   return programma;

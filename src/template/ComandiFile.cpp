@@ -8,6 +8,7 @@
 #include "common/Avverti.h"
 #include "common/Delimitatori.h"
 #include "common/Percorsi.h"
+#include "common/SeBastaMemoria.h"
 #include "common/TestoMostrabile.h"
 #include "common/Windows1252.h"
 #include "sistema/CopiaPrecedente.h"
@@ -222,6 +223,11 @@ EsitoScrittura ComandiFile::Sostituisci(const fs::path& percorso, std::string_vi
 }
 
 EsitoScrittura ComandiFile::Scrivi(const fs::path& percorso, const TipoDoc& tipo) {
+  const auto scrivi = [&] { return ScriviTesti(percorso, tipo); };
+  return SeBastaMemoria(scrivi, ErroreScrittura{NumeroErrore::MemoriaEsaurita});
+}
+
+EsitoScrittura ComandiFile::ScriviTesti(const fs::path& percorso, const TipoDoc& tipo) {
   TestiSezioni testi;
   for (const Sezione sezione : TutteLeSezioni) testi[Indice(sezione)] = documento_.Testo(sezione).Byte();
   const std::size_t corpoPrima = testi[Indice(Sezione::Corpo)].size();
@@ -237,10 +243,14 @@ EsitoScrittura ComandiFile::Scrivi(const fs::path& percorso, const TipoDoc& tipo
   return scritto;
 }
 
-Esito<void> ComandiFile::Leggi(const TipoDoc& tipo, void (Documento::*imposta)(Sezione, std::string_view)) {
+Esito<void> ComandiFile::Leggi(const TipoDoc& tipo, Imposta imposta) {
   contorno_.ImpostaTitolo("Ordavia - " +
                           UltimiCaratteri(documento_.Stato().NomeFile.string(), CaratteriTitolo));
   documento_.Stato().Origine.reset();
+  return SeBastaMemoria([&] { return LeggiTesti(tipo, imposta); });
+}
+
+Esito<void> ComandiFile::LeggiTesti(const TipoDoc& tipo, Imposta imposta) {
   Esito<std::string> byte = LeggiFile(documento_.Stato().NomeFile);
   if (!byte) return byte.Errore();
   const Formato formato = FormatoDi(tipo.NumSezioni);

@@ -82,9 +82,12 @@ class ComandiFile {
   EsitoPasso ConservaAltrui(const std::filesystem::path& percorso, std::string_view nuovi) const;
   EsitoScrittura Sostituisci(const std::filesystem::path& percorso, std::string_view nuovi) const;
   EsitoScrittura Scrivi(const std::filesystem::path& percorso, const TipoDoc& tipo);
+  EsitoScrittura ScriviTesti(const std::filesystem::path& percorso, const TipoDoc& tipo);
   EsitoScrittura ScriviERileggi(const std::filesystem::path& percorso, const TipoDoc& tipo);
   /// Reads the document's file. `imposta` puts a section's text where it belongs.
-  Esito<void> Leggi(const TipoDoc& tipo, void (Documento::*imposta)(Sezione, std::string_view));
+  using Imposta = void (Documento::*)(Sezione, std::string_view);
+  Esito<void> Leggi(const TipoDoc& tipo, Imposta imposta);
+  Esito<void> LeggiTesti(const TipoDoc& tipo, Imposta imposta);
 
   Documento& documento_;
   Interlocutore& interlocutore_;

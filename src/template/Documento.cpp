@@ -30,23 +30,36 @@ Documento::Ascolto Documento::Ascolta(AscoltatoreDocumento& chi) {
   return ascolto;
 }
 
-void Documento::Cambia(Sezione sezione, const Modifica& modifica, Autore autore) {
-  TestoSezione& testo = testi_[Indice(sezione)];
-  const TestoSezione prima = std::exchange(testo, testo.Con(modifica));
+std::vector<Documento::Pronta> Documento::Prepara(std::vector<ModificaSezione> modifiche) const {
+  std::array<TestoSezione, MaxSezioni> testi = testi_;
+  std::vector<Pronta> pronte;
+  pronte.reserve(modifiche.size());
+  for (ModificaSezione& modifica : modifiche) {
+    TestoSezione& testo = testi[Indice(modifica.Dove)];
+    testo = testo.Con(modifica.Quale);
+    pronte.push_back({.Fatta = std::move(modifica), .Dopo = testo});
+  }
+  return pronte;
+}
+
+void Documento::Metti(Pronta pronta, Autore autore) {
+  const Sezione dove = pronta.Fatta.Dove;
+  const TestoSezione prima = std::exchange(testi_[Indice(dove)], std::move(pronta.Dopo));
   const CambiamentoTesto cambiamento{
-      .Dove = sezione, .Prima = prima, .Fatta = modifica, .DelProgramma = autore == Autore::Programma};
+      .Dove = dove, .Prima = prima, .Fatta = pronta.Fatta.Quale, .DelProgramma = autore == Autore::Programma};
   Avvisa([&cambiamento](AscoltatoreDocumento& chi) { chi.Modificata(cambiamento); });
 }
 
 void Documento::Annota(Sezione sezione, const Modifica& modifica, GenereModifica genere, Cursore prima,
                        Autore autore) {
   if (modifica.Tolti == 0 && modifica.Messi.empty()) return;
+  Pronta pronta{.Fatta = {.Dove = sezione, .Quale = modifica}, .Dopo = Testo(sezione).Con(modifica)};
   registro_.Annota({.Dove = sezione,
                     .Posto = modifica.Dove,
                     .Tolti = Testo(sezione).Byte({.Inizio = modifica.Dove, .Lunghezza = modifica.Tolti}),
                     .Messi = modifica.Messi},
                    genere, prima);
-  Cambia(sezione, modifica, autore);
+  Metti(std::move(pronta), autore);
 }
 
 void Documento::Applica(Sezione sezione, const Modifica& modifica, GenereModifica genere, Cursore prima) {
@@ -55,18 +68,20 @@ void Documento::Applica(Sezione sezione, const Modifica& modifica, GenereModific
 }
 
 CursoreSezione Documento::Annulla() {
-  const Passo& passo = registro_.Annulla();
-  for (auto ultima = passo.Variazioni.rbegin(); ultima != passo.Variazioni.rend(); ++ultima)
-    Cambia(ultima->Dove, ultima->Indietro(), Autore::Utente);
+  const Passo& passo = registro_.DaAnnullare();
+  std::vector<Pronta> pronte = Prepara(passo.Indietro());
+  registro_.Annulla();
   stato_.Modificato = true;
+  for (Pronta& pronta : pronte) Metti(std::move(pronta), Autore::Utente);
   return {.Dove = passo.Variazioni.front().Dove, .Dentro = passo.Prima};
 }
 
 CursoreSezione Documento::Ripeti() {
-  const Passo& passo = registro_.Ripeti();
-  for (const Variazione& variazione : passo.Variazioni)
-    Cambia(variazione.Dove, variazione.Avanti(), Autore::Utente);
+  const Passo& passo = registro_.DaRipetere();
+  std::vector<Pronta> pronte = Prepara(passo.Avanti());
+  registro_.Ripeti();
   stato_.Modificato = true;
+  for (Pronta& pronta : pronte) Metti(std::move(pronta), Autore::Utente);
   return DopoDi(passo);
 }
 

@@ -76,6 +76,8 @@ class Documento {
   const TestoSezione& Testo(Sezione sezione) const { return testi_[Indice(sezione)]; }
   const std::array<TestoSezione, MaxSezioni>& Testi() const { return testi_; }
 
+  // Changes happen whole or, without memory for them, not at all: then what the library throws comes out.
+
   // --- the user's changes: each of them makes the document modified, and can be undone
 
   /// `prima` is the caret before the change, where undoing puts it back.
@@ -132,7 +134,13 @@ class Documento {
  private:
   enum class Autore { Utente, Programma };
 
-  void Cambia(Sezione sezione, const Modifica& modifica, Autore autore);
+  /// A change that has only to be put in its place.
+  struct Pronta {
+    ModificaSezione Fatta;
+    TestoSezione Dopo;
+  };
+  std::vector<Pronta> Prepara(std::vector<ModificaSezione> modifiche) const;
+  void Metti(Pronta pronta, Autore autore);
   void Annota(Sezione sezione, const Modifica& modifica, GenereModifica genere, Cursore prima, Autore autore);
   template <class Azione>
   void Avvisa(Azione azione);

@@ -20,6 +20,19 @@ void Unisci(Variazione& ultima, const Variazione& nuova) {
 
 }  // namespace
 
+std::vector<ModificaSezione> Passo::Avanti() const {
+  std::vector<ModificaSezione> modifiche;
+  for (const Variazione& variazione : Variazioni) modifiche.push_back(variazione.Avanti());
+  return modifiche;
+}
+
+std::vector<ModificaSezione> Passo::Indietro() const {
+  std::vector<ModificaSezione> modifiche;
+  for (auto ultima = Variazioni.rbegin(); ultima != Variazioni.rend(); ++ultima)
+    modifiche.push_back(ultima->Indietro());
+  return modifiche;
+}
+
 /// Whether a change belongs to the run of typing, or of taking away, that the last step is.
 bool RegistroModifiche::Prosegue(const Variazione& variazione, GenereModifica genere) const {
   if (interrotto_ || fatti_ == 0 || genere == GenereModifica::Intera) return false;
@@ -33,15 +46,13 @@ bool RegistroModifiche::Prosegue(const Variazione& variazione, GenereModifica ge
 }
 
 void RegistroModifiche::Annota(Variazione variazione, GenereModifica genere, Cursore prima) {
-  passi_.resize(fatti_);
-  if (iniziato_) {
-    passi_.back().Variazioni.push_back(std::move(variazione));
-    return;
-  }
+  if (iniziato_) return passi_.back().Variazioni.push_back(std::move(variazione));
   if (aperti_ == 0 && Prosegue(variazione, genere))
     return Unisci(passi_.back().Variazioni.back(), variazione);
-  passi_.push_back({.Variazioni = {}, .Genere = genere, .Prima = prima});
-  passi_.back().Variazioni.push_back(std::move(variazione));
+  Passo passo{.Variazioni = {}, .Genere = genere, .Prima = prima};
+  passo.Variazioni.push_back(std::move(variazione));
+  passi_.resize(fatti_);
+  passi_.push_back(std::move(passo));
   fatti_ = passi_.size();
   iniziato_ = aperti_ > 0;
   interrotto_ = false;
@@ -58,16 +69,24 @@ void RegistroModifiche::Chiudi() {
   iniziato_ = false;
 }
 
-const Passo& RegistroModifiche::Annulla() {
+const Passo& RegistroModifiche::DaAnnullare() const {
   PARVIK_ESIGE(PuoAnnullare() && aperti_ == 0, "there is a step to undo");
-  interrotto_ = true;
-  return passi_[--fatti_];
+  return passi_[fatti_ - 1];
 }
 
-const Passo& RegistroModifiche::Ripeti() {
+const Passo& RegistroModifiche::DaRipetere() const {
   PARVIK_ESIGE(PuoRipetere() && aperti_ == 0, "there is a step to redo");
+  return passi_[fatti_];
+}
+
+void RegistroModifiche::Annulla() {
   interrotto_ = true;
-  return passi_[fatti_++];
+  --fatti_;
+}
+
+void RegistroModifiche::Ripeti() {
+  interrotto_ = true;
+  ++fatti_;
 }
 
 void RegistroModifiche::Dimentica() {

@@ -18,6 +18,12 @@ enum class GenereModifica {
   Intera,      // a step of its own: a paste, a line end, a code
 };
 
+/// A change of one of the texts.
+struct ModificaSezione {
+  Sezione Dove = Sezione::Testata;
+  Modifica Quale;
+};
+
 /// A change, and what it took away.
 struct Variazione {
   Sezione Dove = Sezione::Testata;
@@ -25,8 +31,8 @@ struct Variazione {
   std::string Tolti;
   std::string Messi;
 
-  Modifica Avanti() const { return {.Dove = Posto, .Tolti = Tolti.size(), .Messi = Messi}; }
-  Modifica Indietro() const { return {.Dove = Posto, .Tolti = Messi.size(), .Messi = Tolti}; }
+  ModificaSezione Avanti() const { return {Dove, {.Dove = Posto, .Tolti = Tolti.size(), .Messi = Messi}}; }
+  ModificaSezione Indietro() const { return {Dove, {.Dove = Posto, .Tolti = Messi.size(), .Messi = Tolti}}; }
 };
 
 /// Changes that are undone at once.
@@ -34,12 +40,16 @@ struct Passo {
   std::vector<Variazione> Variazioni;
   GenereModifica Genere = GenereModifica::Intera;
   Cursore Prima;  // in the section of the first change, before it
+
+  /// What does it again, and what takes it back, in the order in which it must be done.
+  std::vector<ModificaSezione> Avanti() const;
+  std::vector<ModificaSezione> Indietro() const;
 };
 
 class RegistroModifiche {
  public:
-  /// Notes a change that was made, where `prima` was the caret. What had been undone cannot be redone any
-  /// more.
+  /// Notes a change that is made now, where `prima` was the caret. What had been undone cannot be redone any
+  /// more. Without memory for it nothing changes here.
   void Annota(Variazione variazione, GenereModifica genere, Cursore prima);
 
   /// What follows is one step, up to the matching Chiudi(). Pairs may lie in each other.
@@ -50,9 +60,12 @@ class RegistroModifiche {
 
   bool PuoAnnullare() const { return fatti_ > 0; }
   bool PuoRipetere() const { return fatti_ < passi_.size(); }
-  /// The step to be undone or redone now; there must be one. Valid until the next call.
-  const Passo& Annulla();
-  const Passo& Ripeti();
+  /// The step to be undone or redone now; there must be one. Valid until the next change.
+  const Passo& DaAnnullare() const;
+  const Passo& DaRipetere() const;
+  /// It has been.
+  void Annulla();
+  void Ripeti();
 
   void Dimentica();
 

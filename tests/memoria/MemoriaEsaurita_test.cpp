@@ -4,12 +4,11 @@
 #include <sys/stat.h>
 
 #include <filesystem>
-#include <functional>
 #include <optional>
 #include <stop_token>
 #include <string>
 
-#include "PocaMemoria.h"
+#include "Esaurisci.h"
 #include "catalogue/Catalogo.h"
 #include "common/FileDiProva.h"
 #include "output/GeneraStampa.h"
@@ -22,67 +21,13 @@
 namespace parvik::prova {
 namespace {
 
-/// What came of one try: nullopt when it was done.
-using Errore = std::optional<NumeroErrore>;
-
-template <class T>
-Errore ErroreDi(const Esito<T>& esito) {
-  if (esito) return std::nullopt;
-  return esito.Errore();
-}
-
-template <class T>
-Errore ErroreDi(const Esito<T, ErroreScrittura>& esito) {
-  if (esito) return std::nullopt;
-  return esito.Errore().Numero;
-}
+using prova::ErroreDi;
 
 template <class T>
 Errore ErroreDi(const Esito<T, Interruzione>& esito) {
   if (esito) return std::nullopt;
   return esito.Errore() == Interruzione::MemoriaEsaurita ? NumeroErrore::MemoriaEsaurita
                                                          : NumeroErrore::ArgomentoNonValido;
-}
-
-/// What may come of a try that was denied memory. A save can go on without some of what it asks for.
-enum class Allora { SoloErrore, ErroreOFatto };
-
-/// Tries it with ever more memory until there is enough, and gives how often there was not. Each time it must
-/// say so, and `dopo` must hold, which is told whether it was done all the same.
-int Esaurisci(
-    const std::function<Errore()>& prova, const std::function<void(bool fatto)>& dopo = [](bool) {},
-    Allora allora = Allora::SoloErrore) {
-  constexpr std::size_t Abbastanza = 10'000;
-  for (std::size_t concesse = 0; concesse < Abbastanza && !testing::Test::HasFailure(); ++concesse) {
-    Errore errore;
-    bool negata = false;
-    {
-      const PocaMemoria poca(concesse);
-      errore = prova();
-      negata = PocaMemoria::Negata();
-    }
-    if (!negata) {
-      EXPECT_FALSE(errore) << "with enough of it";
-      return static_cast<int>(concesse);
-    }
-    const bool fatto = allora == Allora::ErroreOFatto && !errore;
-    EXPECT_TRUE(fatto || errore == NumeroErrore::MemoriaEsaurita) << "after " << concesse;
-    dopo(fatto);
-  }
-  ADD_FAILURE() << "there never was enough";
-  return 0;
-}
-
-/// Texts of some length, with codes, styles, and lines of one byte's end.
-std::string Testo() {
-  std::string testo;
-  for (int i = 0; i < 300; ++i)
-    testo +=
-        "Riga \xAB"
-        "S;GRASSETTO\xBB\xAB"
-        "V1;12L\xBB e altro\xAB"
-        "S;NORMALE\xBB\r\n";
-  return testo;
 }
 
 DatiStampa Dati(const std::string& testo, const FlagPerStampe& flag) {
