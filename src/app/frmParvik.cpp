@@ -42,6 +42,12 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
   Aggiorna();
 }
 
+/// The sections go before the document that they show; hidden first, they pass the focus to nobody.
+frmParvik::~frmParvik() {
+  hide();
+  delete area_;
+}
+
 void frmParvik::CreaArea() {
   area_ = new qtArea(editore_.Modello(), this);
   setCentralWidget(area_);

@@ -23,6 +23,9 @@ class frmParvik final : public QMainWindow, private Vista {
  public:
   /// `interlocutore` must outlive the window.
   frmParvik(DatiAvvio dati, Interlocutore& interlocutore);
+  frmParvik(const frmParvik&) = delete;
+  frmParvik& operator=(const frmParvik&) = delete;
+  ~frmParvik() override;
 
   /// Whether the program may end, whatever is open or at work; asks when the template is modified.
   bool PuoChiudere() { return editore_.PuoChiudere(); }
