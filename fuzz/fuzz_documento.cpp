@@ -39,7 +39,7 @@ void ProvaTesto(const TestoSezione& testo) {
   Esigi(qui == byte.size(), "pieces cover the text");
   for (std::size_t riga = 0; riga < testo.Righe(); ++riga) {
     const Selezione tutta = testo.Riga(riga);
-    Esigi(testo.PostoDi(tutta.Fine()) == parvik::Posto{.Riga = riga, .Colonna = tutta.Lunghezza},
+    Esigi(testo.RigaColonnaDi(tutta.Fine()) == parvik::RigaColonna{.Riga = riga, .Colonna = tutta.Lunghezza},
           "places map both ways");
   }
 }

@@ -42,7 +42,7 @@ Selezione ComandiSezione::Accanto(TastoSezione tasto) const {
     return {.Inizio = qui, .Lunghezza = Testo()[qui] == FineRiga.front() ? FineRiga.size() : 1};
   }
   if (qui == 0) return {};
-  const std::size_t davanti = Testo().PostoDi(qui).Colonna == 0 ? FineRiga.size() : 1;
+  const std::size_t davanti = Testo().RigaColonnaDi(qui).Colonna == 0 ? FineRiga.size() : 1;
   return {.Inizio = qui - davanti, .Lunghezza = davanti};
 }
 

@@ -57,12 +57,12 @@ Selezione TestoSezione::Riga(std::size_t riga) const {
   return {.Inizio = inizio, .Lunghezza = albero_.Trova(Segno::FineRiga, riga) - inizio};
 }
 
-Posto TestoSezione::PostoDi(std::size_t byte) const {
+RigaColonna TestoSezione::RigaColonnaDi(std::size_t byte) const {
   const std::size_t riga = RigaDi(byte);
   return {.Riga = riga, .Colonna = byte - Riga(riga).Inizio};
 }
 
-std::size_t TestoSezione::ByteDi(Posto posto) const {
+std::size_t TestoSezione::ByteDi(RigaColonna posto) const {
   const Selezione riga = Riga(posto.Riga);
   PARVIK_ESIGE(posto.Colonna <= riga.Lunghezza, "the line has that column");
   return riga.Inizio + posto.Colonna;

@@ -14,11 +14,12 @@
 
 namespace parvik {
 
-struct Posto {
+/// Both from 0; the column in bytes.
+struct RigaColonna {
   std::size_t Riga = 0;
   std::size_t Colonna = 0;
 
-  bool operator==(const Posto&) const = default;
+  bool operator==(const RigaColonna&) const = default;
 };
 
 /// A value: a copy is a snapshot, costs nothing, and may be read on another thread while the original goes on
@@ -48,8 +49,8 @@ class TestoSezione {
   /// Without its line end.
   Selezione Riga(std::size_t riga) const;
   std::size_t RigaDi(std::size_t posto) const { return albero_.Conta(Segno::FineRiga, posto); }
-  Posto PostoDi(std::size_t byte) const;
-  std::size_t ByteDi(Posto posto) const;  // so far only tests ask
+  RigaColonna RigaColonnaDi(std::size_t byte) const;
+  std::size_t ByteDi(RigaColonna posto) const;  // so far only tests ask
 
   // --- codes and what is between them
 

@@ -72,8 +72,8 @@ TEST(TestoSezioneProprieta, PlacesMapBothWays) {
     for (std::size_t riga = 0; riga < testo.Righe(); ++riga) {
       const Selezione tutta = testo.Riga(riga);
       for (std::size_t colonna = 0; colonna <= tutta.Lunghezza; ++colonna) {
-        const Posto posto{.Riga = riga, .Colonna = colonna};
-        RC_ASSERT(testo.PostoDi(testo.ByteDi(posto)) == posto);
+        const RigaColonna posto{.Riga = riga, .Colonna = colonna};
+        RC_ASSERT(testo.RigaColonnaDi(testo.ByteDi(posto)) == posto);
         RC_ASSERT(testo.RigaDi(testo.ByteDi(posto)) == riga);
       }
     }
@@ -139,7 +139,7 @@ TEST(TestoSezione, AnEmptyOneHasOneEmptyLine) {
   const TestoSezione testo;
   EXPECT_EQ(testo.Righe(), 1U);
   EXPECT_EQ(testo.Riga(0), Selezione{});
-  EXPECT_EQ(testo.PostoDi(0), Posto{});
+  EXPECT_EQ(testo.RigaColonnaDi(0), RigaColonna{});
   EXPECT_TRUE(testo.PezziDi({}).empty());
 }
 
@@ -155,7 +155,7 @@ TEST(TestoSezione, ALongLineOfCodesKnowsThePieceAtItsEndAtOnce) {
   EXPECT_EQ(testo.PezzoDi(byte.size() - 1).Genere, GenerePezzo::Testo);
   EXPECT_EQ(testo.PezzoDi(byte.size() - 2),
             (Pezzo{.Genere = GenerePezzo::Codice, .Inizio = byte.size() - 7, .Fine = byte.size() - 1}));
-  EXPECT_EQ(testo.PostoDi(byte.size()).Colonna, byte.size());
+  EXPECT_EQ(testo.RigaColonnaDi(byte.size()).Colonna, byte.size());
 }
 
 TEST(TestoSezioneDeathTest, ALineEndIsNotCut) {
