@@ -20,7 +20,8 @@ processi() {
   "$programmi/bench_dati" "$dati"
   "$programmi/bench_processi" build/release/velkor/PARVIK/parvik32-batch "$programmi" "$dati"
 }
-parti=(misure modifiche processi ./bench/avvio.sh ./bench/tasti.sh ./bench/anteprima.sh ./bench/ingombro.sh)
+parti=(misure modifiche processi ./bench/avvio.sh ./bench/tasti.sh ./bench/anteprima.sh ./bench/ingombro.sh
+  ./bench/installato.sh)
 
 macchina() {
   local modello memoria
