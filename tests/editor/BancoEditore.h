@@ -13,15 +13,7 @@
 #include "start/Avvio.h"
 #include "supporto/Cartelle.h"
 #include "supporto/InterlocutoreScritto.h"
-
-namespace parvik {
-
-/// A row that is a section is told by its name.
-inline void PrintTo(Sezione sezione, std::ostream* uscita) {
-  *uscita << NomiSezioni[Indice(sezione)];
-}
-
-}  // namespace parvik
+#include "supporto/NomeSezione.h"
 
 namespace parvik::prova {
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "supporto/InterlocutoreScritto.h"
+#include "supporto/NomeSezione.h"
 
 namespace parvik::prova {
 namespace {

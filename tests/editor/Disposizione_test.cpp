@@ -7,6 +7,8 @@
 #include <ostream>
 #include <vector>
 
+#include "supporto/NomeSezione.h"
+
 namespace parvik {
 
 // How GoogleTest writes a place.
