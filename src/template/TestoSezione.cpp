@@ -109,8 +109,8 @@ std::vector<Pezzo> TestoSezione::PezziDi(Selezione parte) const {
 std::optional<Pezzo> TestoSezione::CodiceAperto(std::size_t riga) const {
   const std::size_t inizio = Riga(riga).Inizio;
   if (inizio == 0) return std::nullopt;
-  const Pezzo pezzo = PezzoDi(inizio - 1);
-  if (pezzo.Genere != GenerePezzo::Codice || pezzo.Fine <= inizio) return std::nullopt;
+  const Pezzo pezzo = PezzoDi(inizio - 1);  // of the line end: a code that it lies in goes on behind it
+  if (pezzo.Genere != GenerePezzo::Codice) return std::nullopt;
   return pezzo;
 }
 

@@ -116,6 +116,32 @@ TEST_F(Documenti, ADragIsOneStepWithBothItsEnds) {
   EXPECT_EQ(Annulla(), "a[bc]def");
 }
 
+TEST_F(Documenti, ADragOntoItselfIsNoStep) {
+  Disegna("a[bc]d");
+  for (const std::size_t posto : {1U, 2U, 3U}) {
+    banco_.Comandi().Sposta(posto);
+    EXPECT_EQ(Disegno(banco_), "a[bc]d") << posto;
+  }
+  EXPECT_FALSE(modello_.PuoAnnullare());
+}
+
+TEST_F(Documenti, WholeChangesSideBySideAreStepsOfTheirOwn) {
+  Disegna("abcdef|");
+  for (int i = 0; i < 2; ++i)
+    modello_.Applica(Sezione::Testata, {.Dove = 1, .Tolti = 2, .Messi = ""}, GenereModifica::Intera, {});
+  EXPECT_EQ(modello_.Testo(Sezione::Testata).Byte(), "af");
+  modello_.Annulla();
+  EXPECT_EQ(modello_.Testo(Sezione::Testata).Byte(), "adef");
+}
+
+TEST_F(Documenti, AHeldKeyTakesTheRestOfTheLineAndThenItsEnd) {
+  Disegna("a|bc\nd");
+  banco_.Comandi().CancellaFinoAFineRiga(Pressione::Ripetuta);
+  EXPECT_EQ(Disegno(banco_), "a|\nd");
+  banco_.Comandi().CancellaFinoAFineRiga(Pressione::Ripetuta);
+  EXPECT_EQ(Disegno(banco_), "a|d");
+}
+
 TEST_F(Documenti, AChangeAfterAnUndoLeavesNothingToRedo) {
   Disegna("|");
   Scrivi("a");
@@ -164,8 +190,11 @@ TEST_F(Documenti, WhatIsDoneWhileAStepIsOpenIsOneStep) {
   {
     const Documento::PassoUnico passo(modello_);
     modello_.CompletaUltimaRiga(Sezione::Corpo);
-    const Documento::PassoUnico interno(modello_);
-    modello_.Rileggi(Sezione::Testata, "x");
+    {
+      const Documento::PassoUnico interno(modello_);
+      modello_.Rileggi(Sezione::Testata, "x");
+    }
+    modello_.Rileggi(Sezione::Testata, "xy");
   }
   modello_.Annulla();
   EXPECT_FALSE(modello_.PuoAnnullare());
