@@ -12,6 +12,7 @@
 #include "Pavimenti.h"
 #include "Resoconto.h"
 #include "catalogue/Catalogo.h"
+#include "output/TracciaStampa.h"
 #include "template/ImmagineModello.h"
 
 namespace parvik::bench {
@@ -44,6 +45,12 @@ struct Modelli {
   void Rendi() {
     Uscita.Svuota();
     static_cast<void>(GeneraStampa(Aperto.Dati(), TipoStampa::File, Uscita));
+  }
+  void RendiTracciata() {
+    Uscita.Svuota();
+    TracciaStampa traccia;
+    static_cast<void>(GeneraStampa(Aperto.Dati(), TipoStampa::File, Uscita, traccia));
+    benchmark::DoNotOptimize(traccia);
   }
   /// The floor of rendering: the same sections as often.
   void PassaNuda() {
@@ -179,6 +186,7 @@ int Esegui() {
 
   RegistraModelli(modelli);
   RegistraResa("render", modelli, [](Modelli& m) { m.Rendi(); });
+  Registra("render: traced", modelli, [](Modelli& m) { m.RendiTracciata(); });
   RegistraResa("preview", modelli,
                [](Modelli& m) { benchmark::DoNotOptimize(GeneraAnteprima(m.Aperto.Dati())); });
   RegistraResa("body", corpi, [](Modelli& m) { m.Rendi(); });
@@ -189,6 +197,11 @@ int Esegui() {
   StampaFamiglia(resoconto, "read", "line walk", modelli, 0.5);
   StampaFamiglia(resoconto, "write", "line walk", modelli, 0.5);
   StampaFamiglia(resoconto, "render", "bare pass", modelli, 0.5);
+  for (const auto& [misura, modello] : modelli) {
+    const std::string argomento = "/" + std::to_string(misura);
+    StampaAlPiu("render traced, " + std::to_string(misura) + " lines: times the run without a trace",
+                resoconto.Tempo("render: traced" + argomento) / resoconto.Tempo("render" + argomento), 1.5);
+  }
   StampaFamiglia(resoconto, "preview", "bare pass", modelli, 0);
   StampaFamiglia(resoconto, "body", "bare pass", corpi, 0.5);
   StampaAlPiu("catalogue of 10 MB: times the splitting pass",

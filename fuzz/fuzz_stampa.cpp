@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "Aspetti.h"
+#include "Traccia.h"
 #include "catalogue/Catalogo.h"
 #include "output/GeneraStampa.h"
 #include "supporto/RiferimentoStampa.h"
@@ -69,6 +70,7 @@ class Prova {
     const auto perFile = Stampa(TipoStampa::File);
     const auto perAnteprima = Stampa(TipoStampa::Anteprima);
     if (perFile) ProvaFile(*perFile);
+    if (perFile) ProvaTraccia(*perFile);
     if (perAnteprima) ProvaAnteprima(*perAnteprima);
   }
 
@@ -101,6 +103,15 @@ class Prova {
   void ProvaFile(const std::string& reso) const {
     if (reso.size() > MassimoPerRiferimento || !Confrontabile()) return;
     Esigi(reso == Riferimento(TipoStampa::File), "the file is the one that the rules give word for word");
+  }
+
+  void ProvaTraccia(const std::string& reso) const {
+    if (reso.size() > MassimoPerRiferimento) return;
+    Raccolta raccolta;
+    TracciaStampa traccia;
+    const bool finita = bool{GeneraStampa(Dati(), TipoStampa::File, raccolta, traccia)};
+    Esigi(finita && raccolta.Testo == reso, "a traced run writes the same");
+    EsigiTraccia(traccia, Dati(), reso);
   }
 
   void ProvaAnteprima(const std::string& reso) const {

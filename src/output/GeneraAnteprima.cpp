@@ -5,6 +5,7 @@
 #include "common/Delimitatori.h"
 #include "common/SeBastaMemoria.h"
 #include "output/GeneraStampa.h"
+#include "output/TracciaStampa.h"
 
 namespace parvik {
 namespace {
@@ -64,14 +65,17 @@ void AggiungiFine(std::string& testo) {
   if (!testo.empty()) testo.append(FineRiga).append(FineAnteprima);
 }
 
-Esito<Anteprima, Interruzione> Genera(const DatiStampa& dati, const std::stop_token& smetti) {
+/// `corri` is the run, `stili` the style pass.
+template <class Corri, class Stili>
+Esito<Anteprima, Interruzione> Genera(const DatiStampa& dati, const std::stop_token& smetti, Corri corri,
+                                      Stili stili) {
   Anteprima anteprima;
   anteprima.Testo.reserve(Dimensione(dati));
   RaccoltaTesto raccolta(anteprima.Testo, smetti);
-  const auto corsa = GeneraStampa(dati, TipoStampa::Anteprima, raccolta);
+  const Esito<void, Interruzione> corsa = corri(raccolta);
   if (!corsa) return corsa.Errore();
   AggiungiFine(anteprima.Testo);
-  auto tratti = MettiStili(anteprima.Testo, smetti);
+  auto tratti = stili(anteprima.Testo);
   if (!tratti || smetti.stop_requested()) return Interruzione::Chiesta;
   anteprima.Tratti = std::move(*tratti);
   return anteprima;
@@ -99,7 +103,23 @@ Anteprima GeneraAnteprima(const DatiStampa& dati) {
 }
 
 Esito<Anteprima, Interruzione> GeneraAnteprima(const DatiStampa& dati, const std::stop_token& smetti) {
-  return SeBastaMemoria([&] { return Genera(dati, smetti); }, Interruzione::MemoriaEsaurita);
+  const auto corri = [&](UscitaRighe& uscita) { return GeneraStampa(dati, TipoStampa::Anteprima, uscita); };
+  const auto stili = [&](std::string& testo) { return MettiStili(testo, smetti); };
+  const auto genera = [&] { return Genera(dati, smetti, corri, stili); };
+  return SeBastaMemoria(genera, Interruzione::MemoriaEsaurita);
+}
+
+Esito<Anteprima, Interruzione> GeneraAnteprima(const DatiStampa& dati, const std::stop_token& smetti,
+                                               TracciaStampa& traccia) {
+  std::vector<Varco> varchi;
+  const auto corri = [&](UscitaRighe& uscita) {
+    return GeneraStampa(dati, TipoStampa::Anteprima, uscita, traccia);
+  };
+  const auto stili = [&](std::string& testo) { return MettiStili(testo, smetti, varchi); };
+  const auto genera = [&] { return Genera(dati, smetti, corri, stili); };
+  Esito<Anteprima, Interruzione> anteprima = SeBastaMemoria(genera, Interruzione::MemoriaEsaurita);
+  traccia.ImpostaVarchi(std::move(varchi));
+  return anteprima;
 }
 
 Esito<InizioAnteprima> GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo) {

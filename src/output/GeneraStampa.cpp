@@ -8,6 +8,7 @@
 #include "common/SeBastaMemoria.h"
 #include "common/TrovaByte.h"
 #include "output/BloccoStampa.h"
+#include "output/DiarioTraccia.h"
 #include "tokens/Pezzi.h"
 
 namespace parvik {
@@ -41,25 +42,33 @@ std::size_t UltimaFineRiga(std::string_view testo) {
   return ultima;
 }
 
+/// `Diario` is told what is read, and what becomes of it.
+template <class Diario>
 class Corsa {
  public:
-  Corsa(TipoStampa destinazione, const FlagPerStampe& flag, UscitaRighe& uscita)
-      : trovaVar_(destinazione, flag), uscita_(uscita) {}
+  Corsa(TipoStampa destinazione, const FlagPerStampe& flag, UscitaRighe& uscita, Diario diario)
+      : trovaVar_(destinazione, flag), uscita_(uscita), diario_(diario) {}
 
   /// Renders a section as often as it is repeated. False when the output ended the run.
-  bool Sezione(std::string_view testo, int ripetizioni) {
+  bool Rendi(Sezione sezione, std::string_view testo, int ripetizioni) {
     if (testo.empty()) return true;
     testo_ = testo;
     ultimaFine_.reset();
+    diario_.Inizia(sezione);
     for (int volta = 1; volta <= ripetizioni; ++volta) {
       const Memoria prima = trovaVar_.Ricordo();
+      diario_.IniziaGiro(prima);
       const std::size_t usciti = usciti_;
       const std::size_t inizio = blocco_.Dimensione();
       if (!UnaVolta()) return false;
+      diario_.FinisciGiro();
       // Begun with the same memory as it ends with, the section comes out alike from now on.
       const std::size_t scritti = blocco_.Dimensione() - inizio;
       const bool intera = usciti == usciti_ && scritti > 0 && scritti <= PezzoMassimo;
-      if (intera && trovaVar_.Ricordo() == prima) return Replica(inizio, ripetizioni - volta);
+      if (intera && trovaVar_.Ricordo() == prima) {
+        diario_.Replica(static_cast<std::size_t>(ripetizioni - volta));
+        return Replica(inizio, ripetizioni - volta);
+      }
     }
     return true;
   }
@@ -84,7 +93,10 @@ class Corsa {
     for (LettoreCorsa lettore(testo_); lettore.Prossimo();) {
       if (!ScriviRighe(lettore.InizioTesto(), lettore.FineTesto(), fineRiga)) return false;
       Letti(lettore.DopoIlTesto());
-      if (lettore.ConCodice() && !Scrivi(trovaVar_(lettore.Contenuto()))) return false;
+      if (!lettore.ConCodice()) break;
+      const Campione& campione = trovaVar_(lettore.Contenuto());
+      diario_.Codice(lettore.DopoIlCodice(), campione.Lunghezza(), trovaVar_.Ricordo());
+      if (!Scrivi(campione)) return false;
     }
     blocco_.Tronca(fineUltimaRiga_);  // a line without its end is not emitted
     return Prosegui();
@@ -96,6 +108,7 @@ class Corsa {
     for (std::size_t fine = fineRiga.Da(da); fine < a; fine = fineRiga.Da(da)) {
       if (!ScriviTesto(da, fine)) return false;
       da = fine + (testo_.substr(fine).starts_with(FineRiga) ? FineRiga.size() : 1);
+      diario_.FineDiRiga(da, trovaVar_.Ricordo());
       blocco_.Aggiungi(FineRiga);
       if (!RigaChiusa()) return false;
     }
@@ -126,6 +139,7 @@ class Corsa {
     return Prosegui();
   }
   bool ScriviTesto(std::size_t da, std::size_t a) {
+    diario_.Testo(a - da);
     posto_ = da;
     if (a - da > PezzoMassimo) [[unlikely]] {
       return Spezza(testo_.substr(da, a - da));
@@ -182,6 +196,7 @@ class Corsa {
 
   TrovaVar trovaVar_;
   UscitaRighe& uscita_;
+  Diario diario_;
   std::string_view testo_;                       // the section
   std::size_t posto_ = 0;                        // how far it was rendered
   std::optional<std::size_t> ultimaFine_;        // UltimaFineRiga() of the section, once it was asked for
@@ -199,25 +214,37 @@ int Ripetizioni(Sezione sezione, const DatiStampa& dati) {
 }
 
 /// False when the output ended it.
-bool Corri(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita) {
-  Corsa corsa(destinazione, dati.Flag, uscita);
+template <class Diario>
+bool Corri(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita, Diario diario) {
+  Corsa corsa(destinazione, dati.Flag, uscita, diario);
   for (const Sezione sezione : TutteLeSezioni) {
     if (static_cast<int>(sezione) >= dati.NumSezioni) break;
     const std::string_view testo = dati.Testi[Indice(sezione)];
     if (testo == FineRiga) continue;
-    if (!corsa.Sezione(testo, Ripetizioni(sezione, dati))) return false;
+    if (!corsa.Rendi(sezione, testo, Ripetizioni(sezione, dati))) return false;
   }
   return corsa.Scarica();
+}
+
+template <class Diario>
+Esito<void, Interruzione> Genera(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita,
+                                 Diario diario) {
+  const auto corri = [&]() -> Esito<void, Interruzione> {
+    if (!Corri(dati, destinazione, uscita, diario)) return Interruzione::Chiesta;
+    return {};
+  };
+  return SeBastaMemoria(corri, Interruzione::MemoriaEsaurita);
 }
 
 }  // namespace
 
 Esito<void, Interruzione> GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita) {
-  const auto corri = [&]() -> Esito<void, Interruzione> {
-    if (!Corri(dati, destinazione, uscita)) return Interruzione::Chiesta;
-    return {};
-  };
-  return SeBastaMemoria(corri, Interruzione::MemoriaEsaurita);
+  return Genera(dati, destinazione, uscita, SenzaDiario());
+}
+
+Esito<void, Interruzione> GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita,
+                                       TracciaStampa& traccia) {
+  return Genera(dati, destinazione, uscita, DiarioTraccia(traccia, dati, destinazione));
 }
 
 }  // namespace parvik

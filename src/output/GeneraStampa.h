@@ -18,6 +18,8 @@
 
 namespace parvik {
 
+class TracciaStampa;
+
 /// What a run reads. Texts and flags must stay as they are until the run ends.
 struct DatiStampa {
   std::array<std::string_view, MaxSezioni> Testi;  // Windows-1252, lines separated by CR LF
@@ -57,6 +59,10 @@ enum class Interruzione { Chiesta, MemoriaEsaurita };
 /// produces. Too little memory may be what `uscita` met.
 Esito<void, Interruzione> GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita);
 
+/// The same, traced: `traccia`, which is empty before, is whole when the run came to its end.
+Esito<void, Interruzione> GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita,
+                                       TracciaStampa& traccia);
+
 /// What the preview pane shows.
 struct Anteprima {
   std::string Testo;           // Windows-1252, the end marker last; "" when nothing was rendered
@@ -68,6 +74,9 @@ inline constexpr std::string_view FineAnteprima = "--- Fine file ---";
 /// A run for the preview: its lines, the end marker, and the style markers turned into formatting. Ends when
 /// `smetti` is asked for.
 Esito<Anteprima, Interruzione> GeneraAnteprima(const DatiStampa& dati, const std::stop_token& smetti);
+/// The same, traced, the style pass included.
+Esito<Anteprima, Interruzione> GeneraAnteprima(const DatiStampa& dati, const std::stop_token& smetti,
+                                               TracciaStampa& traccia);
 /// The same where nobody asks and there is memory. Only tests and measurements call it.
 Anteprima GeneraAnteprima(const DatiStampa& dati);
 

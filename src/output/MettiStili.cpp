@@ -19,7 +19,8 @@ constexpr unsigned MarcatoriTraDomande = 1024;
 /// Removing a marker widens the gap, so that nothing is moved more than once or twice.
 class TestoConVarco {
  public:
-  explicit TestoConVarco(std::string& testo) : testo_(testo) {}
+  /// `varchi`, unless it is nullptr, gets what was taken out in front of what is finished.
+  TestoConVarco(std::string& testo, std::vector<Varco>* varchi) : testo_(testo), varchi_(varchi) {}
 
   std::string_view Resto() const { return std::string_view(testo_).substr(resto_); }
   std::string_view Finito() const { return std::string_view(testo_).substr(0, finito_); }
@@ -29,6 +30,7 @@ class TestoConVarco {
   /// Moves the first characters of the rest over the gap, with their look.
   void Finisci(std::size_t quanti, Aspetto aspetto) {
     if (quanti == 0) return;
+    if (varchi_ != nullptr) Annota();
     std::memmove(testo_.data() + finito_, testo_.data() + resto_, quanti);
     if (!tratti_.empty() && tratti_.back().Come == aspetto) {
       tratti_.back().Lunghezza += quanti;
@@ -43,6 +45,7 @@ class TestoConVarco {
   void Riprendi(std::size_t quanti) {
     finito_ -= quanti;
     resto_ -= quanti;
+    while (varchi_ != nullptr && !varchi_->empty() && varchi_->back().Dove >= finito_) varchi_->pop_back();
     std::memmove(testo_.data() + resto_, testo_.data() + finito_, quanti);
     while (quanti > 0) {
       const std::size_t tolti = std::min(quanti, tratti_.back().Lunghezza);
@@ -53,12 +56,21 @@ class TestoConVarco {
   }
 
   std::vector<Tratto> Chiudi() {
+    resto_ = testo_.size();
+    if (varchi_ != nullptr) Annota();
     testo_.resize(finito_);
     return std::move(tratti_);
   }
 
  private:
+  void Annota() {
+    const std::size_t tolti = resto_ - finito_;
+    if (tolti > (varchi_->empty() ? 0 : varchi_->back().Tolti))
+      varchi_->push_back({.Dove = finito_, .Tolti = tolti});
+  }
+
   std::string& testo_;
+  std::vector<Varco>* varchi_;
   std::size_t finito_ = 0;
   std::size_t resto_ = 0;
   std::vector<Tratto> tratti_;
@@ -66,7 +78,8 @@ class TestoConVarco {
 
 class Stilista {
  public:
-  Stilista(std::string& testo, const std::stop_token& smetti) : testo_(testo), smetti_(smetti) {}
+  Stilista(std::string& testo, const std::stop_token& smetti, std::vector<Varco>* varchi)
+      : testo_(testo, varchi), smetti_(smetti) {}
 
   std::optional<std::vector<Tratto>> Esegui() {
     const Aspetto normale = Aspetto().Con(Stile::Normale);
@@ -180,7 +193,12 @@ std::vector<Tratto> MettiStili(std::string& testo) {
 }
 
 std::optional<std::vector<Tratto>> MettiStili(std::string& testo, const std::stop_token& smetti) {
-  return Stilista(testo, smetti).Esegui();
+  return Stilista(testo, smetti, nullptr).Esegui();
+}
+
+std::optional<std::vector<Tratto>> MettiStili(std::string& testo, const std::stop_token& smetti,
+                                              std::vector<Varco>& varchi) {
+  return Stilista(testo, smetti, &varchi).Esegui();
 }
 
 }  // namespace parvik

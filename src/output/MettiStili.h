@@ -40,6 +40,14 @@ struct Tratto {
   bool operator==(const Tratto&) const = default;
 };
 
+/// From that byte of the text without markers on, so many were taken out in front; up to the next of these.
+struct Varco {
+  std::size_t Dove = 0;
+  std::size_t Tolti = 0;
+
+  bool operator==(const Varco&) const = default;
+};
+
 /// Takes the style markers out of a rendered text ("S;" and two letters) and returns the looks that they ask
 /// for, as runs that cover the whole text. A marker is whatever reads as one, literal text included; removing
 /// one may make another of its neighbours. Linear in the text.
@@ -47,5 +55,8 @@ std::vector<Tratto> MettiStili(std::string& testo);
 /// The same; nullopt when `smetti` was asked for before the end, and `testo` is then of no use. Looks at it
 /// every 64 KB and every 1024 markers.
 std::optional<std::vector<Tratto>> MettiStili(std::string& testo, const std::stop_token& smetti);
+/// The same, which also says in their order what was taken out where.
+std::optional<std::vector<Tratto>> MettiStili(std::string& testo, const std::stop_token& smetti,
+                                              std::vector<Varco>& varchi);
 
 }  // namespace parvik

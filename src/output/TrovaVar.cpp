@@ -51,8 +51,8 @@ std::optional<bool> StatiFlag::operator()(double numero) const {
   return stati_[static_cast<std::size_t>(intero - Minimo)];
 }
 
-TrovaVar::TrovaVar(TipoStampa destinazione, const FlagPerStampe& flag)
-    : destinazione_(destinazione), stati_(flag) {}
+TrovaVar::TrovaVar(TipoStampa destinazione, const FlagPerStampe& flag, const Memoria& memoria)
+    : destinazione_(destinazione), stati_(flag), memoria_(memoria) {}
 
 const Campione& TrovaVar::operator()(std::string_view codice) {
   const TipoCodice tipo = Riconosci(codice);

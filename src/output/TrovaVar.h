@@ -51,7 +51,8 @@ class StatiFlag {
 /// The codes of one run. Codes come without their delimiters and must stay where they are for the whole run.
 class TrovaVar {
  public:
-  TrovaVar(TipoStampa destinazione, const FlagPerStampe& flag);
+  /// `memoria` is what a run keeps where this one begins.
+  TrovaVar(TipoStampa destinazione, const FlagPerStampe& flag, const Memoria& memoria = {});
 
   /// The text of the next code. A code of unknown kind repeats the text of the code before it.
   const Campione& operator()(std::string_view codice);

@@ -87,6 +87,8 @@ class LettoreCorsa {
   std::string_view Contenuto() const {
     return {testo_.data() + codice_.Apertura + 1, codice_.Chiusura - codice_.Apertura - 1};
   }
+  /// Behind the closing delimiter.
+  std::size_t DopoIlCodice() const { return seguito_; }
   /// How many bytes lie behind the text, up to the closing delimiter or the end.
   std::size_t DopoIlTesto() const { return codice_.Chiusura - codice_.Apertura; }
 

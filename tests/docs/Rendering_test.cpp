@@ -7,6 +7,7 @@
 #include "catalogue/Catalogo.h"
 #include "docs/Pagine.h"
 #include "output/GeneraStampa.h"
+#include "output/TracciaStampa.h"
 
 namespace parvik::prova {
 namespace {
@@ -60,6 +61,21 @@ TEST(RenderingPage, TellsWhatSectionsRenderTo) {
     Raccolta uscita;
     EXPECT_TRUE(GeneraStampa({.Testi = {testo}, .NumSezioni = 1, .Flag = flag}, TipoStampa::File, uscita));
     EXPECT_EQ(uscita.Testo, riga.Byte(2)) << riga.Posto();
+  }
+}
+
+TEST(RenderingPage, TellsWhereTheBytesOfTheOutputComeFrom) {
+  const FlagPerStampe flag;
+  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "trace", 4)) {
+    const std::string testo = riga.Byte(0);
+    Raccolta uscita;
+    TracciaStampa traccia;
+    EXPECT_TRUE(
+        GeneraStampa({.Testi = {testo}, .NumSezioni = 1, .Flag = flag}, TipoStampa::File, uscita, traccia));
+    EXPECT_EQ(uscita.Testo, riga.Byte(1)) << riga.Posto();
+    const auto origine = traccia.OrigineDi(static_cast<std::size_t>(riga.Numero(2)));
+    EXPECT_EQ(origine ? testo.substr(origine->Parte.Inizio, origine->Parte.Lunghezza) : "", riga.Byte(3))
+        << riga.Posto();
   }
 }
 
