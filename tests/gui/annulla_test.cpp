@@ -148,6 +148,16 @@ TEST_F(Annulla, SaveAsKeepsTheHistoryAndItsReadingBackIsOneStep) {
   EXPECT_EQ(Testo(1), "");
 }
 
+TEST_F(Annulla, WhatIsTypedBeforeAndBehindAMoveOfTheCaretIsTwoSteps) {
+  Scrivi(0, "ab");
+  QTest::keyClick(&finestra_.Sezione(0), Qt::Key_Left);
+  QTest::keyClick(&finestra_.Sezione(0), Qt::Key_Right);
+  Scrivi(0, "c");
+  EXPECT_EQ(Testo(0), "abc\n");
+  Premi(Qt::Key_Z);
+  EXPECT_EQ(Testo(0), "ab\n");
+}
+
 TEST_F(Annulla, WhatAnInputMethodCommitsOverASelectionIsOneStepWithIt) {
   Scrivi(0, "ab");
   finestra_.Sezione(0).selectAll();

@@ -150,6 +150,19 @@ std::string TanteRighe(int quante) {
   return righe;
 }
 
+TEST(TxtTCP, KeepsNoHistoryBesideTheDocuments) {
+  Banco banco("ab");
+  QTest::keyClick(&banco.Editor, Qt::Key_X);
+  EXPECT_FALSE(banco.Editor.document()->isUndoAvailable());
+  banco.Modello.Imposta(Banco::Quale, "another text\r\n");
+  QTest::keyClick(&banco.Editor, Qt::Key_X);
+  EXPECT_FALSE(banco.Editor.document()->isUndoAvailable());
+  banco.Editor.ImpostaUso(false);
+  banco.Editor.ImpostaUso(true);
+  QTest::keyClick(&banco.Editor, Qt::Key_X);
+  EXPECT_FALSE(banco.Editor.document()->isUndoAvailable());
+}
+
 TEST(TxtTCP, CopyingAndSelectingAllLeaveWhatIsInSight) {
   Banco banco(TanteRighe(200));
   banco.Editor.resize(400, 200);
