@@ -9,6 +9,7 @@ export SOURCE_DATE_EPOCH
 
 programs=build/pacchetto/programmi
 rm -rf build/pacchetto
+mkdir -p build
 cmake --preset release -B "$programs" -DCMAKE_INSTALL_PREFIX=/usr -DPARVIK_TESTS=OFF >build/pacchetto.log
 cmake --build "$programs" --target parvik32 parvik32-batch parvik32-stampa >>build/pacchetto.log
 cpack --config "$programs/CPackConfig.cmake" -B build/pacchetto ${1:+-D CPACK_PACKAGE_VERSION="$1"} >>build/pacchetto.log
