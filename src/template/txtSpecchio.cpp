@@ -63,7 +63,6 @@ void txtSpecchio::Sostituita(Sezione sezione) {
   if (sezione != sezione_) return;
   const QScopedValueRollback lavoro(alLavoro_, true);
   editor_.setPlainText(PerSchermo(Testo().Byte()));
-  editor_.setUndoRedoEnabled(false);  // the toolkit turns it on
 }
 
 void txtSpecchio::Modificata(const CambiamentoTesto& cambiamento) {

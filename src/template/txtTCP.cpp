@@ -64,7 +64,6 @@ void txtTCP::ImpostaUso(bool inUso) {
   if (inUso == InUso()) return;
   setReadOnly(!inUso);
   setEnabled(inUso);
-  setUndoRedoEnabled(false);  // the toolkit turns it on: the document undoes
 }
 
 /// Whether an event is one that nothing may come of.

@@ -150,17 +150,30 @@ std::string TanteRighe(int quante) {
   return righe;
 }
 
+TEST(TxtTCP, ACaretBehindWhatTheProgramInsertsGoesAlongAndOneInFrontStays) {
+  Banco banco("abcdef\r\n");
+  banco.Editor.Poni({.Ancora = 5, .Posto = 5});
+  banco.Modello.Rileggi(Banco::Quale, "xabcdef\r\n");
+  EXPECT_EQ(banco.Editor.CursoreAttuale(), (Cursore{.Ancora = 6, .Posto = 6}));
+  banco.Editor.Poni({.Ancora = 0, .Posto = 0});
+  banco.Modello.Rileggi(Banco::Quale, "yxabcdef\r\n");
+  EXPECT_EQ(banco.Editor.CursoreAttuale(), (Cursore{.Ancora = 0, .Posto = 0}));
+}
+
 TEST(TxtTCP, KeepsNoHistoryBesideTheDocuments) {
   Banco banco("ab");
   QTest::keyClick(&banco.Editor, Qt::Key_X);
   EXPECT_FALSE(banco.Editor.document()->isUndoAvailable());
+  EXPECT_FALSE(banco.Editor.isUndoRedoEnabled());
   banco.Modello.Imposta(Banco::Quale, "another text\r\n");
   QTest::keyClick(&banco.Editor, Qt::Key_X);
   EXPECT_FALSE(banco.Editor.document()->isUndoAvailable());
+  EXPECT_FALSE(banco.Editor.isUndoRedoEnabled());
   banco.Editor.ImpostaUso(false);
   banco.Editor.ImpostaUso(true);
   QTest::keyClick(&banco.Editor, Qt::Key_X);
   EXPECT_FALSE(banco.Editor.document()->isUndoAvailable());
+  EXPECT_FALSE(banco.Editor.isUndoRedoEnabled());
 }
 
 TEST(TxtTCP, CopyingAndSelectingAllLeaveWhatIsInSight) {
