@@ -30,7 +30,7 @@ class LettoreVoci {
  public:
   /// From byte `da` of the section on, which lies outside its codes; `uscita` bytes came of what is in front.
   /// The text must stay as it is.
-  LettoreVoci(std::string_view testo, std::size_t da, std::size_t uscita, TrovaVar trovaVar)
+  LettoreVoci(std::string_view testo, std::size_t da, std::size_t uscita, const TrovaVar& trovaVar)
       : testo_(testo), base_(da), uscita_(uscita), lettore_(testo.substr(da)), trovaVar_(trovaVar) {}
 
   std::optional<VoceStampa> Prossima();
