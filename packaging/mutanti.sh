@@ -9,7 +9,7 @@ list=$(realpath "${1:-packaging/mutanti.txt}")
 wanted=95
 copy=$(mktemp -d)/copia
 git worktree add --quiet --detach "$copy" HEAD
-trap 'git worktree remove --force "$copy"; rmdir "$(dirname "$copy")"' EXIT
+trap 'git worktree remove --force "$copy"; rm -r "$(dirname "$copy")"' EXIT
 cd "$copy"
 export QT_QPA_PLATFORM=offscreen
 

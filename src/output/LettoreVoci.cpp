@@ -20,7 +20,7 @@ VoceStampa LettoreVoci::Voce(Genere cosa, std::size_t a, std::size_t usciti) {
 
 /// A line of the literal text from here to `fine`, or the CR alone that is in its way.
 VoceStampa LettoreVoci::Letterale(std::size_t fine) {
-  const std::size_t cr = std::min(testo_.find('\r', qui_), fine);
+  const std::size_t cr = std::min(testo_.substr(0, fine).find('\r', qui_), fine);
   if (cr < fine && testo_.substr(cr).starts_with(FineRiga)) {
     const std::size_t dopo = cr + FineRiga.size();
     return Voce(Genere::Testo, dopo, dopo - qui_);

@@ -60,7 +60,7 @@ struct CodiceStampato {
 
 /// The trace of one run: stages, a few KB of the section apart, between which a question follows the run
 /// again. So it takes little memory, however much was written. What the run read must stay as it is as long
-/// as the trace is asked.
+/// as the trace is asked. So far only tests and measurements ask for one.
 class TracciaStampa {
  public:
   /// Where a byte of the output comes from; nullopt behind what the run wrote. The output is that of the

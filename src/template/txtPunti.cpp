@@ -8,6 +8,7 @@
 
 namespace parvik {
 
+/// Behind the end of a line, the line's end.
 std::size_t txtPunti::CarattereA(QPoint punto) const {
   QTextCursor cursore = editor_.cursorForPosition(punto);
   // The nearest place of the caret is behind the character where its right half was hit.

@@ -19,9 +19,7 @@ class txtPunti {
   txtPunti(const QPlainTextEdit& editor, const txtSpecchio& specchio)
       : editor_(editor), specchio_(specchio) {}
 
-  /// The place of the character drawn there; behind the end of a line, the line's end.
-  std::size_t CarattereA(QPoint punto) const;
-  /// The same, where there is a character.
+  /// The place of the character drawn there, where there is one.
   std::optional<std::size_t> ByteA(QPoint punto) const;
   /// The code there.
   std::optional<Selezione> CodiceA(QPoint punto) const;
@@ -30,6 +28,8 @@ class txtPunti {
   std::size_t PostoFuoriA(QPoint punto) const;
 
  private:
+  std::size_t CarattereA(QPoint punto) const;
+
   const QPlainTextEdit& editor_;
   const txtSpecchio& specchio_;
 };

@@ -129,7 +129,7 @@ void txtTCP::resizeEvent(QResizeEvent* evento) {
 }
 
 void txtTCP::Scrivi(const QString& testo, Pressione pressione) {
-  if (!InUso()) return;
+  if (!InUso() || testo.isEmpty()) return;
   comandi_.Scrivi(DaSchermo(testo), pressione);
   ensureCursorVisible();
 }

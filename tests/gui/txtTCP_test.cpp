@@ -189,6 +189,16 @@ TEST(TxtTCP, CopyingAndSelectingAllLeaveWhatIsInSight) {
   }
 }
 
+TEST(TxtTCP, AnInputMethodThatHasNothingToSayLeavesWhatIsInSight) {
+  Banco banco(TanteRighe(200));
+  banco.Editor.resize(400, 200);
+  banco.Editor.show();
+  banco.Editor.verticalScrollBar()->setValue(100);
+  QInputMethodEvent niente;
+  QApplication::sendEvent(&banco.Editor, &niente);
+  EXPECT_EQ(banco.Editor.verticalScrollBar()->value(), 100);
+}
+
 TEST(TxtTCP, ChangingTheTextAndMovingBringTheCaretIntoSight) {
   Banco banco(TanteRighe(200));
   banco.Editor.resize(400, 200);
