@@ -37,7 +37,6 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
   new qtTastiRipetuti(this);
   CreaArea();
   CreaMenu();
-  CreaPassi();
   resize(EntroLoSchermo(*this, DimensioneIniziale));
   Aggiorna();
 }
@@ -90,6 +89,11 @@ void frmParvik::Aggiorna() {
   menu_->Aggiorna(editore_.PerMenu());
   area_->Mostra(editore_.PerArea());
   finestrelle_.Aggiorna();
+}
+
+/// The sections' own beginning comes before there is a menu.
+void frmParvik::CambiatoTesto() {
+  if (menu_ != nullptr) menu_->Aggiorna(editore_.PerMenu());
 }
 
 void frmParvik::MostraAnteprima(Anteprima anteprima) {

@@ -40,6 +40,7 @@ class frmParvik final : public QMainWindow, private Vista {
  private:
   // What the editor's commands see of the window.
   void Aggiorna() override;
+  void CambiatoTesto() override;
   void MostraAnteprima(Anteprima anteprima) override;
   void CompletaAnteprima(Anteprima anteprima) override;
   Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override;
@@ -57,7 +58,6 @@ class frmParvik final : public QMainWindow, private Vista {
   // frmParvikMenu.cpp
   void CreaMenu();
   void Esegui(Comando comando);
-  void CreaPassi();
   /// Undo or redo, over all sections.
   using PassoEditore = void (Editore::*)();
   void EseguiPasso(PassoEditore passo);

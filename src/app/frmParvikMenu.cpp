@@ -3,13 +3,12 @@
 
 #include "app/frmAbout.h"
 #include "app/frmParvik.h"
-#include "app/qtPassi.h"
 
 namespace parvik {
 
 /// What cannot be used does nothing, however it was called.
 void frmParvik::CreaMenu() {
-  menu_ = new qtMenu(*menuBar(), this);
+  menu_ = new qtMenu(*menuBar(), *this);
   connect(menu_, &qtMenu::Scelto, this, [this](Comando comando) {
     if (Abilitato(comando, editore_.PerMenu())) Esegui(comando);
   });
@@ -57,13 +56,21 @@ void frmParvik::Esegui(Comando comando) {
       return editore_.CommutaRighe();
     case Comando::SettaFlag:
       return editore_.CommutaSettaFlag();
+    case Comando::Annulla:
+      return EseguiPasso(&Editore::Annulla);
+    case Comando::Ripeti:
+      return EseguiPasso(&Editore::Ripeti);
+    case Comando::AnteAuto:
+    case Comando::Misura:
+    case Comando::BarraStato:
+    case Comando::Righello:
+    case Comando::FlagVeri:
+    case Comando::Ricorda:
+      return editore_.Commuta(PreferenzaDi(comando).value());
+    case Comando::VaiAnte:
+    case Comando::Foglio:
+      break;
   }
-}
-
-void frmParvik::CreaPassi() {
-  auto* passi = new qtPassi(this);
-  connect(passi, &qtPassi::DaAnnullare, this, [this] { EseguiPasso(&Editore::Annulla); });
-  connect(passi, &qtPassi::DaRipetere, this, [this] { EseguiPasso(&Editore::Ripeti); });
 }
 
 void frmParvik::EseguiPasso(PassoEditore passo) {

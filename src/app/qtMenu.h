@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QMenuBar>
 #include <QObject>
+#include <QWidget>
 #include <utility>
 #include <vector>
 
@@ -16,8 +17,9 @@ class qtMenu final : public QObject {
   Q_OBJECT
 
  public:
-  /// Fills `barra`, which must outlive this.
-  qtMenu(QMenuBar& barra, QObject* padre);
+  /// Fills `barra`, the menu bar of `finestra`, which owns this. The keys of entries that can always be used
+  /// hold in the whole window, whatever menu they are in.
+  qtMenu(QMenuBar& barra, QWidget& finestra);
 
   /// What can be used, and which check marks are there.
   void Aggiorna(const StatoMenu& stato);
@@ -27,7 +29,12 @@ class qtMenu final : public QObject {
   void Scelto(parvik::Comando comando);
 
  private:
-  QAction* CreaVoce(QMenu& menu, const VoceMenu& voce);
+  void Metti(QMenuBar& barra, const VoceMenu& voce);
+  QMenu* ApriMenu(QMenu* menu, const VoceMenu& voce);
+  QAction* CreaVoce(const VoceMenu& voce);
+
+  QWidget& finestra_;
+  std::vector<QMenu*> aperti_;  // while the bar is filled: the top menu, and the submenu in it
 
   std::vector<std::pair<const VoceMenu*, QAction*>> azioni_;
 };

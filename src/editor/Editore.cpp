@@ -28,7 +28,8 @@ Editore::Editore(Installazione installazione, Catalogo catalogo, Vista& vista, I
       stampa_(documento_, installazione_, resa_, *this, vista, interlocutore),
       conto_(documento_, interlocutore),
       inserimento_(documento_, vista),
-      titolo_(TitoloSenzaTipo) {}
+      titolo_(TitoloSenzaTipo),
+      ascolto_(documento_.Ascolta(*this)) {}
 
 void Editore::ScegliTipo(std::size_t slot) {
   PARVIK_ESIGE(slot < catalogo_.TipiDoc().size(), "the slot is one of the catalogue's");
@@ -37,7 +38,6 @@ void Editore::ScegliTipo(std::size_t slot) {
   ApplicaTipoDoc();
   documento_.Stato().Modificato = false;
   documento_.Stato().Origine.reset();
-  documento_.DimenticaPassi();
 }
 
 void Editore::ApplicaTipoDoc() {
@@ -48,6 +48,7 @@ void Editore::ApplicaTipoDoc() {
     documento_.Imposta(Sezione::Piede, FineRiga);
     documento_.Stato().Corpo = ImpostazioniPredefinite();
   }
+  documento_.DimenticaPassi();
   vista_.Aggiorna();
   tipo_->CaricaFlagStampe(flag_);
   vista_.RicaricaFlagStampe();
@@ -167,6 +168,11 @@ void Editore::ImpostaCorpo(const ImpostazioniCorpo& corpo) {
 void Editore::SegnaModificato() {
   PARVIK_ESIGE(TipoScelto(), ConTipo);
   documento_.Stato().Modificato = true;
+}
+
+void Editore::Commuta(Preferenza quale) {
+  scelte_.Imposta(quale, !scelte_[quale]);
+  vista_.Aggiorna();
 }
 
 void Editore::SpegniAnteprima() {

@@ -18,6 +18,7 @@
 #include "editor/Disposizione.h"
 #include "editor/Inserimento.h"
 #include "editor/Menu.h"
+#include "editor/Preferenze.h"
 #include "editor/Resa.h"
 #include "editor/TipoInUso.h"
 #include "editor/Vista.h"
@@ -28,7 +29,7 @@
 
 namespace parvik {
 
-class Editore final : private Contorno, private InterruttoreAnteprima {
+class Editore final : private Contorno, private InterruttoreAnteprima, private AscoltatoreDocumento {
  public:
   /// Starts in the state without a document type. `vista` and `interlocutore` must outlive the editor;
   /// `vista` is first used when a command runs.
@@ -53,8 +54,12 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
             .TreSezioni = TreSezioni(),
             .Anteprima = anteSpuntata_,
             .TotaliRighe = Totali().has_value(),
-            .SettaFlag = settaFlagSpuntata_};
+            .SettaFlag = settaFlagSpuntata_,
+            .PuoAnnullare = documento_.PuoAnnullare(),
+            .PuoRipetere = documento_.PuoRipetere(),
+            .Scelte = scelte_};
   }
+  const Preferenze& Scelte() const { return scelte_; }
   const Catalogo& Campi() const { return catalogo_; }
   const Installazione& Dove() const { return installazione_; }
   const Documento& Modello() const { return documento_; }
@@ -119,6 +124,9 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
   /// Needs a type of three sections.
   void ImpostaCorpo(const ImpostazioniCorpo& corpo);
 
+  /// Turns a switch on or off. In every state.
+  void Commuta(Preferenza quale);
+
   /// Whether the window may close. Asks when the template is modified. In every state.
   bool PuoChiudere() { return !TipoScelto() || comandi_.PuoChiudere(Tipo()); }
   /// A section was edited, or a key was pressed in it.
@@ -134,6 +142,8 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
   void TornaSenzaTipo() override;
   bool AnteprimaAccesa() const override { return anteSpuntata_; }
   bool AccendiAnteprima() override;
+  void Modificata(const CambiamentoTesto& /*cambiamento*/) override { vista_.CambiatoTesto(); }
+  void Sostituita(Sezione /*sezione*/) override { vista_.CambiatoTesto(); }
 
   Installazione installazione_;
   Catalogo catalogo_;
@@ -150,6 +160,8 @@ class Editore final : private Contorno, private InterruttoreAnteprima {
   std::string titolo_;
   bool anteSpuntata_ = false;
   bool settaFlagSpuntata_ = false;
+  Preferenze scelte_;
+  Documento::Ascolto ascolto_;
 };
 
 }  // namespace parvik

@@ -39,6 +39,21 @@ constexpr std::array Voci = {
     VoceMenu{"mnuRighe",      Voce,       Comando::TotaliRighe,   "Totali &righe",           "",             ConTipo,    true},
     VoceMenu{"mnuSettaFlag",  Voce,       Comando::SettaFlag,     "&Setta Flag per stampe",  "",             ConTipo,    true},
     VoceMenu{"mnuTool",       Menu,       {},                     "&Tools Comandi",          "",             ConTipo,    false},
+    VoceMenu{"mnuAnnulla",    Voce,       Comando::Annulla,       "&Annulla",                "Ctrl+Z",       DaAnnullare, false},
+    VoceMenu{"mnuRipeti",     Voce,       Comando::Ripeti,        "&Ripeti",                 "Ctrl+Y",       DaRipetere,  false},
+    VoceMenu{"sep6",          Separatore, {},                     "",                        "",             Sempre,      false},
+    VoceMenu{"mnuAnteAuto",   Voce,       Comando::AnteAuto,      "Anteprima automati&ca",   "",             ConTipo,     true},
+    VoceMenu{"mnuMisura",     Voce,       Comando::Misura,        "Campi a &misura",         "F7",           ConTipo,     true},
+    VoceMenu{"mnuVaiAnte",    Voce,       Comando::VaiAnte,       "Mostra nell'ante&prima",  "F6",           ConTipo,     false},
+    VoceMenu{"sep7",          Separatore, {},                     "",                        "",             Sempre,      false},
+    VoceMenu{"mnuMostra",     Sottomenu,  {},                     "M&ostra",                 "",             Sempre,      false},
+    VoceMenu{"mnuBarraStato", Voce,       Comando::BarraStato,    "Barra di s&tato",         "",             Sempre,      true},
+    VoceMenu{"mnuRighello",   Voce,       Comando::Righello,      "&Righello",               "",             Sempre,      true},
+    VoceMenu{"mnuFoglio",     Voce,       Comando::Foglio,        "&Foglio...",              "",             ConTipo,     false},
+    VoceMenu{"mnuFlagVeri",   Voce,       Comando::FlagVeri,      "Flag tutti &veri",        "",             Sempre,      true},
+    VoceMenu{"",              Fine,       {},                     "",                        "",             Sempre,      false},
+    VoceMenu{"sep8",          Separatore, {},                     "",                        "",             Sempre,      false},
+    VoceMenu{"mnuRicorda",    Voce,       Comando::Ricorda,       "Ricorda tra una sessione e l'a&ltra", "", Sempre,      true},
 };
 // clang-format on
 
@@ -67,6 +82,10 @@ bool Abilitata(const VoceMenu& voce, const StatoMenu& stato) {
       return stato.TipoScelto;
     case TreSezioni:
       return stato.TipoScelto && stato.TreSezioni;
+    case DaAnnullare:
+      return stato.TipoScelto && stato.PuoAnnullare;
+    case DaRipetere:
+      return stato.TipoScelto && stato.PuoRipetere;
     default:
       return true;
   }
@@ -77,7 +96,27 @@ bool Abilitato(Comando comando, const StatoMenu& stato) {
       Voci, [&](const VoceMenu& voce) { return voce.Cosa == comando && Abilitata(voce, stato); });
 }
 
+std::optional<Preferenza> PreferenzaDi(Comando comando) {
+  switch (comando) {
+    case Comando::AnteAuto:
+      return Preferenza::AnteAuto;
+    case Comando::Misura:
+      return Preferenza::Misura;
+    case Comando::BarraStato:
+      return Preferenza::BarraStato;
+    case Comando::Righello:
+      return Preferenza::Righello;
+    case Comando::FlagVeri:
+      return Preferenza::FlagVeri;
+    case Comando::Ricorda:
+      return Preferenza::Ricorda;
+    default:
+      return std::nullopt;
+  }
+}
+
 bool Spuntato(Comando comando, const StatoMenu& stato) {
+  if (const auto scelta = PreferenzaDi(comando)) return stato.Scelte[*scelta];
   switch (comando) {
     case Comando::Anteprima:
       return stato.Anteprima;

@@ -4,16 +4,26 @@
 #include <optional>
 #include <span>
 
+#include "editor/Preferenze.h"
+
 namespace parvik {
 
-enum class GenereVoce { Menu, Voce, Separatore };
+enum class GenereVoce {
+  Menu,       // opens a top menu; what follows it belongs to it
+  Sottomenu,  // opens a menu in the one that is open; what follows it belongs to it, up to its end
+  Fine,       // of a submenu
+  Voce,
+  Separatore,
+};
 
 /// When an entry can be used.
 enum class Uso {
   Sempre,
-  SenzaTipo,   // only while no document type is chosen
-  ConTipo,     // only while one is chosen
-  TreSezioni,  // only while one with three sections is chosen
+  SenzaTipo,    // only while no document type is chosen
+  ConTipo,      // only while one is chosen
+  TreSezioni,   // only while one with three sections is chosen
+  DaAnnullare,  // only while there is a change to take back
+  DaRipetere,   // only while there is one to do again
 };
 
 /// What an entry does, in the order of the screen.
@@ -36,11 +46,24 @@ enum class Comando {
   ComandoCorpo,
   TotaliRighe,
   SettaFlag,
+  Annulla,
+  Ripeti,
+  AnteAuto,
+  Misura,
+  VaiAnte,
+  BarraStato,
+  Righello,
+  Foglio,
+  FlagVeri,
+  Ricorda,
 };
 
+/// The switch that a command turns; nullopt of those that turn none.
+std::optional<Preferenza> PreferenzaDi(Comando comando);
+
 struct VoceMenu {
-  const char* Nome;             // its objectName
-  GenereVoce Genere;            // a Menu opens a top menu; what follows it belongs to it
+  const char* Nome;  // its objectName
+  GenereVoce Genere;
   std::optional<Comando> Cosa;  // of an entry, and of nothing else
   const char* Didascalia;       // UTF-8, with its access key
   const char* Scorciatoia;      // portable key names, "" for none
@@ -58,6 +81,9 @@ struct StatoMenu {
   bool Anteprima = false;
   bool TotaliRighe = false;
   bool SettaFlag = false;
+  bool PuoAnnullare = false;
+  bool PuoRipetere = false;
+  Preferenze Scelte = {};
 };
 
 bool Abilitata(const VoceMenu& voce, const StatoMenu& stato);

@@ -70,6 +70,9 @@ class Vista : public VistaAnteprima, public VistaStampa, public VistaSezioni {
  public:
   /// The editor's state has changed: caption, menus, what is visible, layout.
   virtual void Aggiorna() = 0;
+  /// The text of a section has changed, and with it what can be undone. Called in the middle of the change:
+  /// nothing but what shows may follow it.
+  virtual void CambiatoTesto() = 0;
   /// The print flags were loaded anew, set to false or discarded.
   virtual void RicaricaFlagStampe() = 0;
 };

@@ -75,7 +75,8 @@ bool txtTCP::Esclude(QEvent& evento) const {
 
 bool txtTCP::event(QEvent* evento) {
   if (Esclude(*evento)) return true;
-  if (evento->type() == QEvent::ShortcutOverride && EDellaFinestra(*static_cast<QKeyEvent*>(evento))) {
+  const bool tasto = evento->type() == QEvent::ShortcutOverride || evento->type() == QEvent::KeyPress;
+  if (tasto && EDellaFinestra(*static_cast<QKeyEvent*>(evento))) {
     evento->ignore();
     return true;
   }

@@ -11,8 +11,19 @@ namespace {
 constexpr std::string_view Pagina = "menus.md";
 
 std::string NomeGenere(GenereVoce genere) {
-  if (genere == GenereVoce::Menu) return "menu";
-  return genere == GenereVoce::Voce ? "entry" : "separator";
+  switch (genere) {
+    case GenereVoce::Menu:
+      return "menu";
+    case GenereVoce::Sottomenu:
+      return "submenu";
+    case GenereVoce::Fine:
+      return "end";
+    case GenereVoce::Voce:
+      return "entry";
+    case GenereVoce::Separatore:
+      break;
+  }
+  return "separator";
 }
 
 TEST(MenusPage, ListsEveryEntryAndWhenItCanBeUsed) {

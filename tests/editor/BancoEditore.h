@@ -20,6 +20,7 @@ namespace parvik::prova {
 class VistaFinta final : public Vista {
  public:
   void Aggiorna() override { ++Aggiornamenti; }
+  void CambiatoTesto() override { ++CambiamentiTesto; }
   void MostraAnteprima(Anteprima anteprima) override { Anteprime.push_back(std::move(anteprima.Testo)); }
   void CompletaAnteprima(Anteprima anteprima) override { Completate.push_back(std::move(anteprima.Testo)); }
   Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override {
@@ -47,6 +48,7 @@ class VistaFinta final : public Vista {
   std::array<Cursore, MaxSezioni> Cursori;
   std::vector<CursoreSezione> Raggiunti;
   int Aggiornamenti = 0;
+  int CambiamentiTesto = 0;
   int RicaricheFlag = 0;
   std::vector<std::string> Anteprime;
   std::vector<std::string> Completate;

@@ -10,11 +10,18 @@ namespace parvik::prova {
 namespace {
 
 /// The table in the form in which a person would write it: name, caption, shortcut; what stands under a top
-/// menu is indented. A separator has a name only.
+/// menu is indented, what stands in a submenu twice. A separator has a name only.
 std::vector<std::string> Elenco() {
   std::vector<std::string> elenco;
+  std::string rientro;
   for (const VoceMenu& voce : VociMenu()) {
-    std::string riga = voce.Genere == GenereVoce::Menu ? "" : "  ";
+    if (voce.Genere == GenereVoce::Fine) {
+      rientro.resize(2);
+      continue;
+    }
+    if (voce.Genere == GenereVoce::Menu) rientro.clear();
+    std::string riga = rientro;
+    if (voce.Genere == GenereVoce::Menu || voce.Genere == GenereVoce::Sottomenu) rientro += "  ";
     riga += voce.Nome;
     if (*voce.Didascalia != '\0') riga += std::string(" ") + voce.Didascalia;
     if (*voce.Scorciatoia != '\0') riga += std::string(" ") + voce.Scorciatoia;
@@ -53,6 +60,20 @@ TEST(VociMenu, AreTheWholeTreeInTheOrderOfTheScreen) {
       "  mnuRighe Totali &righe",
       "  mnuSettaFlag &Setta Flag per stampe",
       "mnuTool &Tools Comandi",
+      "  mnuAnnulla &Annulla Ctrl+Z",
+      "  mnuRipeti &Ripeti Ctrl+Y",
+      "  sep6",
+      "  mnuAnteAuto Anteprima automati&ca",
+      "  mnuMisura Campi a &misura F7",
+      "  mnuVaiAnte Mostra nell'ante&prima F6",
+      "  sep7",
+      "  mnuMostra M&ostra",
+      "    mnuBarraStato Barra di s&tato",
+      "    mnuRighello &Righello",
+      "    mnuFoglio &Foglio...",
+      "    mnuFlagVeri Flag tutti &veri",
+      "  sep8",
+      "  mnuRicorda Ricorda tra una sessione e l'a&ltra",
   };
   EXPECT_EQ(atteso, Elenco());
 }
@@ -64,10 +85,11 @@ TEST(VociMenu, AreSeparatorsExactlyWhereTheNameSaysSo) {
 }
 
 TEST(VociMenu, ShowACheckMarkForWhatIsShownAndHidden) {
-  for (const VoceMenu& voce : VociMenu()) {
-    const std::string nome = voce.Nome;
-    EXPECT_EQ(nome == "mnuAnte" || nome == "mnuRighe" || nome == "mnuSettaFlag", voce.ConSpunta) << nome;
-  }
+  const std::set<std::string> conSpunta = {"mnuAnte",     "mnuRighe",    "mnuSettaFlag",
+                                           "mnuAnteAuto", "mnuMisura",   "mnuBarraStato",
+                                           "mnuRighello", "mnuFlagVeri", "mnuRicorda"};
+  for (const VoceMenu& voce : VociMenu())
+    EXPECT_EQ(conSpunta.contains(voce.Nome), voce.ConSpunta) << voce.Nome;
 }
 
 using Nomi = std::set<std::string>;
@@ -82,18 +104,28 @@ Nomi Disabilitate(const StatoMenu& stato) {
 }
 
 TEST(Abilitata, LeavesOnlyTheChoiceOfATypeTheAboutBoxAndTheExitWithoutAType) {
-  EXPECT_EQ((Nomi{"mnuAnte", "mnuApri", "mnuComando", "mnuCostante", "mnuFlag", "mnuLingua", "mnuNuovo",
-                  "mnuPagina", "mnuSalva", "mnuSalvaNome", "mnuStampa", "mnuStile", "mnuVar", "mnuRighe",
-                  "mnuSettaFlag", "mnuTool"}),
+  EXPECT_EQ((Nomi{"mnuAnte",     "mnuApri",   "mnuComando",   "mnuCostante",  "mnuFlag",    "mnuLingua",
+                  "mnuNuovo",    "mnuPagina", "mnuSalva",     "mnuSalvaNome", "mnuStampa",  "mnuStile",
+                  "mnuVar",      "mnuRighe",  "mnuSettaFlag", "mnuTool",      "mnuAnnulla", "mnuRipeti",
+                  "mnuAnteAuto", "mnuMisura", "mnuVaiAnte",   "mnuFoglio"}),
             Disabilitate({.TipoScelto = false, .TreSezioni = false}));
 }
 
 TEST(Abilitata, TakesAwayTheChoiceOfATypeWithATypeOfThreeSections) {
-  EXPECT_EQ(Nomi{"mnuScelta"}, Disabilitate({.TipoScelto = true, .TreSezioni = true}));
+  EXPECT_EQ((Nomi{"mnuScelta", "mnuAnnulla", "mnuRipeti"}),
+            Disabilitate({.TipoScelto = true, .TreSezioni = true}));
 }
 
 TEST(Abilitata, TakesAwayTheBodyCommandTooWithATypeOfOneSection) {
-  EXPECT_EQ((Nomi{"mnuScelta", "mnuComando"}), Disabilitate({.TipoScelto = true, .TreSezioni = false}));
+  EXPECT_EQ((Nomi{"mnuScelta", "mnuComando", "mnuAnnulla", "mnuRipeti"}),
+            Disabilitate({.TipoScelto = true, .TreSezioni = false}));
+}
+
+TEST(Abilitata, OffersUndoAndRedoWhileThereIsAStep) {
+  EXPECT_EQ((Nomi{"mnuScelta", "mnuRipeti"}),
+            Disabilitate({.TipoScelto = true, .TreSezioni = true, .PuoAnnullare = true}));
+  EXPECT_EQ((Nomi{"mnuScelta", "mnuAnnulla"}),
+            Disabilitate({.TipoScelto = true, .TreSezioni = true, .PuoRipetere = true}));
 }
 
 TEST(Abilitato, IsACommandWhoseEntryCanBeUsed) {
@@ -116,10 +148,29 @@ Nomi Spuntate(const StatoMenu& stato) {
 }
 
 TEST(Spuntato, IsWhatIsShown) {
-  EXPECT_EQ(Nomi{}, Spuntate({.TipoScelto = true, .TreSezioni = true}));
-  EXPECT_EQ(Nomi{"mnuAnte"}, Spuntate({.Anteprima = true}));
-  EXPECT_EQ(Nomi{"mnuRighe"}, Spuntate({.TotaliRighe = true}));
-  EXPECT_EQ(Nomi{"mnuSettaFlag"}, Spuntate({.SettaFlag = true}));
+  StatoMenu spento{.TipoScelto = true, .TreSezioni = true};
+  spento.Scelte.Imposta(Preferenza::BarraStato, false);
+  const auto con = [&spento](bool StatoMenu::*acceso) {
+    StatoMenu stato = spento;
+    stato.*acceso = true;
+    return stato;
+  };
+  EXPECT_EQ(Nomi{}, Spuntate(spento));
+  EXPECT_EQ(Nomi{"mnuAnte"}, Spuntate(con(&StatoMenu::Anteprima)));
+  EXPECT_EQ(Nomi{"mnuRighe"}, Spuntate(con(&StatoMenu::TotaliRighe)));
+  EXPECT_EQ(Nomi{"mnuSettaFlag"}, Spuntate(con(&StatoMenu::SettaFlag)));
+}
+
+TEST(Spuntato, IsASwitchThatIsOn) {
+  EXPECT_EQ(Nomi{"mnuBarraStato"}, Spuntate({}));
+  for (const VoceMenu& voce : VociMenu()) {
+    const auto quale = voce.Cosa ? PreferenzaDi(*voce.Cosa) : std::nullopt;
+    if (!quale) continue;
+    StatoMenu stato;
+    stato.Scelte.Imposta(Preferenza::BarraStato, false);
+    stato.Scelte.Imposta(*quale, true);
+    EXPECT_EQ(Nomi{voce.Nome}, Spuntate(stato));
+  }
 }
 
 }  // namespace

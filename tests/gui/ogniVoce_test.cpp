@@ -101,6 +101,27 @@ Effetto MostraENasconde(const char* finestrella) {
   };
 }
 
+/// The last change, typed here, is taken back, and done again.
+void AnnullaERipeti(Finestra& finestra, const char* nome) {
+  const QString prima = finestra.Sezione(0).toPlainText();
+  QTest::keyClicks(&finestra.Sezione(0), "zz");
+  Scegli(finestra, "mnuAnnulla");
+  EXPECT_EQ(finestra.Sezione(0).toPlainText(), prima);
+  EXPECT_FALSE(finestra.Azione("mnuAnnulla").isEnabled());
+  Scegli(finestra, "mnuRipeti");
+  EXPECT_EQ(finestra.Sezione(0).toPlainText(), "zz" + prima);
+  EXPECT_FALSE(finestra.Azione("mnuRipeti").isEnabled()) << nome;
+}
+
+/// A switch that turns, and turns back.
+void Commuta(Finestra& finestra, const char* nome) {
+  const bool prima = finestra.Azione(nome).isChecked();
+  Scegli(finestra, nome);
+  EXPECT_NE(finestra.Azione(nome).isChecked(), prima);
+  Scegli(finestra, nome);
+  EXPECT_EQ(finestra.Azione(nome).isChecked(), prima);
+}
+
 struct Voce {
   const char* Nome;
   Effetto Fa;
@@ -128,6 +149,16 @@ const std::vector<Voce>& Voci() {
       {"mnuComando", Apre("frmComando: Comando corpo")},
       {"mnuRighe", MostraENasconde("frmTotRighe")},
       {"mnuSettaFlag", MostraENasconde("frmSettaFlag")},
+      {"mnuAnnulla", AnnullaERipeti},
+      {"mnuRipeti", AnnullaERipeti},
+      {"mnuAnteAuto", Commuta},
+      {"mnuMisura", Commuta},
+      {"mnuVaiAnte", Commuta},
+      {"mnuBarraStato", Commuta},
+      {"mnuRighello", Commuta},
+      {"mnuFoglio", Commuta},
+      {"mnuFlagVeri", Commuta},
+      {"mnuRicorda", Commuta},
   };
   return voci;
 }

@@ -1,0 +1,30 @@
+// What the user has switched on, beside the document: how the window shows it (docs/menus.md).
+#pragma once
+
+#include <array>
+#include <cstddef>
+
+namespace parvik {
+
+enum class Preferenza {
+  AnteAuto,    // the preview follows the text
+  Misura,      // codes are drawn as wide as what they print
+  BarraStato,  // the status bar shows
+  Righello,    // the rulers show
+  FlagVeri,    // codes are measured as if all print flags were true
+  Ricorda,     // switches and places are kept from one session to the next
+};
+inline constexpr std::size_t NumPreferenze = 6;
+
+class Preferenze {
+ public:
+  bool operator[](Preferenza quale) const { return accese_[static_cast<std::size_t>(quale)]; }
+  void Imposta(Preferenza quale, bool accesa) { accese_[static_cast<std::size_t>(quale)] = accesa; }
+
+  bool operator==(const Preferenze&) const = default;
+
+ private:
+  std::array<bool, NumPreferenze> accese_ = {false, false, true, false, false, false};  // in their order
+};
+
+}  // namespace parvik
