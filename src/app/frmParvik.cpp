@@ -96,6 +96,8 @@ void frmParvik::CambiatoTesto() {
   if (menu_ != nullptr) menu_->Aggiorna(editore_.PerMenu());
 }
 
+void frmParvik::CambiataMisura() {}
+
 void frmParvik::MostraAnteprima(Anteprima anteprima) {
   area_->Pannello().Mostra(std::move(anteprima));
 }

@@ -41,6 +41,7 @@ class frmParvik final : public QMainWindow, private Vista {
   // What the editor's commands see of the window.
   void Aggiorna() override;
   void CambiatoTesto() override;
+  void CambiataMisura() override;
   void MostraAnteprima(Anteprima anteprima) override;
   void CompletaAnteprima(Anteprima anteprima) override;
   Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override;

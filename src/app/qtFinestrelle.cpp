@@ -19,6 +19,8 @@ void qtFinestrelle::MostraFlag() {
     QObject::connect(settaFlag_.get(), &frmSettaFlag::Nascosta, settaFlag_.get(), [this] {
       if (editore_.SettaFlagSpuntata()) editore_.CommutaSettaFlag();
     });
+    QObject::connect(settaFlag_.get(), &frmSettaFlag::Cambiati, settaFlag_.get(),
+                     [this] { editore_.CambiatiFlag(); });
   }
   settaFlag_->setVisible(visibile);
 }

@@ -52,6 +52,7 @@ void Editore::ApplicaTipoDoc() {
   vista_.Aggiorna();
   tipo_->CaricaFlagStampe(flag_);
   vista_.RicaricaFlagStampe();
+  CambiatiFlag();
 }
 
 void Editore::Nuovo() {
@@ -113,6 +114,11 @@ void Editore::CommutaRighe() {
   vista_.Aggiorna();
 }
 
+void Editore::CambiatiFlag() {
+  campi_.AggiornaFlag(scelte_[Preferenza::FlagVeri]);
+  vista_.CambiataMisura();
+}
+
 void Editore::AttivaSezione(Sezione sezione) {
   PARVIK_ESIGE(InUso(sezione), ConSezione);
   inserimento_.ImpostaAttiva(sezione);
@@ -163,6 +169,7 @@ void Editore::ImpostaCorpo(const ImpostazioniCorpo& corpo) {
   if (corpo != documento_.Stato().Corpo)
     documento_.Stato().Modificato = true;  // the file would be another one
   documento_.Stato().Corpo = corpo;
+  vista_.CambiataMisura();
 }
 
 void Editore::SegnaModificato() {
@@ -172,6 +179,7 @@ void Editore::SegnaModificato() {
 
 void Editore::Commuta(Preferenza quale) {
   scelte_.Imposta(quale, !scelte_[quale]);
+  if (quale == Preferenza::FlagVeri) CambiatiFlag();
   vista_.Aggiorna();
 }
 
@@ -183,12 +191,14 @@ void Editore::SpegniAnteprima() {
 void Editore::AzzeraFlagStampe() {
   flag_.AzzeraTutti();
   vista_.RicaricaFlagStampe();
+  CambiatiFlag();
 }
 
 void Editore::TornaSenzaTipo() {
   tipo_.reset();
   titolo_ = TitoloSenzaTipo;
   flag_.Svuota();
+  CambiatiFlag();
   settaFlagSpuntata_ = false;
   conto_.Nascondi();
   vista_.RicaricaFlagStampe();

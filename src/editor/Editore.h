@@ -22,6 +22,7 @@
 #include "editor/Resa.h"
 #include "editor/TipoInUso.h"
 #include "editor/Vista.h"
+#include "output/CampiAMisura.h"
 #include "output/FlagPerStampe.h"
 #include "start/Installazione.h"
 #include "template/ComandiFile.h"
@@ -66,6 +67,8 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   /// For those who show the sections: the user's changes go into it.
   Documento& Modello() { return documento_; }
   FlagPerStampe& Flag() { return flag_; }
+  /// What the sections print, line by line.
+  const CampiAMisura& AMisura() const { return campi_; }
   /// The check mark of the print-flags window.
   bool SettaFlagSpuntata() const { return settaFlagSpuntata_; }
   /// The numbers of the line-totals window; nullopt while it is not shown. They are those of the moment at
@@ -98,6 +101,8 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   void CommutaSettaFlag();
   /// The menu entry of the line totals: shows the numbers of this moment, or hides them.
   void CommutaRighe();
+  /// Print flags were set in their window.
+  void CambiatiFlag();
   /// The section that now has the focus; it must be in use.
   void AttivaSezione(Sezione sezione);
 
@@ -151,6 +156,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   Interlocutore& interlocutore_;
   Documento documento_;
   FlagPerStampe flag_;
+  CampiAMisura campi_{documento_, flag_};
   ComandiFile comandi_;
   Resa resa_;
   ComandoStampa stampa_;

@@ -73,6 +73,8 @@ class Vista : public VistaAnteprima, public VistaStampa, public VistaSezioni {
   /// The text of a section has changed, and with it what can be undone. Called in the middle of the change:
   /// nothing but what shows may follow it.
   virtual void CambiatoTesto() = 0;
+  /// Codes may print another width, or begin or cease to show, without any change of text.
+  virtual void CambiataMisura() = 0;
   /// The print flags were loaded anew, set to false or discarded.
   virtual void RicaricaFlagStampe() = 0;
 };

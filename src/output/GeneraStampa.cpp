@@ -208,9 +208,7 @@ class Corsa {
 
 /// How often a section is rendered.
 int Ripetizioni(Sezione sezione, const DatiStampa& dati) {
-  if (sezione != Sezione::Corpo) return 1;
-  if (dati.LineeCorpo <= 0) return 0;
-  return dati.RigheCorpo / dati.LineeCorpo;
+  return sezione == Sezione::Corpo ? RipetizioniCorpo(dati.RigheCorpo, dati.LineeCorpo) : 1;
 }
 
 /// False when the output ended it.
@@ -237,6 +235,11 @@ Esito<void, Interruzione> Genera(const DatiStampa& dati, TipoStampa destinazione
 }
 
 }  // namespace
+
+int RipetizioniCorpo(std::int16_t righeCorpo, std::int16_t lineeCorpo) {
+  if (lineeCorpo <= 0) return 0;
+  return std::max(righeCorpo / lineeCorpo, 0);
+}
 
 Esito<void, Interruzione> GeneraStampa(const DatiStampa& dati, TipoStampa destinazione, UscitaRighe& uscita) {
   return Genera(dati, destinazione, uscita, SenzaDiario());

@@ -31,6 +31,9 @@ struct DatiStampa {
   bool Interi = true;
 };
 
+/// How often the body is rendered; never below 0.
+int RipetizioniCorpo(std::int16_t righeCorpo, std::int16_t lineeCorpo);
+
 /// Where the lines of a run go.
 class UscitaRighe {
  public:

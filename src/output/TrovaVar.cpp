@@ -44,6 +44,13 @@ StatiFlag::StatiFlag(const FlagPerStampe& flag) {
   }
 }
 
+StatiFlag StatiFlag::TuttiVeri(const FlagPerStampe& flag) {
+  StatiFlag veri(flag);
+  for (std::optional<bool>& stato : veri.stati_)
+    if (stato) stato = true;
+  return veri;
+}
+
 std::optional<bool> StatiFlag::operator()(double numero) const {
   if (numero < Minimo || numero > Massimo) return std::nullopt;
   const auto intero = static_cast<int>(numero);
@@ -51,8 +58,8 @@ std::optional<bool> StatiFlag::operator()(double numero) const {
   return stati_[static_cast<std::size_t>(intero - Minimo)];
 }
 
-TrovaVar::TrovaVar(TipoStampa destinazione, const FlagPerStampe& flag, const Memoria& memoria)
-    : destinazione_(destinazione), stati_(flag), memoria_(memoria) {}
+TrovaVar::TrovaVar(TipoStampa destinazione, const StatiFlag& stati, const Memoria& memoria)
+    : destinazione_(destinazione), stati_(stati), memoria_(memoria) {}
 
 const Campione& TrovaVar::operator()(std::string_view codice) {
   const TipoCodice tipo = Riconosci(codice);

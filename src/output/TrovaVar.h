@@ -38,6 +38,8 @@ struct Memoria {
 class StatiFlag {
  public:
   explicit StatiFlag(const FlagPerStampe& flag);
+  /// As if every row said true.
+  static StatiFlag TuttiVeri(const FlagPerStampe& flag);
   /// nullopt when no row has the number.
   std::optional<bool> operator()(double numero) const;
 
@@ -52,7 +54,9 @@ class StatiFlag {
 class TrovaVar {
  public:
   /// `memoria` is what a run keeps where this one begins.
-  TrovaVar(TipoStampa destinazione, const FlagPerStampe& flag, const Memoria& memoria = {});
+  TrovaVar(TipoStampa destinazione, const FlagPerStampe& flag, const Memoria& memoria = {})
+      : TrovaVar(destinazione, StatiFlag(flag), memoria) {}
+  TrovaVar(TipoStampa destinazione, const StatiFlag& stati, const Memoria& memoria = {});
 
   /// The text of the next code. A code of unknown kind repeats the text of the code before it.
   const Campione& operator()(std::string_view codice);

@@ -61,6 +61,7 @@ void frmSettaFlag::SettaFlag(bool vero) {
     flag_.SettaFlag(riga, vero);
     ui_->lstFlag->item(scelta.row())->setText(PerSchermo(flag_.Righe()[riga]));
   }
+  emit Cambiati();
 }
 
 /// Each heading begins where its column begins and ends where the next one begins; the last one takes the

@@ -26,6 +26,8 @@ class frmSettaFlag final : public QDialog {
   void Ricarica();
 
  signals:
+  /// The user has set print flags.
+  void Cambiati();
   /// The user put the window away, by its close box or by Escape.
   void Nascosta();
 

@@ -21,6 +21,7 @@ class VistaFinta final : public Vista {
  public:
   void Aggiorna() override { ++Aggiornamenti; }
   void CambiatoTesto() override { ++CambiamentiTesto; }
+  void CambiataMisura() override { ++CambiamentiMisura; }
   void MostraAnteprima(Anteprima anteprima) override { Anteprime.push_back(std::move(anteprima.Testo)); }
   void CompletaAnteprima(Anteprima anteprima) override { Completate.push_back(std::move(anteprima.Testo)); }
   Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override {
@@ -49,6 +50,7 @@ class VistaFinta final : public Vista {
   std::vector<CursoreSezione> Raggiunti;
   int Aggiornamenti = 0;
   int CambiamentiTesto = 0;
+  int CambiamentiMisura = 0;
   int RicaricheFlag = 0;
   std::vector<std::string> Anteprime;
   std::vector<std::string> Completate;

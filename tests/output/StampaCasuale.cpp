@@ -102,11 +102,6 @@ const std::vector<std::string> Codici = {
     "\xAB",
     "\xBB"};
 
-rc::Gen<std::string> Sezione() {
-  return rc::gen::oneOf(rc::gen::just(std::string("\r\n")), Concatenati(Lettere), Concatenati(Codici),
-                        Variabili());
-}
-
 /// Numbers that rows have, have twice, and have cut.
 std::vector<FlagDiProva> Flag() {
   std::vector<FlagDiProva> flag;
@@ -116,6 +111,11 @@ std::vector<FlagDiProva> Flag() {
 }
 
 }  // namespace
+
+rc::Gen<std::string> TestoCasuale() {
+  return rc::gen::oneOf(rc::gen::just(std::string("\r\n")), Concatenati(Lettere), Concatenati(Codici),
+                        Variabili());
+}
 
 rc::Gen<std::string> Variabili() {
   const auto gruppo =
@@ -136,7 +136,7 @@ rc::Gen<std::string> Variabili() {
 
 ProvaStampa ProvaCasuale() {
   ProvaStampa prova;
-  for (std::string& testo : prova.Riferimento.Testi) testo = *Sezione();
+  for (std::string& testo : prova.Riferimento.Testi) testo = *TestoCasuale();
   prova.Riferimento.NumSezioni =
       *rc::gen::weightedElement<int>({{6, 3}, {3, 1}, {1, 2}, {1, 0}, {1, 7}, {1, -1}});
   prova.Riferimento.RigheCorpo = *rc::gen::inRange(-3, 9);

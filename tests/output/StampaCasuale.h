@@ -27,6 +27,9 @@ struct ProvaStampa {
 /// To be called in a property.
 ProvaStampa ProvaCasuale();
 
+/// The text of a section.
+rc::Gen<std::string> TestoCasuale();
+
 /// Lines of a variable code each, with groups that may or may not make sense.
 rc::Gen<std::string> Variabili();
 
