@@ -50,6 +50,7 @@ frmParvik::~frmParvik() {
 void frmParvik::CreaArea() {
   area_ = new qtArea(editore_.Modello(), this);
   setCentralWidget(area_);
+  misure_.emplace(editore_, *area_);
   for (const Sezione sezione : TutteLeSezioni) {
     area_->Editor(sezione).ImpostaDescrizione([this, sezione](std::string_view contenuto) {
       return DaUtf8(editore_.Descrivi(sezione, contenuto));
@@ -88,6 +89,7 @@ void frmParvik::Aggiorna() {
   if (!editore_.TipoScelto()) setFocus();  // keys have nowhere else to go
   menu_->Aggiorna(editore_.PerMenu());
   area_->Mostra(editore_.PerArea());
+  misure_->Aggiorna();
   finestrelle_.Aggiorna();
 }
 
@@ -96,7 +98,9 @@ void frmParvik::CambiatoTesto() {
   if (menu_ != nullptr) menu_->Aggiorna(editore_.PerMenu());
 }
 
-void frmParvik::CambiataMisura() {}
+void frmParvik::CambiataMisura() {
+  if (misure_) misure_->Rimisura();
+}
 
 void frmParvik::MostraAnteprima(Anteprima anteprima) {
   area_->Pannello().Mostra(std::move(anteprima));

@@ -11,6 +11,7 @@
 #include "app/qtFinestrelle.h"
 #include "app/qtMaschere.h"
 #include "app/qtMenu.h"
+#include "app/qtMisure.h"
 #include "editor/Editore.h"
 #include "editor/Vista.h"
 #include "start/Avvio.h"
@@ -77,6 +78,7 @@ class frmParvik final : public QMainWindow, private Vista {
   Editore editore_;
   qtMaschere maschere_;
   qtFinestrelle finestrelle_;
+  std::optional<qtMisure> misure_;  // once there is an area
 };
 
 }  // namespace parvik

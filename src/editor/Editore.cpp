@@ -159,6 +159,17 @@ std::string Editore::Descrivi(Sezione sezione, std::string_view contenuto) {
   return tipo_->Descrivi(sezione, contenuto);
 }
 
+std::string Editore::TestoCampo(Sezione sezione, std::string_view contenuto, const PostoCampo& posto) {
+  PARVIK_ESIGE(InUso(sezione), ConSezione);
+  return tipo_->TestoCampo(sezione, contenuto, posto);
+}
+
+std::optional<std::string> Editore::ConLarghezza(Sezione sezione, std::string_view contenuto,
+                                                 std::int16_t larghezza) {
+  PARVIK_ESIGE(InUso(sezione), ConSezione);
+  return tipo_->ConLarghezza(sezione, contenuto, larghezza);
+}
+
 std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
   PARVIK_ESIGE(InUso(sezione), ConSezione);
   return conto_.Conta(Tipo(), sezione);

@@ -123,6 +123,12 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   /// What a code of that section is, for a tooltip. UTF-8. The section must be in use.
   std::string Descrivi(Sezione sezione, std::string_view contenuto);
 
+  /// What stands in the field of a code of that section; bytes of Windows-1252. The section must be in use.
+  std::string TestoCampo(Sezione sezione, std::string_view contenuto, const PostoCampo& posto);
+  /// The code with another width; nullopt where it cannot be given one. The section must be in use.
+  std::optional<std::string> ConLarghezza(Sezione sezione, std::string_view contenuto,
+                                          std::int16_t larghezza);
+
   /// The lines of a section, its last line completed; nullopt after a message when there are too many to
   /// count.
   std::optional<std::int16_t> ContaRighe(Sezione sezione);

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "start/Avvio.h"
+#include "tokens/ConLarghezza.h"
 #include "tokens/DescriviCodice.h"
 
 namespace parvik {
@@ -42,6 +43,15 @@ void TipoInUso::CaricaFlagStampe(FlagPerStampe& flag) {
 std::string TipoInUso::Descrivi(Sezione sezione, std::string_view contenuto) {
   const Tabelle& tabelle = TabelleDi(sezione);
   return DescriviCodice(contenuto, tabelle.Variabili, tabelle.Flag);
+}
+
+std::string TipoInUso::TestoCampo(Sezione sezione, std::string_view contenuto, const PostoCampo& posto) {
+  return parvik::TestoCampo(contenuto, posto, TabelleDi(sezione).Variabili);
+}
+
+std::optional<std::string> TipoInUso::ConLarghezza(Sezione sezione, std::string_view contenuto,
+                                                   std::int16_t larghezza) {
+  return parvik::ConLarghezza(contenuto, larghezza, TabelleDi(sezione).Variabili);
 }
 
 const TipoInUso::Tabelle& TipoInUso::TabelleDi(Sezione sezione) {

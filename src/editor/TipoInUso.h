@@ -11,6 +11,7 @@
 #include "catalogue/Catalogo.h"
 #include "common/Interlocutore.h"
 #include "output/FlagPerStampe.h"
+#include "tokens/TestoCampo.h"
 
 namespace parvik {
 
@@ -32,6 +33,11 @@ class TipoInUso {
   /// What a code of that section is, for a tooltip. UTF-8. What the catalogue has wrong is told by the
   /// dialogs, not by a tooltip.
   std::string Descrivi(Sezione sezione, std::string_view contenuto);
+  /// What stands in the field of a code of that section.
+  std::string TestoCampo(Sezione sezione, std::string_view contenuto, const PostoCampo& posto);
+  /// The code with another width; nullopt where it cannot be given one.
+  std::optional<std::string> ConLarghezza(Sezione sezione, std::string_view contenuto,
+                                          std::int16_t larghezza);
 
  private:
   /// What Descrivi reads.

@@ -25,7 +25,8 @@ QFont CarattereAnteprima() {
   return carattere;
 }
 
-Celle::Celle(const QFont& base, const QPaintDevice* schermo) : base_(base), schermo_(schermo) {}
+Celle::Celle(const QFont& base, const QPaintDevice* schermo, bool comeSono)
+    : base_(base), schermo_(schermo), comeSono_(comeSono) {}
 
 QFont Celle::ConAspetto(const Aspetto& aspetto) const {
   QFont carattere = base_;
@@ -35,7 +36,7 @@ QFont Celle::ConAspetto(const Aspetto& aspetto) const {
   carattere.setStyleStrategy(
       static_cast<QFont::StyleStrategy>(carattere.styleStrategy() | QFont::PreferNoShaping));
   if (schermo_ != nullptr) {
-    carattere.setPointSizeF(Punti(aspetto.Corpo));
+    if (!comeSono_) carattere.setPointSizeF(Punti(aspetto.Corpo));
     return {carattere, schermo_};
   }
   carattere.setPixelSize(static_cast<int>(std::lround(Punti(aspetto.Corpo) * TwipPerPunto)));

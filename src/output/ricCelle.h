@@ -33,6 +33,8 @@ class Celle {
   /// Lengths are logical pixels. The screen is looked at while this object lives; make a new one when its
   /// resolution or its pixel ratio has changed.
   static Celle SuSchermo(const QFont& base, const QPaintDevice& schermo) { return {base, &schermo}; }
+  /// The same in the size of `base`, whatever size a look asks for: every cell is as wide as its characters.
+  static Celle ComeSono(const QFont& base, const QPaintDevice& schermo) { return {base, &schermo, true}; }
   /// Lengths are twips, whatever the printer's resolution: in them every size of the preview is a whole
   /// number. Nothing is rounded, so compressed cells are eight tenths of the others.
   static Celle SuCarta(const QFont& base) { return {base, nullptr}; }
@@ -59,7 +61,7 @@ class Celle {
     std::array<Larghezza, 256> Larghezze;  // by byte
   };
 
-  Celle(const QFont& base, const QPaintDevice* schermo);
+  Celle(const QFont& base, const QPaintDevice* schermo, bool comeSono = false);
 
   Faccia& FacciaDi(const Aspetto& aspetto) const;
   QFont ConAspetto(const Aspetto& aspetto) const;
@@ -72,6 +74,7 @@ class Celle {
 
   QFont base_;
   const QPaintDevice* schermo_;  // none: paper
+  bool comeSono_;                // every look has the size of base_
   mutable PerAspetto<std::optional<Faccia>> facce_;
 };
 

@@ -65,6 +65,10 @@ void ComandiSezione::Togli(Selezione parte) {
   Cambia(parte, {}, GenereModifica::Intera);
 }
 
+void ComandiSezione::CambiaCodice(Selezione codice, std::string_view nuovo) {
+  Cambia(codice, nuovo, GenereModifica::Intera);
+}
+
 void ComandiSezione::ApriCodice(Selezione codice) {
   veduta_.Poni(CursoreSu(codice));
   const std::string contenuto(ContenutoDi(Testo().Byte(codice)));

@@ -50,6 +50,8 @@ class ComandiSezione {
   void Elimina() { Premi(TastoSezione::Togli, Pressione::Prima); }
   /// Without a selection, takes away what the caret's line has behind the caret, or the line's end.
   void CancellaFinoAFineRiga(Pressione pressione);
+  /// Another code takes a code's place; the caret stays where it is in the text around it.
+  void CambiaCodice(Selezione codice, std::string_view nuovo);
   /// The code at that place is selected, and its dialog opens. One of unknown kind stays selected.
   void ApriCodice(Selezione codice);
 

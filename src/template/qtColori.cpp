@@ -17,6 +17,7 @@ namespace {
 /// The least contrast of a code's colour with what it stands on: what small text needs to be legible.
 constexpr double ContrastoMinimo = 4.5;
 constexpr double ForzaFondo = 0.2;  // how much of the highlight colour is in the mark
+constexpr double ForzaCampo = 0.1;  // how much of its colour is in a field
 constexpr int Passi = 20;           // from a colour to black or white
 
 // By TipoCodice. Far apart in hue; light and dark sets give a kind the same hue.
@@ -104,6 +105,11 @@ void qtColori::ImpostaTavolozza(const QPalette& tavolozza) {
     formati_[i].setForeground(QColor(Leggibile(tinte[i], estremo, base, fondo)));
   }
   fondo_ = fondo;
+  for (std::size_t i = 0; i < formati_.size(); ++i) {
+    const QRgb tinta = formati_[i].foreground().color().rgb();
+    const QRgb velato = Misto(base, tinta, ForzaCampo);
+    fondiCampo_[i] = Contrasto(tinta, velato) >= ContrastoMinimo ? velato : base;
+  }
   if (formati_ == prima) return;
   const QSignalBlocker muto(document());
   rehighlight();
@@ -135,6 +141,15 @@ void qtColori::Colora(std::size_t inizio, std::size_t fine, TipoCodice tipo) {
 
 void qtColori::highlightBlock(const QString& riga) {
   const std::string byte = Byte(riga);
+  ColoraCodici(byte);
+  if (spazi_ != nullptr) {
+    SpaziaRiga(byte);
+  } else if (currentBlockUserData() != nullptr) {
+    setCurrentBlockUserData(nullptr);
+  }
+}
+
+void qtColori::ColoraCodici(std::string_view byte) {
   std::size_t qui = 0;
   setCurrentBlockState(NessunoAperto);
   if (const auto aperto = CodiceAperto()) {
@@ -149,10 +164,44 @@ void qtColori::highlightBlock(const QString& riga) {
     const bool aperto = codice.Chiusura == byte.size();
     if (aperto && !ChiusoPiuAvanti()) return;
     const TipoCodice tipo =
-        Riconosci(std::string_view(byte).substr(codice.Apertura + 1, codice.Chiusura - codice.Apertura - 1));
+        Riconosci(byte.substr(codice.Apertura + 1, codice.Chiusura - codice.Apertura - 1));
     qui = std::min(codice.Chiusura + 1, byte.size());
     Colora(codice.Apertura, qui, tipo);
     if (aperto) setCurrentBlockState(StatoDi(tipo));
+  }
+}
+
+/// Nothing while the toolkit is ahead of the section: it is coloured again when that has followed.
+void qtColori::SpaziaRiga(std::string_view byte) {
+  const auto riga = static_cast<std::size_t>(currentBlock().blockNumber());
+  const TestoSezione& testo = specchio_.Testo();
+  if (riga >= testo.Righe() || testo.Riga(riga).Lunghezza != byte.size()) return;
+  const txtSpazi::Riga spaziata = spazi_->Per(riga, byte);
+  for (const TrattoSpaziato& tratto : spaziata.Tratti) {
+    QTextCharFormat formato = format(tratto.Inizio);
+    formato.setFontLetterSpacingType(QFont::AbsoluteSpacing);
+    formato.setFontLetterSpacing(static_cast<qreal>(tratto.Spazio) / ParticellePerPixel);
+    setFormat(tratto.Inizio, tratto.Quanti, formato);
+  }
+  Ricorda(spaziata.Lascito);
+}
+
+void qtColori::Ricorda(const LascitoRiga& lascito) {
+  const int riga = currentBlock().blockNumber();
+  std::erase(daSeguire_, riga);
+  auto* prima = static_cast<LascitoNellaRiga*>(currentBlockUserData());
+  if (prima == nullptr) return setCurrentBlockUserData(new LascitoNellaRiga(lascito));  // the line owns it
+  if (prima->Quale == lascito) return;
+  prima->Quale = lascito;
+  daSeguire_.push_back(riga + 1);
+}
+
+void qtColori::Prosegui() {
+  while (!daSeguire_.empty()) {
+    const int riga = daSeguire_.back();
+    daSeguire_.pop_back();
+    const QTextBlock seguente = document()->findBlockByNumber(riga);
+    if (seguente.isValid() && Spaziata(seguente)) ColoraDa(riga);
   }
 }
 

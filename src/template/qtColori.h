@@ -3,11 +3,15 @@
 
 #include <QColor>
 #include <QSyntaxHighlighter>
+#include <QTextBlockUserData>
 #include <QTextCharFormat>
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <string_view>
+#include <vector>
 
+#include "template/txtSpazi.h"
 #include "template/txtSpecchio.h"
 #include "tokens/Codice.h"
 #include "tokens/Pezzi.h"
@@ -15,6 +19,13 @@
 class QPalette;
 
 namespace parvik {
+
+/// What the lines behind a line that is spaced depend on; kept with the line.
+class LascitoNellaRiga final : public QTextBlockUserData {
+ public:
+  explicit LascitoNellaRiga(const LascitoRiga& lascito) : Quale(lascito) {}
+  LascitoRiga Quale;
+};
 
 /// Colours each code, over the ends of lines too; a stray delimiter is plain text. An edit costs what its
 /// line costs, and the lines of the code that it is about. The toolkit's text and signals do not notice.
@@ -29,6 +40,13 @@ class qtColori final : public QSyntaxHighlighter {
   /// Colours anew from a line on, as far as it makes a difference.
   void ColoraDa(int riga);
 
+  /// From now on lines are spaced too, when they are coloured; nullptr: no longer. It must outlive this, or
+  /// the next call.
+  void Spazia(const txtSpazi* spazi) { spazi_ = spazi; }
+  bool Spaziata(const QTextBlock& riga) const { return riga.userData() != nullptr; }
+  /// After a change: spaces what depends on the lines that were coloured because of it.
+  void Prosegui();
+
   /// Takes the colours that can be read on the palette's base, light or dark, and colours anew when they are
   /// others.
   void ImpostaTavolozza(const QPalette& tavolozza);
@@ -38,6 +56,8 @@ class qtColori final : public QSyntaxHighlighter {
 
   /// The background that marks the code under the caret: every kind's colour can be read on it.
   QColor FondoCodiceAttivo() const { return fondo_; }
+  /// Of a field of that kind, whose colour can be read on it.
+  QColor FondoCampo(TipoCodice tipo) const { return fondiCampo_[static_cast<std::size_t>(tipo)]; }
 
  protected:
   void highlightBlock(const QString& riga) override;
@@ -45,11 +65,17 @@ class qtColori final : public QSyntaxHighlighter {
  private:
   std::optional<TipoCodice> CodiceAperto() const;
   bool ChiusoPiuAvanti() const;
+  void ColoraCodici(std::string_view byte);
+  void SpaziaRiga(std::string_view byte);
+  void Ricorda(const LascitoRiga& lascito);
   void Colora(std::size_t inizio, std::size_t fine, TipoCodice tipo);
 
   const txtSpecchio& specchio_;
   std::array<QTextCharFormat, NumTipiCodice> formati_;  // by TipoCodice
+  std::array<QColor, NumTipiCodice> fondiCampo_;
   QColor fondo_;
+  const txtSpazi* spazi_ = nullptr;
+  std::vector<int> daSeguire_;  // lines behind some that leave something else than they did
 };
 
 }  // namespace parvik

@@ -58,6 +58,7 @@ txtTCP::txtTCP(Documento& documento, Sezione sezione, QWidget* padre)
   connect(specchio_, &txtSpecchio::CodiciCambiati, colori_, &qtColori::ColoraDa);
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, &txtTCP::CursoreMosso);
   connect(this, &QPlainTextEdit::textChanged, this, &txtTCP::SegnaCodiciAlCursore);
+  connect(document(), &QTextDocument::contentsChange, colori_, &qtColori::Prosegui);
 }
 
 void txtTCP::ImpostaUso(bool inUso) {
@@ -81,6 +82,11 @@ bool txtTCP::event(QEvent* evento) {
     return true;
   }
   // Here and not in keyPressEvent, which never sees the keys that move the focus.
+  if (tasto && bordo_ && static_cast<QKeyEvent*>(evento)->key() == Qt::Key_Escape) {
+    LasciaBordo();
+    evento->accept();
+    return true;
+  }
   if (evento->type() == QEvent::KeyPress && !EUnModificatore(*static_cast<QKeyEvent*>(evento)))
     emit TastoPremuto();
   // Not before it can be seen, as no section can when the program starts: loading a font takes time.
@@ -96,11 +102,13 @@ void txtTCP::focusInEvent(QFocusEvent* evento) {
 
 void txtTCP::CursoreMosso() {
   if (!specchio_->AlLavoro()) documento_.InterrompiBattitura();
+  if (misura_) return TieniFuoriDaiCampi();
   SegnaCodiciAlCursore();
 }
 
 /// Marks the codes that the caret touches.
 void txtTCP::SegnaCodiciAlCursore() {
+  if (misura_) return;  // it draws them by itself
   QList<QTextEdit::ExtraSelection> segni;
   for (const Selezione& codice : CodiciAlCursore(comandi_.Testo(), CursoreAttuale().Posto)) {
     QTextEdit::ExtraSelection segno;
@@ -117,6 +125,7 @@ void txtTCP::changeEvent(QEvent* evento) {
     colori_->ImpostaTavolozza(palette());
     SegnaCodiciAlCursore();
   }
+  if (evento->type() == QEvent::FontChange) CambiatoCarattere();
 }
 
 /// In another width the base class lays out every line anew, so that the horizontal scroll bar is never
@@ -156,6 +165,7 @@ void txtTCP::Taglia(Pressione pressione) {
 /// What the keys change, under the rules.
 bool txtTCP::EseguiModifica(const QKeyEvent& evento) {
   const Pressione pressione = PressioneDi(evento);
+  if (evento.key() == Qt::Key_F4 && ApriCampoDopo()) return true;
   if (const auto tasto = TastoDi(evento)) {
     comandi_.Premi(*tasto, pressione);
   } else if (FinisceRiga(evento)) {
@@ -175,6 +185,7 @@ bool txtTCP::EseguiModifica(const QKeyEvent& evento) {
 
 /// What moves the caret, selects, copies and pastes.
 bool txtTCP::EseguiMovimento(QKeyEvent& evento) {
+  if (PassaCampo(evento)) return true;
   if (const auto passo = PassoDi(evento)) {
     Poni(passo->Da(comandi_.Testo(), CursoreAttuale()));
     return true;

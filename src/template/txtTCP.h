@@ -4,13 +4,18 @@
 
 #include <QPlainTextEdit>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "common/Sezione.h"
 #include "template/ComandiSezione.h"
 #include "template/qtColori.h"
+#include "template/txtBordo.h"
+#include "template/txtFette.h"
 #include "template/txtGesti.h"
+#include "template/txtMisura.h"
 #include "template/txtPunti.h"
 #include "template/txtSpecchio.h"
 
@@ -40,6 +45,13 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
 
   void ImpostaDescrizione(Descrizione descrizione) { descrizione_ = std::move(descrizione); }
 
+  /// Draws every code as wide as what it prints, or no longer: nullptr. The text is the same text. `campi`
+  /// must outlive this, and hear of the document's changes before it.
+  void MostraAMisura(const CampiAMisura* campi, const LettoreCampi& lettore);
+  bool AMisura() const { return misura_ != nullptr; }
+  /// Codes may print something else than they did, although the text is the same.
+  void Rimisura();
+
   // Edits that come from neither keyboard nor mouse, under the same rules.
 
   void Scrivi(const QString& testo, Pressione pressione);
@@ -66,6 +78,8 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   void changeEvent(QEvent* evento) override;
   void resizeEvent(QResizeEvent* evento) override;
   void focusInEvent(QFocusEvent* evento) override;
+  void paintEvent(QPaintEvent* evento) override;
+  void scrollContentsBy(int dx, int dy) override;
   void keyPressEvent(QKeyEvent* evento) override;
   void inputMethodEvent(QInputMethodEvent* evento) override;
   QMimeData* createMimeDataFromSelection() const override;
@@ -85,6 +99,20 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
 
   bool Esclude(QEvent& evento) const;
   void SegnaCodiciAlCursore();
+
+  // txtTCPMisura.cpp
+  void Ricolora();
+  void CambiatoCarattere();
+  void RidisegnaRigaDelCursore();
+  void TieniFuoriDaiCampi();
+  bool PassaCampo(const QKeyEvent& evento);
+  bool ApriCampoDopo();
+  bool PremiBordo(const QMouseEvent& evento);
+  bool MuoviBordo(const QMouseEvent& evento);
+  bool RilasciaBordo(const QMouseEvent& evento);
+  void LasciaBordo();
+  std::optional<Selezione> CodiceA(QPoint punto) const;
+
   void CursoreMosso();
   bool EseguiModifica(const QKeyEvent& evento);
   bool EseguiMovimento(QKeyEvent& evento);
@@ -100,6 +128,10 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   qtColori* colori_ = nullptr;
   Descrizione descrizione_;
   txtGesti gesti_;
+  std::unique_ptr<txtMisura> misura_;  // while the section is shown to measure
+  txtFette* fette_ = nullptr;          // made when it first was
+  std::optional<txtBordo> bordo_;      // while one is dragged
+  int rigaDelCursore_ = 0;             // where the caret was when it was last drawn
 };
 
 }  // namespace parvik

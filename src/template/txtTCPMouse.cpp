@@ -50,16 +50,15 @@ bool txtTCP::viewportEvent(QEvent* evento) {
 }
 
 bool txtTCP::MostraDescrizione(QPoint punto, QPoint globale) {
-  const auto posto = descrizione_ ? Punti().ByteA(punto) : std::nullopt;
-  if (!posto) return false;
-  const Pezzo codice = comandi_.Testo().PezzoDi(*posto);
-  if (codice.Genere != GenerePezzo::Codice) return false;
-  const std::string testo = comandi_.Testo().Byte(codice);
+  const auto codice = descrizione_ ? CodiceA(punto) : std::nullopt;
+  if (!codice) return false;
+  const std::string testo = comandi_.Testo().Byte(*codice);
   QToolTip::showText(globale, ComeTestoSemplice(descrizione_(ContenutoDi(testo))), viewport());
   return true;
 }
 
 void txtTCP::mousePressEvent(QMouseEvent* evento) {
+  if (PremiBordo(*evento)) return;
   const QTextCursor prima = textCursor();
   gesti_ = {};
   QPlainTextEdit::mousePressEvent(evento);
@@ -71,6 +70,7 @@ void txtTCP::mousePressEvent(QMouseEvent* evento) {
 }
 
 void txtTCP::mouseMoveEvent(QMouseEvent* evento) {
+  if (MuoviBordo(*evento)) return;
   const bool sinistro = evento->buttons().testFlag(Qt::LeftButton);
   if (sinistro && gesti_.Trattiene(evento->globalPosition().toPoint(), comandi_)) return;
   if (!sinistro || !gesti_.AParole()) return QPlainTextEdit::mouseMoveEvent(evento);
@@ -79,6 +79,7 @@ void txtTCP::mouseMoveEvent(QMouseEvent* evento) {
 }
 
 void txtTCP::mouseReleaseEvent(QMouseEvent* evento) {
+  if (RilasciaBordo(*evento)) return;
   const txtGesti gesti = std::exchange(gesti_, {});
   if (evento->button() == Qt::MiddleButton && Selezioni() != nullptr) {
     const QString testo = Selezioni()->text(QClipboard::Selection);
@@ -91,7 +92,7 @@ void txtTCP::mouseReleaseEvent(QMouseEvent* evento) {
 
 void txtTCP::mouseDoubleClickEvent(QMouseEvent* evento) {
   const bool sinistro = evento->button() == Qt::LeftButton;
-  if (const auto codice = sinistro ? Punti().CodiceA(evento->pos()) : std::nullopt)
+  if (const auto codice = sinistro ? CodiceA(evento->pos()) : std::nullopt)
     return comandi_.ApriCodice(*codice);
   QPlainTextEdit::mouseDoubleClickEvent(evento);
   if (!sinistro) return;

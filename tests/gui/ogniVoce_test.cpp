@@ -11,6 +11,7 @@
 
 #include "Finestra.h"
 #include "editor/Menu.h"
+#include "template/txtTCP.h"
 
 namespace parvik {
 namespace {
@@ -113,6 +114,15 @@ void AnnullaERipeti(Finestra& finestra, const char* nome) {
   EXPECT_FALSE(finestra.Azione("mnuRipeti").isEnabled()) << nome;
 }
 
+/// A code with a width is as wide as what it prints, and is as wide as it is written again.
+void MostraAMisura(Finestra& finestra, const char* nome) {
+  finestra.Apri("FATT01.IMG");
+  Scegli(finestra, nome);
+  EXPECT_TRUE(Trova<txtTCP>(*finestra, "txtTCP_0")->AMisura());
+  Scegli(finestra, nome);
+  EXPECT_FALSE(Trova<txtTCP>(*finestra, "txtTCP_0")->AMisura());
+}
+
 /// A switch that turns, and turns back.
 void Commuta(Finestra& finestra, const char* nome) {
   const bool prima = finestra.Azione(nome).isChecked();
@@ -152,7 +162,7 @@ const std::vector<Voce>& Voci() {
       {"mnuAnnulla", AnnullaERipeti},
       {"mnuRipeti", AnnullaERipeti},
       {"mnuAnteAuto", Commuta},
-      {"mnuMisura", Commuta},
+      {"mnuMisura", MostraAMisura},
       {"mnuVaiAnte", Commuta},
       {"mnuBarraStato", Commuta},
       {"mnuRighello", Commuta},

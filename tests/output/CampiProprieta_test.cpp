@@ -58,7 +58,8 @@ TEST(CampiProprieta, StandInTheColumnsThatTheFirstRepetitionOfTheRunWritesThemIn
       std::size_t colonna = 0;
       for (const PezzoMisurato& pezzo : campi.Riga(sezione, riga).Pezzi) {
         const auto luoghi = traccia.LuoghiDi(sezione, inizio + pezzo.Parte.Inizio);
-        if (!luoghi.empty()) {
+        if (pezzo.Larghezza > 0 &&
+            !luoghi.empty()) {  // what takes no cell now may be written by another time
           const std::size_t scritto = luoghi.front().Inizio;
           RC_ASSERT(scritto - InizioRiga(raccolta.Testo, scritto) == colonna);
           ++confrontati;
