@@ -51,6 +51,7 @@ void frmParvik::CreaArea() {
   area_ = new qtArea(editore_.Modello(), this);
   setCentralWidget(area_);
   misure_.emplace(editore_, *area_);
+  righelli_.emplace(editore_, *area_);
   for (const Sezione sezione : TutteLeSezioni) {
     area_->Editor(sezione).ImpostaDescrizione([this, sezione](std::string_view contenuto) {
       return DaUtf8(editore_.Descrivi(sezione, contenuto));
@@ -90,6 +91,7 @@ void frmParvik::Aggiorna() {
   menu_->Aggiorna(editore_.PerMenu());
   area_->Mostra(editore_.PerArea());
   misure_->Aggiorna();
+  righelli_->Aggiorna();
   finestrelle_.Aggiorna();
 }
 

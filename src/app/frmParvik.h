@@ -12,6 +12,7 @@
 #include "app/qtMaschere.h"
 #include "app/qtMenu.h"
 #include "app/qtMisure.h"
+#include "app/qtRighelli.h"
 #include "editor/Editore.h"
 #include "editor/Vista.h"
 #include "start/Avvio.h"
@@ -78,7 +79,9 @@ class frmParvik final : public QMainWindow, private Vista {
   Editore editore_;
   qtMaschere maschere_;
   qtFinestrelle finestrelle_;
-  std::optional<qtMisure> misure_;  // once there is an area
+  // Once there is an area.
+  std::optional<qtMisure> misure_;
+  std::optional<qtRighelli> righelli_;
 };
 
 }  // namespace parvik

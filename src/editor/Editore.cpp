@@ -188,6 +188,11 @@ void Editore::SegnaModificato() {
   documento_.Stato().Modificato = true;
 }
 
+void Editore::CommutaGuida(std::size_t colonna) {
+  guide_.Commuta(colonna);
+  vista_.Aggiorna();
+}
+
 void Editore::Commuta(Preferenza quale) {
   scelte_.Imposta(quale, !scelte_[quale]);
   if (quale == Preferenza::FlagVeri) CambiatiFlag();

@@ -16,6 +16,7 @@
 #include "editor/ComandoStampa.h"
 #include "editor/ContoRighe.h"
 #include "editor/Disposizione.h"
+#include "editor/Guide.h"
 #include "editor/Inserimento.h"
 #include "editor/Menu.h"
 #include "editor/Preferenze.h"
@@ -61,6 +62,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
             .Scelte = scelte_};
   }
   const Preferenze& Scelte() const { return scelte_; }
+  const Guide& GuideMesse() const { return guide_; }
   const Catalogo& Campi() const { return catalogo_; }
   const Installazione& Dove() const { return installazione_; }
   const Documento& Modello() const { return documento_; }
@@ -135,6 +137,8 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   /// Needs a type of three sections.
   void ImpostaCorpo(const ImpostazioniCorpo& corpo);
 
+  /// Sets a guide at a column, from 0, or takes it away. In every state.
+  void CommutaGuida(std::size_t colonna);
   /// Turns a switch on or off. In every state.
   void Commuta(Preferenza quale);
 
@@ -173,6 +177,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   bool anteSpuntata_ = false;
   bool settaFlagSpuntata_ = false;
   Preferenze scelte_;
+  Guide guide_;
   Documento::Ascolto ascolto_;
 };
 

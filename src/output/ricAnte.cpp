@@ -115,6 +115,10 @@ void ricAnte::paintEvent(QPaintEvent* evento) {
                                       : hasFocus() ? QPalette::Active
                                                    : QPalette::Inactive;
   veduta.Disegna(pittore, evento->rect(), Selezionato(), palette(), gruppo);
+  if (righello_ != nullptr && righello_->isVisible()) {
+    righello_->DisegnaGuide(pittore);
+    righello_->update();
+  }
   if (!lampeggio_->Acceso()) return;
   QRectF cursore = veduta.RettangoloDi(Cursore());
   cursore.setWidth(style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this));

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "common/righello.h"
 #include "output/SelezioneAnteprima.h"
 #include "output/ricCelle.h"
 #include "output/ricVeduta.h"
@@ -42,6 +43,11 @@ class ricAnte final : public QAbstractScrollArea {
   void Seleziona(std::size_t ancora, std::size_t cursore);
 
   void SelezionaTutto();
+
+  /// A ruler above the text.
+  void MostraRighello(bool mostra);
+  /// nullptr until it was first shown.
+  righello* Righello() const { return righello_; }
 
   /// Puts the selected text on the clipboard, lines separated by line feeds. Without a selection nothing.
   void Copia() const;
@@ -101,6 +107,7 @@ class ricAnte final : public QAbstractScrollArea {
 
   ricLampeggio* lampeggio_ = nullptr;
   ricTrascinamento* trascinamento_ = nullptr;
+  righello* righello_ = nullptr;
 };
 
 }  // namespace parvik

@@ -40,6 +40,20 @@ void ricAnte::Scorri(int righe, int pixel) {
   horizontalScrollBar()->setValue(horizontalScrollBar()->value() + pixel);
 }
 
+void ricAnte::MostraRighello(bool mostra) {
+  if (!mostra && righello_ == nullptr) return;
+  if (righello_ == nullptr) {
+    righello_ = new righello("righelloAnte", "Righello Anteprima", *this, [this] {
+      return GrigliaColonne{
+          .Origine = static_cast<qreal>(VedutaAnteprima::Margine - horizontalScrollBar()->value()),
+          .Cella = celle_->Avanzamento({}),
+          .Cursore = Veduta().RettangoloDi(Cursore()).left()};
+    });
+  }
+  righello_->setVisible(mostra);
+  setViewportMargins(0, mostra ? righello_->Altezza() : 0, 0, 0);
+}
+
 /// The device or the font has changed.
 void ricAnte::Rimisura() {
   rapporto_ = viewport()->devicePixelRatioF();

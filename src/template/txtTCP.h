@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "common/Sezione.h"
+#include "common/righello.h"
 #include "template/ComandiSezione.h"
 #include "template/qtColori.h"
 #include "template/txtBordo.h"
@@ -49,6 +50,10 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   /// must outlive this, and hear of the document's changes before it.
   void MostraAMisura(const CampiAMisura* campi, const LettoreCampi& lettore);
   bool AMisura() const { return misura_ != nullptr; }
+  /// Above the text, while it is shown to measure.
+  void MostraRighello(bool mostra);
+  /// nullptr until it was first shown.
+  righello* Righello() const { return righello_; }
   /// Codes may print something else than they did, although the text is the same.
   void Rimisura();
 
@@ -107,6 +112,7 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   void TieniFuoriDaiCampi();
   bool PassaCampo(const QKeyEvent& evento);
   bool ApriCampoDopo();
+  GrigliaColonne Griglia() const;
   bool PremiBordo(const QMouseEvent& evento);
   bool MuoviBordo(const QMouseEvent& evento);
   bool RilasciaBordo(const QMouseEvent& evento);
@@ -130,6 +136,7 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   txtGesti gesti_;
   std::unique_ptr<txtMisura> misura_;  // while the section is shown to measure
   txtFette* fette_ = nullptr;          // made when it first was
+  righello* righello_ = nullptr;       // the same
   std::optional<txtBordo> bordo_;      // while one is dragged
   int rigaDelCursore_ = 0;             // where the caret was when it was last drawn
 };

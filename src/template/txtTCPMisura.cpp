@@ -43,6 +43,23 @@ void txtTCP::Ricolora() {
   viewport()->update();
 }
 
+GrigliaColonne txtTCP::Griglia() const {
+  return {.Origine = contentOffset().x() + document()->documentMargin(),
+          .Cella = misura_ ? misura_->Cella() : 1,
+          .Cursore = static_cast<qreal>(cursorRect().left())};
+}
+
+void txtTCP::MostraRighello(bool mostra) {
+  if (!mostra && righello_ == nullptr) return;
+  if (righello_ == nullptr) {
+    const QString numero = QString::number(Indice(sezione_));
+    righello_ = new righello("righello_" + numero, "Righello " + accessibleName(), *this,
+                             [this] { return Griglia(); });
+  }
+  righello_->setVisible(mostra);
+  setViewportMargins(0, mostra ? righello_->Altezza() : 0, 0, 0);
+}
+
 /// Cells and the room in them are the font's.
 void txtTCP::CambiatoCarattere() {
   if (!AMisura()) return;
@@ -71,6 +88,10 @@ void txtTCP::paintEvent(QPaintEvent* evento) {
       riga.layout()->drawCursor(&pittore, dove, nellaRiga, cursorWidth());
     }
     dove.ry() += altezza;
+  }
+  if (righello_ != nullptr && righello_->isVisible()) {
+    righello_->DisegnaGuide(pittore);
+    righello_->update();
   }
   if (!bordo_) return;
   const QPointF alto(bordo_->X(misura_->Cella()), 0);

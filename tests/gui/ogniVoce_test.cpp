@@ -123,6 +123,14 @@ void MostraAMisura(Finestra& finestra, const char* nome) {
   EXPECT_FALSE(Trova<txtTCP>(*finestra, "txtTCP_0")->AMisura());
 }
 
+void MostraRighello(Finestra& finestra, const char* nome) {
+  finestra.Scegli(1);
+  Scegli(finestra, nome);
+  EXPECT_TRUE(Trova<QWidget>(*finestra, "righelloAnte")->isVisible());
+  Scegli(finestra, nome);
+  EXPECT_FALSE(Trova<QWidget>(*finestra, "righelloAnte")->isVisible());
+}
+
 /// A switch that turns, and turns back.
 void Commuta(Finestra& finestra, const char* nome) {
   const bool prima = finestra.Azione(nome).isChecked();
@@ -165,7 +173,7 @@ const std::vector<Voce>& Voci() {
       {"mnuMisura", MostraAMisura},
       {"mnuVaiAnte", Commuta},
       {"mnuBarraStato", Commuta},
-      {"mnuRighello", Commuta},
+      {"mnuRighello", MostraRighello},
       {"mnuFoglio", Commuta},
       {"mnuFlagVeri", Commuta},
       {"mnuRicorda", Commuta},
