@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QListWidget>
+#include <QTextBlock>
 #include <QTimer>
 #include <algorithm>
 #include <cmath>
@@ -56,6 +57,13 @@ void Banco::Apri(std::string_view byte) {
   std::ofstream(file_, std::ios::binary) << byte;
   persona_.Scegliera(file_);
   Comanda("mnuApri");
+  Svuota();
+}
+
+void Banco::MostraAMisura() {
+  Comanda("mnuMisura");
+  const QTextBlock ultima = Testata().document()->lastBlock().previous();
+  while (ultima.userData() == nullptr) QCoreApplication::processEvents();
   Svuota();
 }
 

@@ -38,6 +38,8 @@ class Banco {
   QPlainTextEdit& Testata();
   ricAnte& Anteprima();
   void Comanda(const char* azione);
+  /// Shows the sections to measure, and waits until all of them are.
+  void MostraAMisura();
 
  private:
   void ScegliFatture();

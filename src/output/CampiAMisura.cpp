@@ -22,6 +22,12 @@ LascitoRiga Lascito(const Memoria& memoria) {
   return {.MostraProssimo = memoria.MostraProssimo, .Ultima = memoria.Ultimo.Lunghezza()};
 }
 
+/// Behind the code in which the line begins; the line's beginning without one.
+std::size_t FineDelCodiceAperto(const TestoSezione& testo, std::size_t riga) {
+  const std::optional<Pezzo> aperto = testo.CodiceAperto(riga);
+  return aperto ? aperto->Fine : testo.Riga(riga).Inizio;
+}
+
 /// The pieces of one line, from its first byte to its last.
 class Riparto {
  public:
@@ -115,12 +121,12 @@ RigaMisurata CampiAMisura::Riga(Sezione sezione, std::size_t riga) const {
   const Selezione dove = testo.Riga(riga);
   const std::string byte = testo.Byte(dove);
   const bool segnata = Segnata(sezione, riga);
-  const auto aperto = segnata ? std::nullopt : testo.CodiceAperto(riga);
-  const std::size_t chiuso = aperto ? std::min(aperto->Fine, dove.Fine()) : dove.Inizio;
+  const std::size_t fineAperto = segnata ? dove.Inizio : FineDelCodiceAperto(testo, riga);
+  const std::size_t chiuso = std::min(fineAperto, dove.Fine());
   TrovaVar trovaVar(TipoStampa::File, stati_, segnata ? segnalibro_->Ricordo : RicordoA(sezione, chiuso));
   Riparto riparto(byte, trovaVar);
   riparto.Testo(chiuso - dove.Inizio);
-  const bool sospeso = riparto.Resto() || (aperto && aperto->Fine > dove.Fine());
+  const bool sospeso = riparto.Resto() || fineAperto > dove.Fine();
   segnalibro_.reset();
   if (!sospeso)
     segnalibro_ = {.Dove = sezione,

@@ -14,11 +14,12 @@ namespace {
 
 constexpr qreal PresaBordo = 3;  // pixels on both sides of an edge, or of a mark
 
-/// Whether the code is one whose coming and going changes how others look.
+/// Whether a code has come, gone or changed, after which others may look different. Literal text leaves the
+/// codes beside it as they are.
 bool ToccaCodici(const CambiamentoTesto& cambiamento, const TestoSezione& dopo) {
   const Modifica& fatta = cambiamento.Fatta;
   const auto dentro = [](const TestoSezione& testo, std::size_t da, std::size_t a) {
-    for (std::size_t byte = da; byte <= a && byte < testo.Dimensione();) {
+    for (std::size_t byte = da; byte < a;) {
       const Pezzo pezzo = testo.PezzoDi(byte);
       if (pezzo.Genere != GenerePezzo::Testo) return true;
       byte = pezzo.Fine;
