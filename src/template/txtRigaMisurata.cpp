@@ -77,7 +77,8 @@ class Disegnatore {
   }
 
  private:
-  /// Where the line's literal text is cut: by the selection, by what is being composed.
+  /// Where the line's literal text is cut: by the selection, by what is being composed, by the colours of
+  /// codes that are no fields.
   std::vector<std::size_t> Tagli(const Selezione& parte) const {
     std::vector<std::size_t> tagli;
     const auto taglia = [&](std::size_t dove) {
@@ -90,6 +91,10 @@ class Disegnatore {
     }
     if (!disposta_.preeditAreaText().isEmpty())
       taglia(static_cast<std::size_t>(disposta_.preeditAreaPosition()));
+    for (const QTextLayout::FormatRange& colorato : disposta_.formats()) {
+      taglia(static_cast<std::size_t>(colorato.start));
+      taglia(static_cast<std::size_t>(colorato.start + colorato.length));
+    }
     tagli.push_back(parte.Fine());
     std::ranges::sort(tagli);
     return tagli;
@@ -99,9 +104,20 @@ class Disegnatore {
     if (parte.Lunghezza == 0) return;
     const bool scelto = Scelto(parte.Inizio);
     if (scelto) pittore_.fillRect(Posto(parte), tavolozza_.color(gruppo_, QPalette::Highlight));
-    pittore_.setPen(tavolozza_.color(gruppo_, scelto ? QPalette::HighlightedText : QPalette::Text));
+    pittore_.setPen(scelto ? tavolozza_.color(gruppo_, QPalette::HighlightedText) : ColoreDi(parte.Inizio));
     penna_.Caratteri.Disegna(pittore_, {X(parte.Inizio), Base()},
                              std::string_view(riga_.Byte).substr(parte.Inizio, parte.Lunghezza), aspetto);
+  }
+
+  /// Of literal text, or of a code that is shown as it is written.
+  QColor ColoreDi(std::size_t byte) const {
+    const auto posizione = static_cast<int>(byte);
+    for (const QTextLayout::FormatRange& colorato : disposta_.formats()) {
+      const bool qui = colorato.start <= posizione && posizione < colorato.start + colorato.length;
+      if (qui && colorato.format.hasProperty(QTextFormat::ForegroundBrush))
+        return colorato.format.foreground().color();
+    }
+    return tavolozza_.color(gruppo_, QPalette::Text);
   }
 
   /// What an input method is composing, which stands at the caret.

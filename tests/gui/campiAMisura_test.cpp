@@ -281,7 +281,8 @@ QColor ColoreIn(SezioniAMisura& sezioni, int riga, double celle) {
   const QPoint punto = sezioni.Punto(riga, celle);
   const int alto =
       sezioni.Editor().cursorRect(QTextCursor(sezioni.Editor().document()->findBlockByNumber(riga))).top();
-  return sezioni.Editor().viewport()->grab().toImage().pixelColor(punto.x(), alto + 2);
+  const QImage immagine = sezioni.Editor().viewport()->grab().toImage();
+  return immagine.pixelColor(QPointF(punto.x(), alto + 2).toPoint() * immagine.devicePixelRatio());
 }
 
 TEST(CampiAMisura, AreDrawnInTheColourOfTheirKindOverAllTheirCells) {
@@ -294,6 +295,26 @@ TEST(CampiAMisura, AreDrawnInTheColourOfTheirKindOverAllTheirCells) {
   EXPECT_EQ(ColoreIn(sezioni, 0, 22.5), vuoto);
   EXPECT_NE(ColoreIn(sezioni, 0, 25), variabile);
   EXPECT_NE(ColoreIn(sezioni, 0, 25), vuoto);
+}
+
+/// Whether something in a line is drawn in that colour, exactly.
+bool HaColore(SezioniAMisura& sezioni, int riga, const QColor& colore) {
+  const QImage immagine = sezioni.Editor().viewport()->grab().toImage();
+  const QTextCursor inizio(sezioni.Editor().document()->findBlockByNumber(riga));
+  const QRect posto = sezioni.Editor().cursorRect(inizio);
+  const qreal scala = immagine.devicePixelRatio();
+  for (int y = static_cast<int>(posto.top() * scala); y < posto.bottom() * scala; ++y)
+    for (int x = 0; x < immagine.width(); ++x)
+      if (immagine.pixelColor(x, y) == colore) return true;
+  return false;
+}
+
+TEST(CampiAMisura, ACodeOfTwoLinesStaysTextInTheColourOfItsKind) {
+  SezioniAMisura sezioni("a«V0;\"WWWWWWWW\nWWWWWWWW\"»b\n|\n");
+  const QColor costante = sezioni.Editor().document()->findChild<qtColori*>()->Colore(TipoCodice::Costante);
+  EXPECT_TRUE(HaColore(sezioni, 0, costante));
+  EXPECT_TRUE(HaColore(sezioni, 1, costante));
+  EXPECT_FALSE(HaColore(sezioni, 2, costante));
 }
 
 TEST(CampiAMisura, BehindTheCaretIsMarkedAndASelectedOneIsSelectedWhole) {

@@ -123,6 +123,25 @@ void MostraAMisura(Finestra& finestra, const char* nome) {
   EXPECT_FALSE(Trova<txtTCP>(*finestra, "txtTCP_0")->AMisura());
 }
 
+/// Where the caret is drawn behind the second line of the invoice, in which a false flag hides a constant.
+int DestraDellaSecondaRiga(Finestra& finestra) {
+  auto* testata = Trova<txtTCP>(*finestra, "txtTCP_0");
+  QTextCursor fine(testata->document()->findBlockByNumber(1));
+  fine.movePosition(QTextCursor::EndOfBlock);
+  return testata->cursorRect(fine).left();
+}
+
+void MisuraConFlagVeri(Finestra& finestra, const char* nome) {
+  finestra.Scegli(1);
+  finestra.Apri("FATT01.IMG");
+  finestra.Azione("mnuMisura").trigger();
+  const int prima = DestraDellaSecondaRiga(finestra);
+  Scegli(finestra, nome);
+  EXPECT_GT(DestraDellaSecondaRiga(finestra), prima);
+  Scegli(finestra, nome);
+  EXPECT_EQ(DestraDellaSecondaRiga(finestra), prima);
+}
+
 void MostraRighello(Finestra& finestra, const char* nome) {
   finestra.Scegli(1);
   Scegli(finestra, nome);
@@ -175,7 +194,7 @@ const std::vector<Voce>& Voci() {
       {"mnuBarraStato", Commuta},
       {"mnuRighello", MostraRighello},
       {"mnuFoglio", Commuta},
-      {"mnuFlagVeri", Commuta},
+      {"mnuFlagVeri", MisuraConFlagVeri},
       {"mnuRicorda", Commuta},
   };
   return voci;

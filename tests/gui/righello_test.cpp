@@ -86,8 +86,9 @@ TEST_F(Righello, AClickSetsAGuideInEveryBoxAndAnotherOneTakesItAway) {
 /// Whether a column of pixels of the viewport is all of one colour.
 bool LineaIn(QWidget& vista, int x, const QColor& colore) {
   const QImage immagine = vista.grab().toImage();
+  const int colonna = static_cast<int>((x + 0.5) * immagine.devicePixelRatio());
   for (int y = 0; y < immagine.height(); ++y)
-    if (immagine.pixelColor(x, y) != colore) return false;
+    if (immagine.pixelColor(colonna, y) != colore) return false;
   return true;
 }
 
