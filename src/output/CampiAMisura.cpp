@@ -128,11 +128,12 @@ RigaMisurata CampiAMisura::Riga(Sezione sezione, std::size_t riga) const {
   riparto.Testo(chiuso - dove.Inizio);
   const bool sospeso = riparto.Resto() || fineAperto > dove.Fine();
   segnalibro_.reset();
-  if (!sospeso)
+  if (!sospeso) {
     segnalibro_ = {.Dove = sezione,
                    .Riga = riga + 1,
                    .Ripetizioni = Ripetizioni(),
                    .Ricordo = SoloLarghezze(trovaVar.Ricordo())};
+  }
   return {.Pezzi = std::move(riparto).Pezzi(), .Lascito = Lascito(trovaVar.Ricordo())};
 }
 

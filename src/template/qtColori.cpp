@@ -184,22 +184,25 @@ void qtColori::SpaziaRiga(std::string_view byte) {
     setFormat(tratto.Inizio, tratto.Quanti, formato);
   }
   Ricorda(spaziata.Lascito);
+  // A code that is open here prints something where it is closed.
+  if (currentBlockState() == NessunoAperto) return;
+  const auto chiusura = testo.Seguente(Segno::Chiusura, testo.Riga(riga).Fine());
+  if (chiusura) daSeguire_.insert(static_cast<int>(testo.RigaDi(*chiusura)));
 }
 
 void qtColori::Ricorda(const LascitoRiga& lascito) {
   const int riga = currentBlock().blockNumber();
-  std::erase(daSeguire_, riga);
+  daSeguire_.erase(riga);
   auto* prima = static_cast<LascitoNellaRiga*>(currentBlockUserData());
   if (prima == nullptr) return setCurrentBlockUserData(new LascitoNellaRiga(lascito));  // the line owns it
   if (prima->Quale == lascito) return;
   prima->Quale = lascito;
-  daSeguire_.push_back(riga + 1);
+  daSeguire_.insert(riga + 1);
 }
 
 void qtColori::Prosegui() {
   while (!daSeguire_.empty()) {
-    const int riga = daSeguire_.back();
-    daSeguire_.pop_back();
+    const int riga = daSeguire_.extract(daSeguire_.begin()).value();
     const QTextBlock seguente = document()->findBlockByNumber(riga);
     if (seguente.isValid() && Spaziata(seguente)) ColoraDa(riga);
   }

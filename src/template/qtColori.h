@@ -8,8 +8,8 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <set>
 #include <string_view>
-#include <vector>
 
 #include "template/txtSpazi.h"
 #include "template/txtSpecchio.h"
@@ -75,7 +75,7 @@ class qtColori final : public QSyntaxHighlighter {
   std::array<QColor, NumTipiCodice> fondiCampo_;
   QColor fondo_;
   const txtSpazi* spazi_ = nullptr;
-  std::vector<int> daSeguire_;  // lines behind some that leave something else than they did
+  std::set<int> daSeguire_;  // lines that may be spaced otherwise, after others have been coloured
 };
 
 }  // namespace parvik

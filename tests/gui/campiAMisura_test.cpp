@@ -110,6 +110,13 @@ TEST(CampiAMisura, AFalseFlagTakesTheCellsOfTheNextCode) {
   EXPECT_DOUBLE_EQ(sezioni.Colonna(Sezione::Testata, 2, 7), 5);
 }
 
+TEST(CampiAMisura, WhatRepeatsACodeOfSeveralLinesFollowsAChangeInTheMiddleOfIt) {
+  SezioniAMisura sezioni("«V0;\"a\n|b\nc\"»«»x\n");
+  EXPECT_DOUBLE_EQ(sezioni.Colonna(Sezione::Testata, 2, 5), 3 + 7);
+  QTest::keyClicks(&sezioni.Editor(), "zz");
+  EXPECT_DOUBLE_EQ(sezioni.Colonna(Sezione::Testata, 2, 5), 3 + 9);
+}
+
 TEST(CampiAMisura, AFlagAtTheEndOfASectionHidesTheFirstCodeOfTheNextAtOnce) {
   SezioniAMisura sezioni("«V1;5L»|\n");
   sezioni.Modello.Imposta(Sezione::Corpo,
