@@ -81,10 +81,12 @@ Esito<Anteprima, Interruzione> Genera(const DatiStampa& dati, const std::stop_to
   return anteprima;
 }
 
-Esito<InizioAnteprima> GeneraInizio(const DatiStampa& dati, std::size_t massimo) {
+/// The same two.
+template <class Corri, class Stili>
+Esito<InizioAnteprima> GeneraInizio(const DatiStampa& dati, std::size_t massimo, Corri corri, Stili stili) {
   InizioAnteprima inizio;
   RaccoltaInizio raccolta(inizio.Testo.Testo, massimo);
-  const auto corsa = GeneraStampa(dati, TipoStampa::Anteprima, raccolta);
+  const Esito<void, Interruzione> corsa = corri(raccolta);
   if (!corsa && corsa.Errore() == Interruzione::MemoriaEsaurita) return NumeroErrore::MemoriaEsaurita;
   inizio.Intera = corsa && dati.Interi;
   if (inizio.Intera) {
@@ -92,7 +94,7 @@ Esito<InizioAnteprima> GeneraInizio(const DatiStampa& dati, std::size_t massimo)
   } else {
     raccolta.TogliRigaIncompleta();
   }
-  inizio.Testo.Tratti = MettiStili(inizio.Testo.Testo);
+  inizio.Testo.Tratti = stili(inizio.Testo.Testo);
   return inizio;
 }
 
@@ -123,7 +125,21 @@ Esito<Anteprima, Interruzione> GeneraAnteprima(const DatiStampa& dati, const std
 }
 
 Esito<InizioAnteprima> GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo) {
-  return SeBastaMemoria([&] { return GeneraInizio(dati, massimo); });
+  const auto corri = [&](UscitaRighe& uscita) { return GeneraStampa(dati, TipoStampa::Anteprima, uscita); };
+  const auto stili = [](std::string& testo) { return MettiStili(testo); };
+  return SeBastaMemoria([&] { return GeneraInizio(dati, massimo, corri, stili); });
+}
+
+Esito<InizioAnteprima> GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo,
+                                             TracciaStampa& traccia) {
+  std::vector<Varco> varchi;
+  const auto corri = [&](UscitaRighe& uscita) {
+    return GeneraStampa(dati, TipoStampa::Anteprima, uscita, traccia);
+  };
+  const auto stili = [&](std::string& testo) { return *MettiStili(testo, std::stop_token(), varchi); };
+  Esito<InizioAnteprima> inizio = SeBastaMemoria([&] { return GeneraInizio(dati, massimo, corri, stili); });
+  traccia.ImpostaVarchi(std::move(varchi));
+  return inizio;
 }
 
 }  // namespace parvik

@@ -94,5 +94,8 @@ struct InizioAnteprima {
 /// Costs little more than rendering `massimo` bytes. Of a template's beginning it is never the whole preview.
 /// An error only when memory is exhausted.
 Esito<InizioAnteprima> GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo);
+/// The same, traced: `traccia`, which is empty before, is whole when the preview is.
+Esito<InizioAnteprima> GeneraInizioAnteprima(const DatiStampa& dati, std::size_t massimo,
+                                             TracciaStampa& traccia);
 
 }  // namespace parvik

@@ -65,17 +65,60 @@ std::optional<CodiceStampato> TracciaStampa::CodiceA(Sezione sezione, std::size_
 }
 
 std::optional<OrigineStampa> TracciaStampa::OrigineDi(std::size_t uscito) const {
+  const std::optional<PostoStampato> posto = PostoDi(uscito);
+  return posto ? std::optional(posto->Da) : std::nullopt;
+}
+
+std::optional<PostoStampato> TracciaStampa::PostoDi(std::size_t uscito) const {
   const std::size_t scritto = PrimaDelloStile(uscito);
   if (scritto >= Scritti()) return std::nullopt;
   const auto giro = std::ranges::upper_bound(giri_, scritto, {}, &GiroTraccia::Uscita) - 1;
-  const std::size_t uscita = (scritto - giro->Uscita) % giro->Emessi;
+  const std::size_t volta = (scritto - giro->Uscita) / giro->Emessi;
+  const std::size_t uscita = scritto - giro->Uscita - volta * giro->Emessi;
   const VoceStampa voce = VoceUscita(*giro, uscita).value();
+  const std::size_t scarto = uscita - voce.Uscita.Inizio;
+  PostoStampato posto{.Da = {.Dove = giro->Dove, .Parte = voce.Origine},
+                      .Volta = VolteDavanti(*giro) + volta};
   if (voce.Cosa == VoceStampa::Genere::Testo) {
-    const std::size_t byte = voce.Origine.Inizio + uscita - voce.Uscita.Inizio;
-    return OrigineStampa{.Dove = giro->Dove, .Parte = {.Inizio = byte, .Lunghezza = 1}};
+    posto.Da.Parte = {.Inizio = voce.Origine.Inizio + scarto, .Lunghezza = 1};
+  } else {
+    posto.Da.Codice = voce.Cosa == VoceStampa::Genere::Codice;
+    posto.Scarto = scarto;
   }
-  const bool codice = voce.Cosa == VoceStampa::Genere::Codice;
-  return OrigineStampa{.Dove = giro->Dove, .Parte = voce.Origine, .Codice = codice};
+  return posto;
+}
+
+/// How often its section was rendered before.
+std::size_t TracciaStampa::VolteDavanti(const GiroTraccia& giro) const {
+  std::size_t volte = 0;
+  for (const GiroTraccia* altro = giri_.data(); altro != &giro; ++altro)
+    if (altro->Dove == giro.Dove) volte += altro->Volte;
+  return volte;
+}
+
+std::optional<std::size_t> TracciaStampa::UscitoDi(const PostoStampato& posto) const {
+  const GiroTraccia* giro = nullptr;
+  std::size_t volta = 0;  // of those times
+  std::size_t davanti = 0;
+  for (const GiroTraccia& questo : giri_) {
+    if (questo.Dove != posto.Da.Dove) continue;
+    giro = &questo;
+    volta = std::min(posto.Volta - davanti, questo.Volte - 1);
+    davanti += questo.Volte;
+    if (posto.Volta < davanti) break;
+  }
+  if (giro == nullptr) return std::nullopt;
+  const std::optional<VoceStampa> voce = VoceDi(*giro, posto.Da.Parte.Inizio);
+  if (!voce) return std::nullopt;
+  const bool testo = voce->Cosa == VoceStampa::Genere::Testo;
+  if (posto.Da.Codice != (voce->Cosa == VoceStampa::Genere::Codice)) return std::nullopt;
+  if (!testo && voce->Origine != posto.Da.Parte) return std::nullopt;
+  if (voce->Uscita.Lunghezza == 0) return std::nullopt;
+  const std::size_t scarto = testo ? posto.Da.Parte.Inizio - voce->Origine.Inizio
+                                   : std::min(posto.Scarto, voce->Uscita.Lunghezza - 1);
+  const std::size_t uscita = voce->Uscita.Inizio + scarto;
+  if (uscita >= giro->Emessi) return std::nullopt;
+  return DopoLoStile(giro->Uscita + volta * giro->Emessi + uscita);
 }
 
 std::size_t TracciaStampa::PrimaDelloStile(std::size_t uscito) const {

@@ -50,6 +50,15 @@ struct OrigineStampa {
   bool operator==(const OrigineStampa&) const = default;
 };
 
+/// A byte of the output, as it is found again in another run over the same part of a section.
+struct PostoStampato {
+  OrigineStampa Da;
+  std::size_t Volta = 0;   // of the section, from 0
+  std::size_t Scarto = 0;  // bytes in front of it that came of the same part
+
+  bool operator==(const PostoStampato&) const = default;
+};
+
 /// What a run made of a code.
 struct CodiceStampato {
   std::size_t Larghezza = 0;  // in bytes, written or not
@@ -60,12 +69,17 @@ struct CodiceStampato {
 
 /// The trace of one run: stages, a few KB of the section apart, between which a question follows the run
 /// again. So it takes little memory, however much was written. What the run read must stay as it is as long
-/// as the trace is asked. So far only tests and measurements ask for one.
+/// as the trace is asked.
 class TracciaStampa {
  public:
   /// Where a byte of the output comes from; nullopt behind what the run wrote. The output is that of the
   /// style pass, if there was one.
   std::optional<OrigineStampa> OrigineDi(std::size_t uscito) const;
+  /// The same, and which of all that came of it.
+  std::optional<PostoStampato> PostoDi(std::size_t uscito) const;
+  /// The byte of the output at that place; of the last time where there were fewer, and the last byte where
+  /// it came out shorter. nullopt where the run saw something else there, or wrote nothing of it.
+  std::optional<std::size_t> UscitoDi(const PostoStampato& posto) const;
 
   /// Where the literal byte, or the code, at that place of a section has come to; those times that came out
   /// alike are one, of which there are at most three. Empty where nothing of it was written.
@@ -91,6 +105,7 @@ class TracciaStampa {
   std::optional<VoceStampa> Segui(const GiroTraccia& giro, std::size_t meta, std::size_t TappaTraccia::*dove,
                                   Finita finita) const;
   std::optional<VoceStampa> VoceDi(const GiroTraccia& giro, std::size_t byte) const;
+  std::size_t VolteDavanti(const GiroTraccia& giro) const;
   std::optional<VoceStampa> VoceUscita(const GiroTraccia& giro, std::size_t uscita) const;
   std::size_t PrimaDelloStile(std::size_t uscito) const;
   std::size_t DopoLoStile(std::size_t scritto) const;

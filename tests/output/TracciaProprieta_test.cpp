@@ -44,6 +44,9 @@ void OgniByteHaUnOrigine(const Tracciata& tracciata, std::size_t quanti) {
     const std::string_view sezione = tracciata.Sezione(origine->Dove);
     RC_ASSERT(origine->Parte.Fine() <= sezione.size());
     RC_ASSERT(TraILuoghi(tracciata, *origine, byte));
+    const auto posto = tracciata.Traccia.PostoDi(byte);
+    RC_ASSERT(posto && posto->Da == *origine);
+    RC_ASSERT(tracciata.Traccia.UscitoDi(*posto) == byte);
     const char primo = sezione[origine->Parte.Inizio];
     if (origine->Codice) RC_ASSERT(primo == '\xAB' && sezione[origine->Parte.Fine() - 1] == '\xBB');
     const bool crSolo = primo == '\r' && tracciata.Testo[byte] == '\n';
