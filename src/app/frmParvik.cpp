@@ -19,10 +19,10 @@ namespace {
 const QSize DimensioneIniziale(1100, 700);
 
 /// The pane's selection, or all of it.
-Selezione DaStampare(const ricAnte& pannello) {
+Selezione DaStampare(const SelezioneAnteprima& pannello) {
   const Selezione scelta = pannello.Selezionato();
   if (scelta.Lunghezza > 0) return scelta;
-  return {.Inizio = 0, .Lunghezza = pannello.Contenuto().Testo().size()};
+  return {.Inizio = 0, .Lunghezza = pannello.Testo().Testo().size()};
 }
 
 }  // namespace
@@ -37,12 +37,14 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
   new qtTastiRipetuti(this);
   CreaArea();
   CreaMenu();
+  anteAuto_ = std::make_unique<qtAnteAuto>(editore_, area_->Pannello());
   resize(EntroLoSchermo(*this, DimensioneIniziale));
   Aggiorna();
 }
 
 /// The sections go before the document that they show; hidden first, they pass the focus to nobody.
 frmParvik::~frmParvik() {
+  anteAuto_.reset();
   hide();
   delete area_;
 }
@@ -68,6 +70,7 @@ void frmParvik::CollegaSezione(Sezione sezione) {
       if (editore_.InUso(sezione)) comando(dati...);
     });
   };
+  collega(&txtTCP::cursorPositionChanged, [this] { SeguiAnteprima(); });
   collega(&txtTCP::TastoPremuto, [this] { editore_.SegnaModificato(); });
   collega(&txtTCP::DaAnnullare, [this] { EseguiPasso(&Editore::Annulla); });
   collega(&txtTCP::DaRipetere, [this] { EseguiPasso(&Editore::Ripeti); });
@@ -82,6 +85,7 @@ void frmParvik::CollegaSezione(Sezione sezione) {
 void frmParvik::AttivaSezione(Sezione sezione) {
   editore_.AttivaSezione(sezione);
   area_->Attiva(sezione);
+  SeguiAnteprima();
 }
 
 void frmParvik::Aggiorna() {
@@ -93,15 +97,34 @@ void frmParvik::Aggiorna() {
   misure_->Aggiorna();
   righelli_->Aggiorna();
   finestrelle_.Aggiorna();
+  SeguiAnteprima();
 }
 
 /// The sections' own beginning comes before there is a menu.
 void frmParvik::CambiatoTesto() {
   if (menu_ != nullptr) menu_->Aggiorna(editore_.PerMenu());
+  SeguiAnteprima();
+}
+
+/// There is nothing to follow before the window is complete, and when it goes.
+void frmParvik::SeguiAnteprima() {
+  if (anteAuto_) anteAuto_->Segui();
+}
+
+/// The marks of the preview before have gone with it; new ones are there before it is drawn.
+void frmParvik::CambiataAnteprima() {
+  if (anteAuto_) anteAuto_->Segna();
+  SeguiAnteprima();
+}
+
+void frmParvik::RinnovaAnteprima(std::shared_ptr<const TestoAnteprima> anteprima,
+                                 const Ricollocazione& dove) {
+  area_->Pannello().Rinnova(std::move(anteprima), dove);
 }
 
 void frmParvik::CambiataMisura() {
   if (misure_) misure_->Rimisura();
+  SeguiAnteprima();
 }
 
 void frmParvik::MostraAnteprima(Anteprima anteprima) {
@@ -114,7 +137,9 @@ void frmParvik::CompletaAnteprima(Anteprima anteprima) {
 
 Esito<void> frmParvik::Attendi(const std::function<void(std::stop_token)>& lavoro) {
   inAttesa_ = true;
+  anteAuto_->Sospendi();
   Esito<void> atteso = AttendiLavoro(this, lavoro);
+  anteAuto_->Riprendi();
   inAttesa_ = false;
   return atteso;
 }
@@ -133,7 +158,8 @@ Esito<Vista::Tipografo, std::string> frmParvik::ScegliStampante() {
   return Tipografo([this, stampante](const std::string& nomeLavoro) {
     if (!isVisible()) return;  // the program is ending
     stampante->Intitola(DaUtf8(nomeLavoro));
-    StampaConAttesa(*stampante, area_->Pannello().Contenuto(), DaStampare(area_->Pannello()), this);
+    const SelezioneAnteprima scelta = area_->Pannello().Scelta();  // the pane may go on to another text
+    StampaConAttesa(*stampante, scelta.Testo(), DaStampare(scelta), this);
   });
 }
 

@@ -4,9 +4,11 @@
 #include <QMainWindow>
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 
+#include "app/qtAnteAuto.h"
 #include "app/qtArea.h"
 #include "app/qtFinestrelle.h"
 #include "app/qtMaschere.h"
@@ -46,6 +48,8 @@ class frmParvik final : public QMainWindow, private Vista {
   void CambiataMisura() override;
   void MostraAnteprima(Anteprima anteprima) override;
   void CompletaAnteprima(Anteprima anteprima) override;
+  void RinnovaAnteprima(std::shared_ptr<const TestoAnteprima> anteprima, const Ricollocazione& dove) override;
+  void CambiataAnteprima() override;
   Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override;
   std::optional<Destinazione> ScegliDestinazione() override;
   Esito<Tipografo, std::string> ScegliStampante() override;
@@ -57,6 +61,7 @@ class frmParvik final : public QMainWindow, private Vista {
   void CreaArea();
   void CollegaSezione(Sezione sezione);
   void AttivaSezione(Sezione sezione);
+  void SeguiAnteprima();
 
   // frmParvikMenu.cpp
   void CreaMenu();
@@ -82,6 +87,7 @@ class frmParvik final : public QMainWindow, private Vista {
   // Once there is an area.
   std::optional<qtMisure> misure_;
   std::optional<qtRighelli> righelli_;
+  std::unique_ptr<qtAnteAuto> anteAuto_;
 };
 
 }  // namespace parvik

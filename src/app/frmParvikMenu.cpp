@@ -68,6 +68,7 @@ void frmParvik::Esegui(Comando comando) {
     case Comando::Ricorda:
       return editore_.Commuta(PreferenzaDi(comando).value());
     case Comando::VaiAnte:
+      return anteAuto_->VaiAnte();
     case Comando::Foglio:
       break;
   }

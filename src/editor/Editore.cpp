@@ -24,7 +24,9 @@ Editore::Editore(Installazione installazione, Catalogo catalogo, Vista& vista, I
       vista_(vista),
       interlocutore_(interlocutore),
       comandi_(documento_, interlocutore, *this, installazione_.DirImg),
-      resa_(documento_, flag_, vista, interlocutore),
+      mostrata_(documento_, flag_),
+      resa_(documento_, flag_, mostrata_, vista, interlocutore),
+      automatica_(documento_, flag_, mostrata_, vista),
       stampa_(documento_, installazione_, resa_, *this, vista, interlocutore),
       conto_(documento_, interlocutore),
       inserimento_(documento_, vista),
@@ -197,6 +199,27 @@ void Editore::Commuta(Preferenza quale) {
   scelte_.Imposta(quale, !scelte_[quale]);
   if (quale == Preferenza::FlagVeri) CambiatiFlag();
   vista_.Aggiorna();
+}
+
+SegniAnteprima Editore::SegniAlCursore() const {
+  const Sezione attiva = inserimento_.Attiva();
+  if (!AnteVisibile() || !InUso(attiva)) return {};
+  return mostrata_.Segni({.Dove = attiva, .Dentro = vista_.CursoreIn(attiva)});
+}
+
+void Editore::RaggiungiOrigine(std::size_t byte) {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  const std::optional<CursoreSezione> origine = mostrata_.Origine(byte);
+  if (origine && InUso(origine->Dove)) vista_.Raggiungi(*origine);
+}
+
+bool Editore::AnteprimaDaRifare() const {
+  return scelte_[Preferenza::AnteAuto] && AnteVisibile() && mostrata_.DaRifare(Tipo());
+}
+
+std::optional<LavoroAnteprima> Editore::RinnovaAnteprima() {
+  PARVIK_ESIGE(AnteprimaDaRifare(), "the preview follows by itself, and is out of date");
+  return automatica_.Rinnova(Tipo());
 }
 
 void Editore::SpegniAnteprima() {

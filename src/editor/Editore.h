@@ -13,6 +13,7 @@
 
 #include "catalogue/Catalogo.h"
 #include "common/Interlocutore.h"
+#include "editor/AnteprimaMostrata.h"
 #include "editor/ComandoStampa.h"
 #include "editor/ContoRighe.h"
 #include "editor/Disposizione.h"
@@ -21,6 +22,7 @@
 #include "editor/Menu.h"
 #include "editor/Preferenze.h"
 #include "editor/Resa.h"
+#include "editor/ResaAutomatica.h"
 #include "editor/TipoInUso.h"
 #include "editor/Vista.h"
 #include "output/CampiAMisura.h"
@@ -63,6 +65,11 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   }
   const Preferenze& Scelte() const { return scelte_; }
   const Guide& GuideMesse() const { return guide_; }
+  /// False while the preview shows something else than it would show if it were rendered anew. Nothing is
+  /// said of a preview that is not shown, or never was rendered.
+  bool AnteprimaAggiornata() const { return !AnteVisibile() || mostrata_.Aggiornata(Tipo()); }
+  /// What stands at the caret of the active section, in the preview.
+  SegniAnteprima SegniAlCursore() const;
   const Catalogo& Campi() const { return catalogo_; }
   const Installazione& Dove() const { return installazione_; }
   const Documento& Modello() const { return documento_; }
@@ -105,6 +112,19 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   void CommutaRighe();
   /// Print flags were set in their window.
   void CambiatiFlag();
+  /// Puts the caret where a byte of the preview comes from, where that is certain: a code is selected whole.
+  void RaggiungiOrigine(std::size_t byte);
+
+  // The preview that follows by itself.
+
+  /// Whether it is to be rendered anew; a run for another state of the document that is under way is of no
+  /// use any more. In every state.
+  bool AnteprimaDaRifare() const;
+  /// Renders it, or gives the run that is to be made on a thread. Only when it is to be rendered.
+  std::optional<LavoroAnteprima> RinnovaAnteprima();
+  /// What has become of that run. In every state.
+  void Consegna(LavoroAnteprima::Fatto fatto) { automatica_.Consegna(std::move(fatto)); }
+
   /// The section that now has the focus; it must be in use.
   void AttivaSezione(Sezione sezione);
 
@@ -168,7 +188,9 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   FlagPerStampe flag_;
   CampiAMisura campi_{documento_, flag_};
   ComandiFile comandi_;
+  AnteprimaMostrata mostrata_;
   Resa resa_;
+  ResaAutomatica automatica_;
   ComandoStampa stampa_;
   ContoRighe conto_;
   Inserimento inserimento_;

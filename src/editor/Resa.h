@@ -2,14 +2,16 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
 #include <optional>
 
 #include "catalogue/TipoDoc.h"
 #include "common/EsitoScrittura.h"
 #include "common/Interlocutore.h"
+#include "editor/AnteprimaMostrata.h"
 #include "editor/Vista.h"
 #include "output/FlagPerStampe.h"
-#include "output/LavoroStampa.h"
+#include "output/MappaAnteprima.h"
 #include "template/Documento.h"
 
 namespace parvik {
@@ -17,9 +19,13 @@ namespace parvik {
 /// The collaborators must outlive it. `tipo` is always the current document type.
 class Resa {
  public:
-  Resa(const Documento& documento, const FlagPerStampe& flag, VistaAnteprima& vista,
-       Interlocutore& interlocutore)
-      : documento_(documento), flag_(flag), vista_(vista), interlocutore_(interlocutore) {}
+  Resa(const Documento& documento, const FlagPerStampe& flag, AnteprimaMostrata& mostrata,
+       VistaAnteprima& vista, Interlocutore& interlocutore)
+      : documento_(documento),
+        flag_(flag),
+        mostrata_(mostrata),
+        vista_(vista),
+        interlocutore_(interlocutore) {}
 
   /// Fills the preview pane: at once with the beginning, and then with all. False when the run was given up,
   /// or ran out of memory, which is told.
@@ -30,12 +36,13 @@ class Resa {
   std::optional<Scritto> ScriviTesto(const TipoDoc& tipo, const std::filesystem::path& file);
 
  private:
-  LavoroStampa SenzaTesti(const TipoDoc& tipo) const;
-  LavoroStampa Inizio(const TipoDoc& tipo) const;
-  bool Mancata(NumeroErrore perche);
+  bool Riempi(const TipoDoc& tipo);
+  void Riuscita(AnteprimaMostrata::Numero numero, std::shared_ptr<const MappaAnteprima> mappa);
+  bool Mancata(AnteprimaMostrata::Numero numero, NumeroErrore perche);
 
   const Documento& documento_;
   const FlagPerStampe& flag_;
+  AnteprimaMostrata& mostrata_;
   VistaAnteprima& vista_;
   Interlocutore& interlocutore_;
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <stop_token>
 #include <string>
@@ -10,6 +11,8 @@
 #include "common/Sezione.h"
 #include "output/Destinazione.h"
 #include "output/GeneraStampa.h"
+#include "output/Ricollocazione.h"
+#include "output/TestoAnteprima.h"
 #include "template/Documento.h"
 
 namespace parvik {
@@ -27,6 +30,12 @@ class VistaAnteprima {
   /// Puts the whole text in the place of its beginning, which was shown first; what the user has done in the
   /// pane meanwhile stays.
   virtual void CompletaAnteprima(Anteprima anteprima) = 0;
+  /// Puts another preview in the place of the one that the pane shows, by itself: caret, selection and what
+  /// shows stay with their text, which has gone where `dove` says.
+  virtual void RinnovaAnteprima(std::shared_ptr<const TestoAnteprima> anteprima,
+                                const Ricollocazione& dove) = 0;
+  /// The preview was rendered anew, or that failed: what it shows, and whether that is up to date.
+  virtual void CambiataAnteprima() = 0;
   /// Runs `lavoro` on a thread of its own while the window stays alive, and returns when it has ended. When
   /// it takes long the window says so, and lets it be given up: then `lavoro` is asked to stop. Fails when
   /// `lavoro` ran out of memory.

@@ -21,6 +21,11 @@ void FlagPerStampe::Aggiungi(const Flag& flag) {
   righe_.push_back("F" + numero + "  " + descrizione + "   " + SegnoFalso);
 }
 
+void FlagPerStampe::Svuota() {
+  righe_.clear();
+  ++cambiamenti_;
+}
+
 std::vector<ErroreSezione> FlagPerStampe::Carica(const Catalogo& catalogo, const TipoDoc& tipo) {
   std::vector<ErroreSezione> errori;
   Svuota();
@@ -36,11 +41,13 @@ std::vector<ErroreSezione> FlagPerStampe::Carica(const Catalogo& catalogo, const
 }
 
 void FlagPerStampe::SettaFlag(std::size_t riga, bool vero) {
+  if (vero == Vero(riga)) return;
   righe_[riga].back() = vero ? SegnoVero : SegnoFalso;
+  ++cambiamenti_;
 }
 
 void FlagPerStampe::AzzeraTutti() {
-  for (std::string& riga : righe_) riga.back() = SegnoFalso;
+  for (std::size_t riga = 0; riga < righe_.size(); ++riga) SettaFlag(riga, false);
 }
 
 double FlagPerStampe::Numero(std::size_t riga) const {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,7 @@ class FlagPerStampe {
   /// the catalogue gives them; after one that tells another version nothing more is loaded.
   std::vector<ErroreSezione> Carica(const Catalogo& catalogo, const TipoDoc& tipo);
 
-  void Svuota() { righe_.clear(); }
+  void Svuota();
 
   /// Windows-1252 bytes.
   const std::vector<std::string>& Righe() const { return righe_; }
@@ -35,10 +36,14 @@ class FlagPerStampe {
   double Numero(std::size_t riga) const;
   bool Vero(std::size_t riga) const;
 
+  /// Another number whenever a row may have become another one.
+  std::uint64_t Cambiamenti() const { return cambiamenti_; }
+
  private:
   void Aggiungi(const Flag& flag);
 
   std::vector<std::string> righe_;
+  std::uint64_t cambiamenti_ = 0;
 };
 
 }  // namespace parvik

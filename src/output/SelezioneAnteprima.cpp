@@ -26,6 +26,14 @@ void SelezioneAnteprima::Completa(Anteprima anteprima) {
   estremi_ = {.Ancora = Aggancia(*testo_, estremi_.Ancora), .Posto = Aggancia(*testo_, estremi_.Posto)};
 }
 
+void SelezioneAnteprima::Rinnova(std::shared_ptr<const TestoAnteprima> testo, const Ricollocazione& dove) {
+  const std::shared_ptr<const TestoAnteprima> prima = std::exchange(testo_, std::move(testo));
+  const std::size_t ancora = dove(*prima, *testo_, estremi_.Ancora);
+  const std::size_t posto =
+      estremi_.Posto == estremi_.Ancora ? ancora : dove(*prima, *testo_, estremi_.Posto);
+  Seleziona(ancora, posto);
+}
+
 void SelezioneAnteprima::Seleziona(std::size_t ancora, std::size_t cursore) {
   xVoluta_.reset();
   estremi_ = {.Ancora = Aggancia(*testo_, ancora), .Posto = Aggancia(*testo_, cursore)};

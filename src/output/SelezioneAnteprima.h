@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include "output/Ricollocazione.h"
 #include "output/TestoAnteprima.h"
 #include "template/Modifica.h"
 
@@ -66,6 +67,9 @@ class SelezioneAnteprima {
 
   /// Takes the text's place by a longer one that begins with it. Both places stay.
   void Completa(Anteprima anteprima);
+
+  /// Takes the text's place by what a later run has made. Both places go with their text.
+  void Rinnova(std::shared_ptr<const TestoAnteprima> testo, const Ricollocazione& dove);
 
   /// From `ancora` to `cursore`. Places that the caret cannot stand at are moved to one.
   void Seleziona(std::size_t ancora, std::size_t cursore);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "output/LettoreVoci.h"
+
 namespace parvik {
 
 std::size_t TracciaStampa::Scritti() const {

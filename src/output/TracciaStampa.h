@@ -8,12 +8,13 @@
 
 #include "common/Sezione.h"
 #include "output/GeneraStampa.h"
-#include "output/LettoreVoci.h"
 #include "output/MettiStili.h"
 #include "output/TrovaVar.h"
 #include "template/Modifica.h"
 
 namespace parvik {
+
+struct VoceStampa;
 
 /// A place of a section, outside its codes, from which the run can be followed again.
 struct TappaTraccia {

@@ -6,6 +6,7 @@
 
 #include "common/qtTesto.h"
 #include "output/ricAnte.h"
+#include "template/TestoSezione.h"
 
 namespace parvik {
 namespace {
@@ -38,6 +39,20 @@ void ricAccessibile::AnnunciaTesto(ricAnte& pannello, const TestoAnteprima& prim
   if (!QAccessible::isActive()) return;
   QAccessibleTextUpdateEvent evento(&pannello, 0, Annunciato(prima, 0), Annunciato(pannello.Contenuto(), 0));
   evento.setCursorPosition(ComeInt(CarattereDi(pannello.Contenuto(), pannello.Cursore())));
+  QAccessible::updateAccessibility(&evento);
+}
+
+void ricAccessibile::AnnunciaDifferenza(ricAnte& pannello, const TestoAnteprima& prima) {
+  if (!QAccessible::isActive()) return;
+  const TestoAnteprima& testo = pannello.Contenuto();
+  const Modifica modifica = Differenza(prima.Testo(), testo.Testo());
+  if (modifica.Tolti == 0 && modifica.Messi.empty()) return;
+  const std::string_view tolti = prima.Testo().substr(modifica.Dove, modifica.Tolti);
+  QAccessibleTextUpdateEvent evento(
+      &pannello, ComeInt(CarattereDi(testo, Aggancia(testo, modifica.Dove))),
+      PerSchermo(tolti.substr(0, MassimoAnnunciato)),
+      PerSchermo(std::string_view(modifica.Messi).substr(0, MassimoAnnunciato)));
+  evento.setCursorPosition(ComeInt(CarattereDi(testo, pannello.Cursore())));
   QAccessible::updateAccessibility(&evento);
 }
 

@@ -23,6 +23,8 @@ class ricAccessibile final : public QAccessibleWidget, public QAccessibleTextInt
 
   /// Its text is another one now.
   static void AnnunciaTesto(ricAnte& pannello, const TestoAnteprima& prima);
+  /// The same, where most of it may have stayed: what lies between beginning and end that both have.
+  static void AnnunciaDifferenza(ricAnte& pannello, const TestoAnteprima& prima);
   /// Its text is longer now; it was `byte` long.
   static void AnnunciaAggiunta(ricAnte& pannello, std::size_t byte);
   /// The caret or the selection has changed.

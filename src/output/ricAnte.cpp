@@ -30,6 +30,7 @@ ricAnte::ricAnte(QWidget* padre)
 }
 
 void ricAnte::Mostra(Anteprima anteprima) {
+  luoghi_.Imposta({});
   const SelezioneAnteprima prima = std::exchange(scelta_, SelezioneAnteprima(std::move(anteprima)));
   trascinamento_->Finisci();
   verticalScrollBar()->setValue(0);
@@ -40,6 +41,7 @@ void ricAnte::Mostra(Anteprima anteprima) {
 }
 
 void ricAnte::Completa(Anteprima anteprima) {
+  luoghi_.Imposta({});
   const std::size_t prima = Contenuto().Testo().size();
   scelta_.Completa(std::move(anteprima));
   MisuraLarghezza();
@@ -114,6 +116,7 @@ void ricAnte::paintEvent(QPaintEvent* evento) {
   const QPalette::ColorGroup gruppo = !isEnabled() ? QPalette::Disabled
                                       : hasFocus() ? QPalette::Active
                                                    : QPalette::Inactive;
+  luoghi_.Disegna(pittore, veduta, palette(), gruppo);
   veduta.Disegna(pittore, evento->rect(), Selezionato(), palette(), gruppo);
   if (righello_ != nullptr && righello_->isVisible()) {
     righello_->DisegnaGuide(pittore);

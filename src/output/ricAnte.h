@@ -6,11 +6,13 @@
 #include <QPoint>
 #include <QRect>
 #include <cstddef>
+#include <memory>
 #include <optional>
 
 #include "common/righello.h"
 #include "output/SelezioneAnteprima.h"
 #include "output/ricCelle.h"
+#include "output/ricLuoghi.h"
 #include "output/ricVeduta.h"
 
 namespace parvik {
@@ -30,6 +32,12 @@ class ricAnte final : public QAbstractScrollArea {
   /// Replaces the content by a longer one that begins with it. Caret, selection and what shows stay.
   void Completa(Anteprima anteprima);
 
+  /// Replaces the content by what a later run has made. Caret, selection and what shows stay with their text,
+  /// which has gone where `dove` says.
+  void Rinnova(std::shared_ptr<const TestoAnteprima> testo, const Ricollocazione& dove);
+
+  /// Content and selection; keeps the content when the pane shows another one.
+  const SelezioneAnteprima& Scelta() const { return scelta_; }
   const TestoAnteprima& Contenuto() const { return scelta_.Testo(); }
 
   /// What is selected, in bytes of the text; the caret alone when nothing is.
@@ -61,11 +69,18 @@ class ricAnte final : public QAbstractScrollArea {
   /// Scrolls as little as shows the place.
   void Rivela(std::size_t byte);
 
+  /// Marks these places of the content, until it is another one. Whether they are others than before.
+  bool MostraSegni(SegniAnteprima segni);
+  /// Scrolls to a mark, where none shows.
+  void RivelaSegni();
+
  signals:
   /// The pane was clicked, or an arrow key was released in it.
   void CursoreMosso();
   /// The content is another one, or longer.
   void Mostrata();
+  /// The text that a byte of the content comes from is asked for.
+  void OrigineChiesta(std::size_t byte);
 
  protected:
   bool event(QEvent* evento) override;
@@ -90,7 +105,9 @@ class ricAnte final : public QAbstractScrollArea {
   void RimisuraSeDiverso();
   void MisuraLarghezza();
   void AggiornaBarre();
+  void MettiInAlto(std::size_t byte);
   void MostraMossa(const SelezioneAnteprima& prima);
+  void AggiornaSegni();
 
   static bool Riconosce(const QKeyEvent& evento);
   void Muovi(Movimento dove, ModoMovimento modo);
@@ -100,6 +117,7 @@ class ricAnte final : public QAbstractScrollArea {
   void OffriSelezione() const;
 
   SelezioneAnteprima scelta_;  // what is shown, too
+  ricLuoghi luoghi_;
   std::optional<Celle> celle_;
   qreal rapporto_ = 0;  // the device's pixel ratio and resolution that the cells were made for
   int risoluzione_ = 0;

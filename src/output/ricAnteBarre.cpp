@@ -34,6 +34,11 @@ void ricAnte::Rivela(std::size_t byte) {
   horizontalScrollBar()->setValue(horizontalScrollBar()->value() + passo);
 }
 
+/// The line of that place is the first one that shows, if there are enough behind it.
+void ricAnte::MettiInAlto(std::size_t byte) {
+  verticalScrollBar()->setValue(InBarra(static_cast<double>(Contenuto().RigaDi(byte))));
+}
+
 /// On by so many lines and pixels, back where they are negative.
 void ricAnte::Scorri(int righe, int pixel) {
   verticalScrollBar()->setValue(verticalScrollBar()->value() + righe);

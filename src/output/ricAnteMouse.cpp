@@ -8,13 +8,15 @@ namespace parvik {
 
 void ricAnte::mousePressEvent(QMouseEvent* evento) {
   if (evento->button() != Qt::LeftButton) return evento->ignore();
+  const QPoint punto = evento->position().toPoint();
+  if (evento->modifiers() == Qt::ControlModifier) return emit OrigineChiesta(CarattereA(punto));
   const bool estende = evento->modifiers().testFlag(Qt::ShiftModifier);
-  trascinamento_->Premi(evento->position().toPoint(),
-                        estende ? std::optional(scelta_.Estremi().Ancora) : std::nullopt);
+  trascinamento_->Premi(punto, estende ? std::optional(scelta_.Estremi().Ancora) : std::nullopt);
 }
 
 void ricAnte::mouseDoubleClickEvent(QMouseEvent* evento) {
   if (evento->button() != Qt::LeftButton) return evento->ignore();
+  if (evento->modifiers() == Qt::ControlModifier) return;  // the first press has led to the text
   trascinamento_->PremiAncora(evento->position().toPoint());
 }
 

@@ -60,6 +60,8 @@ void ricAnte::keyPressEvent(QKeyEvent* evento) {
     Copia();
   } else if (evento->matches(QKeySequence::SelectAll)) {
     SelezionaTutto();
+  } else if (evento->key() == Qt::Key_F4 && evento->modifiers() == Qt::NoModifier) {
+    emit OrigineChiesta(Cursore());
   } else if (const Tasto* tasto = TastoDi(*evento)) {
     const bool seleziona = evento->matches(tasto->Seleziona);
     Muovi(tasto->Dove, seleziona ? ModoMovimento::Seleziona : ModoMovimento::Muove);

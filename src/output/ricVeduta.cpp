@@ -15,6 +15,13 @@ VedutaAnteprima::VedutaAnteprima(const TestoAnteprima& testo, const Celle& celle
   } while (alto < finestrella.Dimensione.height() && riga < testo.NumRighe());
 }
 
+std::vector<std::size_t> VedutaAnteprima::Righe() const {
+  std::vector<std::size_t> righe;
+  righe.reserve(righe_.size());
+  for (const RigaVisibile& riga : righe_) righe.push_back(riga.Riga);
+  return righe;
+}
+
 std::size_t VedutaAnteprima::UltimaRigaIntera() const {
   const bool intera = righe_.size() == 1 || righe_.back().Basso() <= finestrella_.Dimensione.height();
   return intera ? righe_.back().Riga : righe_.back().Riga - 1;

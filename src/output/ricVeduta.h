@@ -39,6 +39,8 @@ class VedutaAnteprima {
   /// Of a line in the pane's own look.
   qreal AltezzaRiga() const { return celle_.Altezza({}); }
 
+  /// Those of which something shows.
+  std::vector<std::size_t> Righe() const;
   /// The last line that fits whole; the first one at least.
   std::size_t UltimaRigaIntera() const;
 

@@ -13,8 +13,10 @@ namespace parvik {
 /// The stretches that are still as they were. An edit costs as much as there are of them.
 class Spostamenti {
  public:
-  /// A text of that size, as it is now.
-  explicit Spostamenti(std::size_t dimensione = 0);
+  /// Of an empty text.
+  Spostamenti() = default;
+  /// Of a text of that size, as it is now.
+  explicit Spostamenti(std::size_t dimensione);
 
   void Modificato(const Modifica& modifica);
   /// The whole text is another one: nothing is where it was.

@@ -10,13 +10,11 @@
 
 #include "common/Delimitatori.h"
 #include "common/qtTesto.h"
+#include "common/qtTinte.h"
 
 namespace parvik {
 namespace {
 
-/// The least contrast of a code's colour with what it stands on: what small text needs to be legible.
-constexpr double ContrastoMinimo = 4.5;
-constexpr double ForzaFondo = 0.2;  // how much of the highlight colour is in the mark
 constexpr double ForzaCampo = 0.1;  // how much of its colour is in a field
 constexpr int Passi = 20;           // from a colour to black or white
 
@@ -26,36 +24,6 @@ constexpr auto TinteSuChiaro =
 constexpr auto TinteSuScuro =
     std::to_array<QRgb>({0xFFFF8585, 0xFF8AB4F8, 0xFF7FD08F, 0xFFFBA35C, 0xFFD7A5FB, 0xFF5FD9E6, 0xFFDCCB4E});
 static_assert(TinteSuChiaro.size() == NumTipiCodice && TinteSuScuro.size() == NumTipiCodice);
-constexpr QRgb Nero = 0xFF000000;
-constexpr QRgb Bianco = 0xFFFFFFFF;
-
-double Lineare(int canale) {
-  const double c = canale / 255.0;
-  return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-}
-
-double Luminanza(QRgb colore) {
-  return 0.2126 * Lineare(qRed(colore)) + 0.7152 * Lineare(qGreen(colore)) + 0.0722 * Lineare(qBlue(colore));
-}
-
-double Contrasto(QRgb uno, QRgb altro) {
-  const auto [scuro, chiaro] = std::minmax({Luminanza(uno), Luminanza(altro)});
-  return (chiaro + 0.05) / (scuro + 0.05);
-}
-
-/// `da` with a part of `a` in it: 0 none, 1 nothing else.
-QRgb Misto(QRgb da, QRgb a, double parte) {
-  const auto canale = [parte](int x, int y) { return static_cast<int>(std::lround(x + (y - x) * parte)); };
-  return qRgb(canale(qRed(da), qRed(a)), canale(qGreen(da), qGreen(a)), canale(qBlue(da), qBlue(a)));
-}
-
-/// Towards the highlight, as far as text in the colour `estremo` stays legible on it; if that is nowhere,
-/// away from `estremo`.
-QRgb FondoSu(QRgb base, QRgb evidenza, QRgb estremo) {
-  const QRgb fondo = Misto(base, evidenza, ForzaFondo);
-  if (Contrasto(estremo, fondo) >= ContrastoMinimo) return fondo;
-  return Misto(base, estremo == Nero ? Bianco : Nero, ForzaFondo);
-}
 
 /// `tinta`, moved towards `estremo` until it can be read on both.
 QRgb Leggibile(QRgb tinta, QRgb estremo, QRgb base, QRgb fondo) {
@@ -96,8 +64,8 @@ void qtColori::ColoraDa(int riga) {
 
 void qtColori::ImpostaTavolozza(const QPalette& tavolozza) {
   const QRgb base = tavolozza.color(QPalette::Base).rgb();
-  const bool chiaro = Contrasto(Nero, base) >= Contrasto(Bianco, base);
-  const QRgb estremo = chiaro ? Nero : Bianco;
+  const QRgb estremo = Estremo(base);
+  const bool chiaro = estremo == Nero;
   const QRgb fondo = FondoSu(base, tavolozza.color(QPalette::Highlight).rgb(), estremo);
   const auto& tinte = chiaro ? TinteSuChiaro : TinteSuScuro;
   const auto prima = formati_;

@@ -24,6 +24,11 @@ class VistaFinta final : public Vista {
   void CambiataMisura() override { ++CambiamentiMisura; }
   void MostraAnteprima(Anteprima anteprima) override { Anteprime.push_back(std::move(anteprima.Testo)); }
   void CompletaAnteprima(Anteprima anteprima) override { Completate.push_back(std::move(anteprima.Testo)); }
+  void RinnovaAnteprima(std::shared_ptr<const TestoAnteprima> anteprima,
+                        const Ricollocazione& /*dove*/) override {
+    Rinnovate.emplace_back(anteprima->Testo());
+  }
+  void CambiataAnteprima() override { ++CambiamentiAnteprima; }
   Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override {
     if (Attesa == ComeAttende::SenzaMemoria) return NumeroErrore::MemoriaEsaurita;
     std::stop_source smetti;
@@ -54,6 +59,8 @@ class VistaFinta final : public Vista {
   int RicaricheFlag = 0;
   std::vector<std::string> Anteprime;
   std::vector<std::string> Completate;
+  std::vector<std::string> Rinnovate;  // those that came by themselves
+  int CambiamentiAnteprima = 0;
 
   enum class ComeAttende { FinoAllaFine, Smette, SenzaMemoria };
   ComeAttende Attesa = ComeAttende::FinoAllaFine;
@@ -94,6 +101,13 @@ class BancoEditore : public testing::Test {
     installazione.DirImg = dir / "D_IMG";
     installazione.FileCampi = dir / "D_IMG" / "CAMPI.TXT";
     return installazione;
+  }
+
+  /// Another type: the template as it stands is given up without a question.
+  void CambiaTipo(std::size_t slot) {
+    editore_.Modello().Stato().Modificato = false;
+    editore_.Nuovo();
+    editore_.ScegliTipo(slot);
   }
 
   std::filesystem::path FileNuovo() const { return dir_ / "NUOVO001.IMG"; }

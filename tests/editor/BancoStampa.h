@@ -10,20 +10,20 @@
 
 namespace parvik::prova {
 
+/// From UTF-8 with « » for the delimiters.
+inline std::string Byte(std::string testo) {
+  for (const auto& [utf8, byte] : {std::pair("«", '\xAB'), std::pair("»", '\xBB')}) {
+    for (std::size_t i = 0; (i = testo.find(utf8, i)) != std::string::npos;) testo.replace(i, 2, 1, byte);
+  }
+  return testo;
+}
+
 class Stampa : public BancoEditore {
  protected:
   Stampa() {
     editore_.ScegliTipo(Listino);
     Imposta({Byte("Listino «V1;5»\r\n«S;GR»fine\r\n"), "mai scelto", "mai scelto"});
     vista_.Anteprime.clear();
-  }
-
-  /// From UTF-8 with « » for the delimiters.
-  static std::string Byte(std::string testo) {
-    for (const auto& [utf8, byte] : {std::pair("«", '\xAB'), std::pair("»", '\xBB')}) {
-      for (std::size_t i = 0; (i = testo.find(utf8, i)) != std::string::npos;) testo.replace(i, 2, 1, byte);
-    }
-    return testo;
   }
 
   void StampaSu(std::optional<Destinazione> destinazione) {

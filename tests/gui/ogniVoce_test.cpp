@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QScrollBar>
 #include <QTest>
 #include <set>
 
@@ -159,6 +160,30 @@ void Commuta(Finestra& finestra, const char* nome) {
   EXPECT_EQ(finestra.Azione(nome).isChecked(), prima);
 }
 
+/// What is typed shows in the preview, until it is turned off.
+void SegueDaSola(Finestra& finestra, const char* nome) {
+  Scegli(finestra, nome);
+  QTest::keyClicks(&finestra.Sezione(0), "uno");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return finestra.TestoAnteprima().startsWith("uno\n"); }));
+  Scegli(finestra, nome);
+  QTest::keyClicks(&finestra.Sezione(0), "due");
+  QTest::qWait(20);
+  EXPECT_TRUE(finestra.TestoAnteprima().startsWith("uno\n"));
+}
+
+/// The pane scrolls to what stands at the caret: the last line of the Piede.
+void VaiNellAnteprima(Finestra& finestra, const char* nome) {
+  for (int i = 0; i < 200; ++i) finestra.Sezione(2).appendPlainText("riga");
+  finestra.Azione("mnuAnte").trigger();
+  finestra.Azione("mnuAnte").trigger();
+  EXPECT_EQ(finestra.Anteprima().verticalScrollBar()->value(), 0);
+  finestra.Sezione(2).setFocus();
+  QTest::keyClick(&finestra.Sezione(2), Qt::Key_End, Qt::ControlModifier);
+  QTest::keyClick(&finestra.Sezione(2), Qt::Key_Up);
+  Scegli(finestra, nome);
+  EXPECT_GT(finestra.Anteprima().verticalScrollBar()->value(), 100);
+}
+
 struct Voce {
   const char* Nome;
   Effetto Fa;
@@ -188,9 +213,9 @@ const std::vector<Voce>& Voci() {
       {"mnuSettaFlag", MostraENasconde("frmSettaFlag")},
       {"mnuAnnulla", AnnullaERipeti},
       {"mnuRipeti", AnnullaERipeti},
-      {"mnuAnteAuto", Commuta},
+      {"mnuAnteAuto", SegueDaSola},
       {"mnuMisura", MostraAMisura},
-      {"mnuVaiAnte", Commuta},
+      {"mnuVaiAnte", VaiNellAnteprima},
       {"mnuBarraStato", Commuta},
       {"mnuRighello", MostraRighello},
       {"mnuFoglio", Commuta},
