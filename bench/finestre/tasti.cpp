@@ -1,7 +1,6 @@
 // Typing: from a key to what it paints, in the Testata of the editor's window and in a bare QPlainTextEdit
 // with the same text in the same colours, key by key in turn.
 #include <QApplication>
-#include <QKeyEvent>
 #include <QMainWindow>
 #include <QPainter>
 #include <QTextBlock>
@@ -15,6 +14,7 @@
 #include "Dati.h"
 #include "Resoconto.h"
 #include "finestre/Banco.h"
+#include "finestre/Battitura.h"
 
 namespace parvik::bench {
 namespace {
@@ -22,8 +22,7 @@ namespace {
 using Orologio = std::chrono::steady_clock;
 using Millisecondi = std::chrono::duration<double, std::milli>;
 
-constexpr int Tasti = 600;       // in each editor
-constexpr int TastiPerRiga = 5;  // then a line further down
+constexpr int Tasti = 600;  // in each editor
 constexpr int TastiContati = 100;
 constexpr std::size_t RigheCorte = 60;
 constexpr double Sbarra = 1.25;
@@ -31,19 +30,6 @@ constexpr double SbarraSosta = 50;             // milliseconds
 constexpr double MillisecondiDiCambio = 4000;  // more than it takes
 constexpr double Mezzo = 0.5;
 constexpr double QuasiTutti = 0.99;
-
-/// Whether something was painted since.
-class Sentinella final : public QObject {
- public:
-  explicit Sentinella(QWidget* osservato) { osservato->installEventFilter(this); }
-  bool Dipinto = false;
-
- protected:
-  bool eventFilter(QObject* oggetto, QEvent* evento) override {
-    if (evento->type() == QEvent::Paint) Dipinto = true;
-    return QObject::eventFilter(oggetto, evento);
-  }
-};
 
 /// How the sections are shown.
 enum class Modo { Testo, Campi };
@@ -108,42 +94,6 @@ class Nudo {
   QPlainTextEdit* editor_;
 };
 
-/// One editor, its caret, and how long its keys took.
-class Prova {
- public:
-  explicit Prova(QPlainTextEdit& editor) : editor_(editor), sentinella_(editor.viewport()) {
-    QTextCursor mezzo(editor.document()->findBlockByNumber(editor.blockCount() / 2));
-    editor.setTextCursor(mezzo);
-    editor.centerCursor();
-    Svuota();
-  }
-
-  [[gnu::noinline]] void Premi(int volta) {
-    if (volta % TastiPerRiga == 0) {
-      editor_.moveCursor(volta % (8 * TastiPerRiga) == 0 ? QTextCursor::PreviousBlock
-                                                         : QTextCursor::NextBlock);
-      Svuota();
-    }
-    sentinella_.Dipinto = false;
-    QKeyEvent giu(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
-    const auto inizio = Orologio::now();
-    QCoreApplication::sendEvent(&editor_, &giu);
-    while (!sentinella_.Dipinto) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    const Millisecondi passati = Orologio::now() - inizio;
-    tempi_.push_back(passati.count());
-    QKeyEvent su(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier, "a");
-    QCoreApplication::sendEvent(&editor_, &su);
-    Svuota();
-  }
-
-  double Quantile(double parte) const { return bench::Quantile(tempi_, parte); }
-
- private:
-  QPlainTextEdit& editor_;
-  Sentinella sentinella_;
-  std::vector<double> tempi_;
-};
-
 /// What the median key took in the editor, in milliseconds.
 double Misura(std::size_t righe, Modo modo = Modo::Testo) {
   Banco banco;
@@ -151,8 +101,8 @@ double Misura(std::size_t righe, Modo modo = Modo::Testo) {
   if (modo == Modo::Campi) banco.MostraAMisura();
   Nudo nudo(banco.Testata(), modo);
   Svuota();
-  Prova nostra(banco.Testata());
-  Prova sua(nudo.Editor());
+  Battitura nostra(banco.Testata());
+  Battitura sua(nudo.Editor());
   for (int i = 0; i < Tasti; ++i) {
     sua.Premi(i);
     nostra.Premi(i);
@@ -197,7 +147,7 @@ void Conta(bool nudo) {
   banco.Apri(Modello(2 * RigheCorte));
   Nudo altro(banco.Testata());
   Svuota();
-  Prova prova(nudo ? altro.Editor() : banco.Testata());
+  Battitura prova(nudo ? altro.Editor() : banco.Testata());
   for (int i = 0; i < TastiContati; ++i) prova.Premi(i);
 }
 
