@@ -1,11 +1,18 @@
 #include "app/qtAnteAuto.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <system_error>
 #include <utility>
 
 #include "common/SeBastaMemoria.h"
 
 namespace parvik {
+namespace {
+
+constexpr int DopoIlDisegno = Qt::LowEventPriority - 1;  // which windows are painted with
+
+}  // namespace
 
 qtAnteAuto::qtAnteAuto(Editore& editore, ricAnte& pannello) : editore_(editore), pannello_(pannello) {
   connect(&pannello, &ricAnte::OrigineChiesta, this, [this](std::size_t byte) {
@@ -21,9 +28,14 @@ void qtAnteAuto::Segui() {
   if (!attesa_.isActive()) attesa_.start(0, this);
 }
 
-/// Without memory the pane stays behind, until something changes again.
+/// The keys are handled; what they have changed is to be painted first.
 void qtAnteAuto::timerEvent(QTimerEvent* /*evento*/) {
   attesa_.stop();
+  QCoreApplication::postEvent(this, new QEvent(QEvent::User), DopoIlDisegno);
+}
+
+/// Without memory the pane stays behind, until something changes again.
+void qtAnteAuto::customEvent(QEvent* /*evento*/) {
   static_cast<void>(SeBastaMemoria([this]() -> Esito<void> {
     Rinnova();
     Segna();

@@ -33,6 +33,7 @@ class qtAnteAuto final : public QObject {
 
  protected:
   void timerEvent(QTimerEvent* evento) override;
+  void customEvent(QEvent* evento) override;
 
  private:
   void Rinnova();
