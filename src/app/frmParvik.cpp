@@ -31,14 +31,18 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
     : dirProgramma_(std::move(dati.DirProgramma)),
       editore_(std::move(dati.Dove), std::move(dati.Campi), *this, interlocutore),
       maschere_(editore_, *this),
-      finestrelle_(editore_, *this) {
+      finestrelle_(editore_, *this),
+      ricordi_(editore_, *this, qtRicordo(dati.CartellaUtente, dati.CartelleConfigurazione)) {
   setObjectName("frmParvik");
   new qtTastiInCoda(this);
   new qtTastiRipetuti(this);
   CreaArea();
   CreaMenu();
   anteAuto_ = std::make_unique<qtAnteAuto>(editore_, area_->Pannello());
+  barraStato_ = new qtBarraStato(editore_, *area_, *this);
   resize(EntroLoSchermo(*this, DimensioneIniziale));
+  ricordi_.Riprendi();
+  CreaIngrandimento();
   Aggiorna();
 }
 
@@ -46,6 +50,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
 frmParvik::~frmParvik() {
   anteAuto_.reset();
   hide();
+  delete barraStato_;
   delete area_;
 }
 
@@ -61,6 +66,14 @@ void frmParvik::CreaArea() {
     CollegaSezione(sezione);
   }
   CreaApertura();
+  CreaInizio();
+}
+
+void frmParvik::CreaIngrandimento() {
+  auto* ingrandimento = new qtIngrandimento(*area_, *this);
+  ingrandimento->Imposta(ricordi_.Ingrandimento());
+  connect(ingrandimento, &qtIngrandimento::Cambiato, this,
+          [this](int passi) { ricordi_.NotaIngrandimento(passi); });
 }
 
 /// What a section tells counts only while it is in use.
@@ -93,17 +106,21 @@ void frmParvik::Aggiorna() {
   setWindowTitle(DaUtf8(editore_.Titolo()).replace("[*]", "[*][*]"));
   if (!editore_.TipoScelto()) setFocus();  // keys have nowhere else to go
   menu_->Aggiorna(editore_.PerMenu());
+  barraStato_->Aggiorna();
   area_->Mostra(editore_.PerArea());
   misure_->Aggiorna();
   righelli_->Aggiorna();
   finestrelle_.Aggiorna();
   SeguiAnteprima();
+  ricordi_.Aggiorna();
+  inizio_->Aggiorna();
 }
 
 /// The sections' own beginning comes before there is a menu.
 void frmParvik::CambiatoTesto() {
   if (menu_ != nullptr) menu_->Aggiorna(editore_.PerMenu());
   SeguiAnteprima();
+  if (barraStato_ != nullptr) barraStato_->Accoda();
 }
 
 /// There is nothing to follow before the window is complete, and when it goes.
@@ -115,6 +132,7 @@ void frmParvik::SeguiAnteprima() {
 void frmParvik::CambiataAnteprima() {
   if (anteAuto_) anteAuto_->Segna();
   SeguiAnteprima();
+  if (barraStato_ != nullptr) barraStato_->Accoda();
 }
 
 void frmParvik::RinnovaAnteprima(std::shared_ptr<const TestoAnteprima> anteprima,
@@ -125,6 +143,7 @@ void frmParvik::RinnovaAnteprima(std::shared_ptr<const TestoAnteprima> anteprima
 void frmParvik::CambiataMisura() {
   if (misure_) misure_->Rimisura();
   SeguiAnteprima();
+  if (barraStato_ != nullptr) barraStato_->Accoda();
 }
 
 void frmParvik::MostraAnteprima(Anteprima anteprima) {
@@ -182,6 +201,7 @@ void frmParvik::RicaricaFlagStampe() {
 
 void frmParvik::closeEvent(QCloseEvent* evento) {
   evento->setAccepted(!inAttesa_ && editore_.PuoChiudere());
+  if (evento->isAccepted()) ricordi_.Salva();
 }
 
 }  // namespace parvik

@@ -10,10 +10,14 @@
 
 #include "app/qtAnteAuto.h"
 #include "app/qtArea.h"
+#include "app/qtBarraStato.h"
 #include "app/qtFinestrelle.h"
+#include "app/qtIngrandimento.h"
+#include "app/qtInizio.h"
 #include "app/qtMaschere.h"
 #include "app/qtMenu.h"
 #include "app/qtMisure.h"
+#include "app/qtRicordi.h"
 #include "app/qtRighelli.h"
 #include "editor/Editore.h"
 #include "editor/Vista.h"
@@ -59,6 +63,7 @@ class frmParvik final : public QMainWindow, private Vista {
   void RicaricaFlagStampe() override;
 
   void CreaArea();
+  void CreaIngrandimento();
   void CollegaSezione(Sezione sezione);
   void AttivaSezione(Sezione sezione);
   void SeguiAnteprima();
@@ -72,6 +77,7 @@ class frmParvik final : public QMainWindow, private Vista {
 
   // frmParvikApertura.cpp
   void CreaApertura();
+  void CreaInizio();
   /// True when a type was chosen.
   bool ScegliTipo(std::size_t proposta);
   void ApplicaTipo(std::size_t slot);
@@ -79,11 +85,14 @@ class frmParvik final : public QMainWindow, private Vista {
 
   qtArea* area_ = nullptr;
   qtMenu* menu_ = nullptr;
+  qtBarraStato* barraStato_ = nullptr;
+  qtInizio* inizio_ = nullptr;
   std::filesystem::path dirProgramma_;  // where the print module is looked for from
   bool inAttesa_ = false;               // a command waits for its work: the window stays
   Editore editore_;
   qtMaschere maschere_;
   qtFinestrelle finestrelle_;
+  qtRicordi ricordi_;
   // Once there is an area.
   std::optional<qtMisure> misure_;
   std::optional<qtRighelli> righelli_;

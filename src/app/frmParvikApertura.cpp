@@ -15,6 +15,13 @@ void frmParvik::CreaApertura() {
           [this](const QString& file) { ApriDaFuori(file.toStdString()); });
 }
 
+void frmParvik::CreaInizio() {
+  inizio_ = new qtInizio(editore_, ricordi_, *area_, this);
+  connect(inizio_, &qtInizio::TipoDaScegliere, this, [this] { Esegui(Comando::TipoStampa); });
+  connect(inizio_, &qtInizio::DaAprire, this,
+          [this](std::size_t tipo, const std::filesystem::path& file) { Comincia(tipo, file); });
+}
+
 bool frmParvik::ScegliTipo(std::size_t proposta) {
   QStringList descrizioni;
   for (const TipoDoc* tipo : editore_.Campi().TipiElencati()) descrizioni += PerSchermo(tipo->Descrizione);

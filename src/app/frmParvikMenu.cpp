@@ -69,8 +69,6 @@ void frmParvik::Esegui(Comando comando) {
       return editore_.Commuta(PreferenzaDi(comando).value());
     case Comando::VaiAnte:
       return anteAuto_->VaiAnte();
-    case Comando::Foglio:
-      break;
   }
 }
 

@@ -71,7 +71,8 @@ void qtArea::FinisciComposizione() {
 }
 
 void qtArea::resizeEvent(QResizeEvent* evento) {
-  divisore_.reset();
+  if (window()->size() != finestra_) divisore_.reset();
+  finestra_ = window()->size();
   ResizeControls();
   QWidget::resizeEvent(evento);
 }

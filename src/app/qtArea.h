@@ -37,7 +37,7 @@ class qtArea final : public QWidget {
   void FinisciComposizione();
 
  protected:
-  /// The boundary goes back to the middle.
+  /// In another size of the window the boundary goes back to the middle; bars that come and go leave it.
   void resizeEvent(QResizeEvent* evento) override;
 
  private:
@@ -54,6 +54,7 @@ class qtArea final : public QWidget {
   lblRighe* lblRighe_ = nullptr;
   StatoArea stato_;
   std::optional<int> divisore_;  // in twips; where the user has dragged the boundary since the last resize
+  QSize finestra_;               // the size that the window had then
   bool etichetteMisurate_ = false;
 };
 

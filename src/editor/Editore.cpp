@@ -172,6 +172,20 @@ std::optional<std::string> Editore::ConLarghezza(Sezione sezione, std::string_vi
   return tipo_->ConLarghezza(sezione, contenuto, larghezza);
 }
 
+TestiBarra Editore::Barra(const TestoAnteprima& mostrato) {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  const Sezione attiva = inserimento_.Attiva();
+  const TestoSezione& testo = documento_.Testo(attiva);
+  const Cursore cursore = vista_.CursoreIn(attiva);
+  const std::optional<Selezione> codice = CodiceDaDire(testo, cursore.Posto);
+  return PerBarra({.Modello = documento_,
+                   .Dove = {.Dove = attiva, .Dentro = cursore},
+                   .ColonnaCarta = campi_.Colonna(attiva, cursore.Posto) + 1,
+                   .Codice = codice ? tipo_->DescriviInFrase(attiva, ContenutoDi(testo, *codice)) : "",
+                   .Aggiornata = AnteprimaAggiornata(),
+                   .Corsa = AnteVisibile() ? CorsaDi(mostrato) : std::nullopt});
+}
+
 std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
   PARVIK_ESIGE(InUso(sezione), ConSezione);
   return conto_.Conta(Tipo(), sezione);

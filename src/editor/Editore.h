@@ -23,6 +23,7 @@
 #include "editor/Preferenze.h"
 #include "editor/Resa.h"
 #include "editor/ResaAutomatica.h"
+#include "editor/StatoBarra.h"
 #include "editor/TipoInUso.h"
 #include "editor/Vista.h"
 #include "output/CampiAMisura.h"
@@ -70,6 +71,10 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   bool AnteprimaAggiornata() const { return !AnteVisibile() || mostrata_.Aggiornata(Tipo()); }
   /// What stands at the caret of the active section, in the preview.
   SegniAnteprima SegniAlCursore() const;
+  /// The number of the document type; nullopt while none is chosen.
+  std::optional<int> NumeroTipo() const {
+    return TipoScelto() ? std::optional(Tipo().Indice + 1) : std::nullopt;
+  }
   const Catalogo& Campi() const { return catalogo_; }
   const Installazione& Dove() const { return installazione_; }
   const Documento& Modello() const { return documento_; }
@@ -150,6 +155,8 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   /// The code with another width; nullopt where it cannot be given one. The section must be in use.
   std::optional<std::string> ConLarghezza(Sezione sezione, std::string_view contenuto,
                                           std::int16_t larghezza);
+  /// What the status bar says of the active section's caret; `mostrato` is what the preview pane holds.
+  TestiBarra Barra(const TestoAnteprima& mostrato);
 
   /// The lines of a section, its last line completed; nullopt after a message when there are too many to
   /// count.
@@ -161,6 +168,8 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   void CommutaGuida(std::size_t colonna);
   /// Turns a switch on or off. In every state.
   void Commuta(Preferenza quale);
+  /// The switches as they were left, before anything is shown.
+  void RiprendiScelte(const Preferenze& scelte) { scelte_ = scelte; }
 
   /// Whether the window may close. Asks when the template is modified. In every state.
   bool PuoChiudere() { return !TipoScelto() || comandi_.PuoChiudere(Tipo()); }

@@ -53,7 +53,6 @@ enum class Comando {
   VaiAnte,
   BarraStato,
   Righello,
-  Foglio,
   FlagVeri,
   Ricorda,
 };

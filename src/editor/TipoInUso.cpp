@@ -54,6 +54,11 @@ std::optional<std::string> TipoInUso::ConLarghezza(Sezione sezione, std::string_
   return parvik::ConLarghezza(contenuto, larghezza, TabelleDi(sezione).Variabili);
 }
 
+std::string TipoInUso::DescriviInFrase(Sezione sezione, std::string_view contenuto) {
+  const Tabelle& tabelle = TabelleDi(sezione);
+  return parvik::DescriviInFrase(contenuto, tabelle.Variabili, tabelle.Flag);
+}
+
 const TipoInUso::Tabelle& TipoInUso::TabelleDi(Sezione sezione) {
   std::optional<Tabelle>& tabelle = tabelle_[Indice(sezione)];
   if (!tabelle) {

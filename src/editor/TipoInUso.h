@@ -38,6 +38,8 @@ class TipoInUso {
   /// The code with another width; nullopt where it cannot be given one.
   std::optional<std::string> ConLarghezza(Sezione sezione, std::string_view contenuto,
                                           std::int16_t larghezza);
+  /// The same as a phrase.
+  std::string DescriviInFrase(Sezione sezione, std::string_view contenuto);
 
  private:
   /// What Descrivi reads.

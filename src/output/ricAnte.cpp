@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "output/ricAccessibile.h"
+#include "output/ricInvito.h"
 #include "output/ricLampeggio.h"
 #include "output/ricTrascinamento.h"
 
@@ -20,6 +21,7 @@ ricAnte::ricAnte(QWidget* padre)
       trascinamento_(new ricTrascinamento([this] { return Veduta(); }, this)) {
   setObjectName("ricAnte");
   setAccessibleName("Anteprima");
+  setAccessibleDescription(TestoInvito());
   setFocusPolicy(Qt::StrongFocus);
   viewport()->setCursor(Qt::IBeamCursor);
   setFont(CarattereAnteprima());
@@ -36,6 +38,7 @@ void ricAnte::Mostra(Anteprima anteprima) {
   verticalScrollBar()->setValue(0);
   horizontalScrollBar()->setValue(0);
   MisuraLarghezza();
+  setAccessibleDescription(Contenuto().Testo().empty() ? TestoInvito() : QString());
   ricAccessibile::AnnunciaTesto(*this, prima.Testo());
   emit Mostrata();
 }
@@ -116,6 +119,7 @@ void ricAnte::paintEvent(QPaintEvent* evento) {
   const QPalette::ColorGroup gruppo = !isEnabled() ? QPalette::Disabled
                                       : hasFocus() ? QPalette::Active
                                                    : QPalette::Inactive;
+  if (Contenuto().Testo().empty()) DisegnaInvito(pittore, viewport()->rect(), palette());
   luoghi_.Disegna(pittore, veduta, palette(), gruppo);
   veduta.Disegna(pittore, evento->rect(), Selezionato(), palette(), gruppo);
   if (righello_ != nullptr && righello_->isVisible()) {

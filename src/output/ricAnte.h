@@ -38,6 +38,9 @@ class ricAnte final : public QAbstractScrollArea {
 
   /// Content and selection; keeps the content when the pane shows another one.
   const SelezioneAnteprima& Scelta() const { return scelta_; }
+  /// The text so many points larger than on paper (editor/Ingrandimento.h).
+  void Ingrandisci(int passi);
+
   const TestoAnteprima& Contenuto() const { return scelta_.Testo(); }
 
   /// What is selected, in bytes of the text; the caret alone when nothing is.
@@ -121,6 +124,7 @@ class ricAnte final : public QAbstractScrollArea {
   std::optional<Celle> celle_;
   qreal rapporto_ = 0;  // the device's pixel ratio and resolution that the cells were made for
   int risoluzione_ = 0;
+  double scala_ = 1;
   int larghezza_ = 0;  // of the widest line, in pixels
 
   ricLampeggio* lampeggio_ = nullptr;

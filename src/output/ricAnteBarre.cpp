@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+#include "editor/Ingrandimento.h"
+#include "output/MettiStili.h"
 #include "output/ricAnte.h"
 
 namespace parvik {
@@ -63,7 +65,7 @@ void ricAnte::MostraRighello(bool mostra) {
 void ricAnte::Rimisura() {
   rapporto_ = viewport()->devicePixelRatioF();
   risoluzione_ = viewport()->logicalDpiY();
-  celle_ = Celle::SuSchermo(font(), *viewport());
+  celle_ = Celle::SuSchermo(font(), *viewport(), scala_);
   MisuraLarghezza();
 }
 
@@ -95,6 +97,12 @@ void ricAnte::AggiornaBarre() {
   horizontalScrollBar()->setRange(0, std::max(0, intera - finestra.width()));
   horizontalScrollBar()->setPageStep(finestra.width());
   horizontalScrollBar()->setSingleStep(InBarra(celle_->Avanzamento({})));
+}
+
+void ricAnte::Ingrandisci(int passi) {
+  const double normale = Punti(CorpoCarattere::Normale);
+  scala_ = PuntiIngranditi(normale, passi) / normale;
+  Rimisura();
 }
 
 void ricAnte::RimisuraSeDiverso() {

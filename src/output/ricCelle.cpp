@@ -36,7 +36,7 @@ QFont Celle::ConAspetto(const Aspetto& aspetto) const {
   carattere.setStyleStrategy(
       static_cast<QFont::StyleStrategy>(carattere.styleStrategy() | QFont::PreferNoShaping));
   if (schermo_ != nullptr) {
-    if (!comeSono_) carattere.setPointSizeF(Punti(aspetto.Corpo));
+    if (!comeSono_) carattere.setPointSizeF(Punti(aspetto.Corpo) * scala_);
     return {carattere, schermo_};
   }
   carattere.setPixelSize(static_cast<int>(std::lround(Punti(aspetto.Corpo) * TwipPerPunto)));

@@ -32,7 +32,12 @@ class Celle {
 
   /// Lengths are logical pixels. The screen is looked at while this object lives; make a new one when its
   /// resolution or its pixel ratio has changed.
-  static Celle SuSchermo(const QFont& base, const QPaintDevice& schermo) { return {base, &schermo}; }
+  /// `scala`: how much larger than on paper.
+  static Celle SuSchermo(const QFont& base, const QPaintDevice& schermo, double scala = 1) {
+    Celle celle(base, &schermo);
+    celle.scala_ = scala;
+    return celle;
+  }
   /// The same in the size of `base`, whatever size a look asks for: every cell is as wide as its characters.
   static Celle ComeSono(const QFont& base, const QPaintDevice& schermo) { return {base, &schermo, true}; }
   /// Lengths are twips, whatever the printer's resolution: in them every size of the preview is a whole
@@ -75,6 +80,7 @@ class Celle {
   QFont base_;
   const QPaintDevice* schermo_;  // none: paper
   bool comeSono_;                // every look has the size of base_
+  double scala_ = 1;
   mutable PerAspetto<std::optional<Faccia>> facce_;
 };
 

@@ -30,7 +30,8 @@ std::optional<DatiAvvio> Avvia(const Ambiente& ambiente, Interlocutore& interloc
     interlocutore.Chiedi({.Testo = catalogo.Errore()});
     return std::nullopt;
   }
-  return DatiAvvio{ambiente.DirProgramma, std::move(*installazione), std::move(*catalogo)};
+  return DatiAvvio{ambiente.DirProgramma, std::move(*installazione), std::move(*catalogo),
+                   ambiente.CartellaUtente, ambiente.CartelleConfigurazione};
 }
 
 }  // namespace parvik

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "catalogue/Catalogo.h"
 #include "common/Interlocutore.h"
@@ -25,6 +26,9 @@ struct DatiAvvio {
   std::filesystem::path DirProgramma;  // without a trailing separator
   Installazione Dove;
   Catalogo Campi;
+  /// Where configuration files lie, as in Ambiente.
+  std::filesystem::path CartellaUtente = {};
+  std::vector<std::filesystem::path> CartelleConfigurazione = {};
 };
 
 /// Finds the installation and loads the head of its catalogue. nullopt after the user was told why not: the

@@ -53,7 +53,9 @@ fs::path CercaCampi(const fs::path& dirImg, Interlocutore& interlocutore) {
 }  // namespace
 
 Ambiente AmbienteDelProcesso(const char* argv0) {
-  return {.DirProgramma = DirProgramma(argv0), .CartelleConfigurazione = CartelleConfigurazione()};
+  return {.DirProgramma = DirProgramma(argv0),
+          .CartelleConfigurazione = CartelleConfigurazione(),
+          .CartellaUtente = CartellaConfigurazioneUtente()};
 }
 
 Installazione Installazione::In(const fs::path& dirVelkor) {

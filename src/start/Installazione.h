@@ -15,6 +15,8 @@ struct Ambiente {
   /// Where a configuration file that is named without a folder is looked for, in this order.
   std::vector<std::filesystem::path> CartelleConfigurazione;
   std::filesystem::path DirVelkor = {};  // "" when it is to be looked for
+  /// The user's own among those folders; "" for a user who has none.
+  std::filesystem::path CartellaUtente = {};
 };
 
 /// The running process: `argv0` as in DirProgramma(); $XDG_CONFIG_HOME, $XDG_CONFIG_DIRS and /etc.

@@ -2,6 +2,7 @@
 
 #include <QFocusEvent>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QInputMethodEvent>
@@ -13,6 +14,7 @@
 #include <array>
 
 #include "common/qtTesto.h"
+#include "editor/Ingrandimento.h"
 #include "template/txtComposizione.h"
 #include "template/txtDisposizione.h"
 #include "template/txtTasti.h"
@@ -67,6 +69,18 @@ void txtTCP::ImpostaUso(bool inUso) {
   setEnabled(inUso);
 }
 
+void txtTCP::Ingrandisci(int passi) {
+  ingrandimento_ = passi;
+  if (isVisible()) ImpostaCarattere();
+}
+
+void txtTCP::ImpostaCarattere() {
+  QFont carattere = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  if (ingrandimento_ != 0)
+    carattere.setPointSizeF(PuntiIngranditi(QFontInfo(carattere).pointSizeF(), ingrandimento_));
+  setFont(carattere);
+}
+
 /// Whether an event is one that nothing may come of.
 bool txtTCP::Esclude(QEvent& evento) const {
   if (InUso() || !EUnIntervento(evento)) return false;
@@ -90,7 +104,7 @@ bool txtTCP::event(QEvent* evento) {
   if (evento->type() == QEvent::KeyPress && !EUnModificatore(*static_cast<QKeyEvent*>(evento)))
     emit TastoPremuto();
   // Not before it can be seen, as no section can when the program starts: loading a font takes time.
-  if (evento->type() == QEvent::Show) setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  if (evento->type() == QEvent::Show) ImpostaCarattere();
   return QPlainTextEdit::event(evento);
 }
 

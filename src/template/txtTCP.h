@@ -44,6 +44,9 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   bool InUso() const { return !isReadOnly(); }
   void ImpostaUso(bool inUso);
 
+  /// The text so many points larger than the system's fixed-pitch font (editor/Ingrandimento.h).
+  void Ingrandisci(int passi);
+
   void ImpostaDescrizione(Descrizione descrizione) { descrizione_ = std::move(descrizione); }
 
   /// Draws every code as wide as what it prints, or no longer: nullptr. The text is the same text. `campi`
@@ -102,6 +105,7 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   void ApriDialogo(const std::string& contenuto) override { emit CodiceDaAprire(contenuto); }
   void ApriVariabile() override { emit VariabileDaInserire(); }
 
+  void ImpostaCarattere();
   bool Esclude(QEvent& evento) const;
   void SegnaCodiciAlCursore();
 
@@ -129,6 +133,7 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
 
   Documento& documento_;
   Sezione sezione_;
+  int ingrandimento_ = 0;
   ComandiSezione comandi_;
   txtSpecchio* specchio_ = nullptr;
   qtColori* colori_ = nullptr;

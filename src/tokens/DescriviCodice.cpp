@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include "catalogue/Catalogo.h"
 #include "common/NumeroLeniente.h"
@@ -21,7 +22,6 @@
 namespace parvik {
 namespace {
 
-constexpr std::string_view Separatore = " · ";
 constexpr std::int16_t Acceso = 1;
 
 /// As the style dialog calls them, in the order of `Stile`.
@@ -84,14 +84,20 @@ std::string Formato(const Variabile& formato) {
   return testo;
 }
 
-std::string DescriviVariabile(std::string_view contenuto, std::span<const Variabile> variabili) {
+/// What there is to say of a code; parts may be empty.
+struct Detto {
+  std::string Genere;  // with its number
+  std::string Nome = {};
+  std::string Resto = {};
+};
+
+Detto DescriviVariabile(std::string_view contenuto, std::span<const Variabile> variabili) {
   const VariabileLetta letta = LeggiVariabile(contenuto, variabili);
   // Number 0 is no variable: an empty slot of the table has it.
   const bool nota = letta.Voce && letta.Formato.Intero1 != 0;
-  std::string testo = "Variabile " + std::to_string(letta.Formato.Intero1);
-  Aggiungi(testo, Separatore, nota ? ParoleRifilate(letta.Formato.Descrizione) : "sconosciuta");
-  Aggiungi(testo, Separatore, Formato(letta.Formato));
-  return testo;
+  return {.Genere = "Variabile " + std::to_string(letta.Formato.Intero1),
+          .Nome = nota ? ParoleRifilate(letta.Formato.Descrizione) : "sconosciuta",
+          .Resto = Formato(letta.Formato)};
 }
 
 const Flag* TrovaFlag(std::span<const Flag> flag, double numero) {
@@ -102,44 +108,37 @@ const Flag* TrovaFlag(std::span<const Flag> flag, double numero) {
   return voce == flag.end() ? nullptr : &*voce;
 }
 
-std::string DescriviFlag(std::string_view contenuto, std::span<const Flag> flag) {
+Detto DescriviFlag(std::string_view contenuto, std::span<const Flag> flag) {
   const CodiceFlag letto = LeggiFlag(contenuto);
   const double numero = NumeroLeniente(letto.Numero);
   const Flag* voce = TrovaFlag(flag, numero);
   if (voce == nullptr) voce = TrovaFlag(CondPagina(), numero);
-  std::string testo = "Flag";
-  Aggiungi(testo, " ", voce == nullptr ? ParoleRifilate(letto.Numero) : std::to_string(voce->Codice));
-  Aggiungi(testo, Separatore, voce == nullptr ? "sconosciuto" : ParoleRifilate(voce->Descrizione));
-  if (letto.Interruttore != "N") Aggiungi(testo, Separatore, "variabili sostituite da spazi");
-  return testo;
+  Detto detto{.Genere = "Flag"};
+  Aggiungi(detto.Genere, " ", voce == nullptr ? ParoleRifilate(letto.Numero) : std::to_string(voce->Codice));
+  detto.Nome = voce == nullptr ? "sconosciuto" : ParoleRifilate(voce->Descrizione);
+  if (letto.Interruttore != "N") detto.Resto = "variabili sostituite da spazi";
+  return detto;
 }
 
-std::string DescriviStile(std::string_view contenuto) {
+Detto DescriviStile(std::string_view contenuto) {
   const std::optional<Stile> stile = StileDi(LeggiStile(contenuto));
-  std::string testo = "Stile";
-  Aggiungi(testo, Separatore, stile ? NomiStile[static_cast<std::size_t>(*stile)] : "sconosciuto");
-  return testo;
+  return {.Genere = "Stile",
+          .Nome = std::string(stile ? NomiStile[static_cast<std::size_t>(*stile)] : "sconosciuto")};
 }
 
-std::string DescriviLingua(std::string_view contenuto) {
+Detto DescriviLingua(std::string_view contenuto) {
   const CodiceLingua letto = LeggiLingua(contenuto);
-  std::string testo = "Lingua";
   const std::string voce = ParoleRifilate(letto.IndiceTabella);
-  if (!voce.empty()) Aggiungi(testo, Separatore, "voce " + voce);
-  Aggiungi(testo, Separatore, Caratteri(LunghezzaLeniente(letto.Lunghezza)));
-  return testo;
+  return {.Genere = "Lingua",
+          .Nome = voce.empty() ? std::string() : "voce " + voce,
+          .Resto = Caratteri(LunghezzaLeniente(letto.Lunghezza))};
 }
 
-std::string DescriviTesto(std::string_view genere, const std::string& ansi) {
-  std::string testo(genere);
-  Aggiungi(testo, Separatore, Parole(ansi));
-  return testo;
+Detto DescriviTesto(const char* genere, const std::string& ansi) {
+  return {.Genere = genere, .Nome = Parole(ansi)};
 }
 
-}  // namespace
-
-std::string DescriviCodice(std::string_view contenuto, std::span<const Variabile> variabili,
-                           std::span<const Flag> flag) {
+Detto Descrivi(std::string_view contenuto, std::span<const Variabile> variabili, std::span<const Flag> flag) {
   switch (Riconosci(contenuto)) {
     case TipoCodice::Variabile:
       return DescriviVariabile(contenuto, variabili);
@@ -156,7 +155,26 @@ std::string DescriviCodice(std::string_view contenuto, std::span<const Variabile
     case TipoCodice::Sconosciuto:
       break;
   }
-  return "Codice sconosciuto";
+  return {.Genere = "Codice sconosciuto"};
+}
+
+}  // namespace
+
+std::string DescriviCodice(std::string_view contenuto, std::span<const Variabile> variabili,
+                           std::span<const Flag> flag) {
+  constexpr std::string_view Separatore = " · ";
+  Detto detto = Descrivi(contenuto, variabili, flag);
+  Aggiungi(detto.Genere, Separatore, detto.Nome);
+  Aggiungi(detto.Genere, Separatore, detto.Resto);
+  return detto.Genere;
+}
+
+std::string DescriviInFrase(std::string_view contenuto, std::span<const Variabile> variabili,
+                            std::span<const Flag> flag) {
+  Detto detto = Descrivi(contenuto, variabili, flag);
+  Aggiungi(detto.Genere, " ", detto.Nome);
+  Aggiungi(detto.Genere, ", ", detto.Resto);
+  return detto.Genere;
 }
 
 }  // namespace parvik

@@ -17,4 +17,9 @@ namespace parvik {
 std::string DescriviCodice(std::string_view contenuto, std::span<const Variabile> variabili,
                            std::span<const Flag> flag);
 
+/// The same as one phrase, for example
+///     Variabile 25 Imponibile, 12 caratteri a destra, riempimento "*", 2 decimali, separatore migliaia
+std::string DescriviInFrase(std::string_view contenuto, std::span<const Variabile> variabili,
+                            std::span<const Flag> flag);
+
 }  // namespace parvik

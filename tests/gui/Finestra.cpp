@@ -24,16 +24,29 @@ void NelProssimoDialogo(const std::function<void(QDialog&)>& compito) {
   orologio->start();
 }
 
-Finestra::Finestra(Interlocutore* altro) {
-  Interlocutore& interlocutore = altro != nullptr ? *altro : persona_;
+Finestra::Finestra(Interlocutore* altro) : interlocutore_(altro != nullptr ? altro : &persona_) {
   std::filesystem::create_directories(Cartella() / "PARVIK");
   std::filesystem::copy(Esempio(), Cartella(), std::filesystem::copy_options::recursive);
   std::filesystem::create_symlink(prova::ModuloStampa(), ModuloStampa());
-  auto dati = Avvia({.DirProgramma = Cartella() / "PARVIK", .CartelleConfigurazione = {}}, interlocutore);
+  std::filesystem::create_directory(Configurazione());
+  Mostra();
+}
+
+void Finestra::Mostra() {
+  auto dati = Avvia({.DirProgramma = Cartella() / "PARVIK",
+                     .CartelleConfigurazione = {Configurazione(), ConfigurazioneDiTutti()},
+                     .CartellaUtente = Configurazione()},
+                    *interlocutore_);
   if (!dati) qFatal("the example installation does not start");
-  finestra_ = std::make_unique<frmParvik>(std::move(*dati), interlocutore);
+  finestra_ = std::make_unique<frmParvik>(std::move(*dati), *interlocutore_);
   finestra_->show();
   Attiva();
+}
+
+void Finestra::Riavvia() {
+  EXPECT_TRUE(finestra_->close());
+  finestra_.reset();
+  Mostra();
 }
 
 void Finestra::Attiva() {

@@ -57,6 +57,15 @@ class Finestra {
 
   /// Chooses a document type through the menu and the dialog, by its number.
   void Scegli(int numero);
+  /// The folder of the user's configuration files; nothing is in it at first.
+  std::filesystem::path Configurazione() const { return cartella_.Percorso() / "conf"; }
+  /// The settings file in it.
+  std::filesystem::path Impostazioni() const { return Configurazione() / "ordavia" / "parvik32.ini"; }
+  /// The folder of those for all users.
+  std::filesystem::path ConfigurazioneDiTutti() const { return cartella_.Percorso() / "xdg"; }
+  /// Closes the window, and opens another one with the same folders: the next session.
+  void Riavvia();
+
   /// Opens a template of the installation through the menu.
   void Apri(const char* nome);
 
@@ -65,9 +74,11 @@ class Finestra {
 
  private:
   explicit Finestra(Interlocutore* altro);
+  void Mostra();
 
   CartellaTemporanea cartella_;
   InterlocutoreScritto persona_;
+  Interlocutore* interlocutore_ = nullptr;
   std::unique_ptr<frmParvik> finestra_;
 };
 

@@ -103,6 +103,19 @@ Effetto MostraENasconde(const char* finestrella) {
   };
 }
 
+/// A part of the window that is there at first, by its objectName.
+Effetto NascondeEMostra(const char* parte) {
+  return [parte](Finestra& finestra, const char* nome) {
+    finestra.Scegli(1);
+    for (const bool visibile : {false, true}) {
+      EXPECT_NE(Trova<QWidget>(*finestra, parte)->isVisible(), visibile);
+      Scegli(finestra, nome);
+      EXPECT_EQ(Trova<QWidget>(*finestra, parte)->isVisible(), visibile);
+      EXPECT_EQ(finestra.Azione(nome).isChecked(), visibile);
+    }
+  };
+}
+
 /// The last change, typed here, is taken back, and done again.
 void AnnullaERipeti(Finestra& finestra, const char* nome) {
   const QString prima = finestra.Sezione(0).toPlainText();
@@ -151,15 +164,6 @@ void MostraRighello(Finestra& finestra, const char* nome) {
   EXPECT_FALSE(Trova<QWidget>(*finestra, "righelloAnte")->isVisible());
 }
 
-/// A switch that turns, and turns back.
-void Commuta(Finestra& finestra, const char* nome) {
-  const bool prima = finestra.Azione(nome).isChecked();
-  Scegli(finestra, nome);
-  EXPECT_NE(finestra.Azione(nome).isChecked(), prima);
-  Scegli(finestra, nome);
-  EXPECT_EQ(finestra.Azione(nome).isChecked(), prima);
-}
-
 /// What is typed shows in the preview, until it is turned off.
 void SegueDaSola(Finestra& finestra, const char* nome) {
   Scegli(finestra, nome);
@@ -182,6 +186,17 @@ void VaiNellAnteprima(Finestra& finestra, const char* nome) {
   QTest::keyClick(&finestra.Sezione(2), Qt::Key_Up);
   Scegli(finestra, nome);
   EXPECT_GT(finestra.Anteprima().verticalScrollBar()->value(), 100);
+}
+
+/// There is a settings file as long as it is checked.
+void Ricorda(Finestra& finestra, const char* nome) {
+  finestra.Scegli(1);
+  for (const bool acceso : {true, false}) {
+    EXPECT_NE(std::filesystem::exists(finestra.Impostazioni()), acceso);
+    Scegli(finestra, nome);
+    EXPECT_EQ(finestra.Azione(nome).isChecked(), acceso);
+    EXPECT_EQ(std::filesystem::exists(finestra.Impostazioni()), acceso);
+  }
 }
 
 struct Voce {
@@ -216,11 +231,10 @@ const std::vector<Voce>& Voci() {
       {"mnuAnteAuto", SegueDaSola},
       {"mnuMisura", MostraAMisura},
       {"mnuVaiAnte", VaiNellAnteprima},
-      {"mnuBarraStato", Commuta},
+      {"mnuBarraStato", NascondeEMostra("barStato")},
       {"mnuRighello", MostraRighello},
-      {"mnuFoglio", Commuta},
       {"mnuFlagVeri", MisuraConFlagVeri},
-      {"mnuRicorda", Commuta},
+      {"mnuRicorda", Ricorda},
   };
   return voci;
 }

@@ -266,5 +266,20 @@ TEST(RicAnteAppunti, TheMenuCopiesAndSelectsAllInTheToolkitsWords) {
   EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), "uno\ndue");
 }
 
+TEST(RicAnteVuota, SaysHowItIsFilledWithoutHavingThatAsItsText) {
+  ricAnte pannello(nullptr);
+  pannello.resize(400, 300);
+  const QImage vuota = pannello.grab().toImage();
+  EXPECT_TRUE(pannello.accessibleDescription().contains("Stampa"));
+  EXPECT_EQ(pannello.Contenuto().Testo(), "");
+  pannello.SelezionaTutto();
+  EXPECT_EQ(pannello.Selezionato().Lunghezza, 0U);
+  pannello.Mostra({.Testo = " ", .Tratti = {}});
+  EXPECT_EQ(pannello.accessibleDescription(), "");
+  EXPECT_NE(pannello.grab().toImage(), vuota) << "the hint is gone";
+  pannello.Mostra({});
+  EXPECT_EQ(pannello.grab().toImage(), vuota);
+}
+
 }  // namespace
 }  // namespace parvik

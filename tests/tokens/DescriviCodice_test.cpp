@@ -145,5 +145,16 @@ TEST(DescriviCodice, AFlagOfTheCatalogueGoesBeforeAPageConditionOfItsNumber) {
   EXPECT_EQ(DescriviCodice("F97N", {}, flag), "Flag 97 · Mia");
 }
 
+TEST(DescriviInFrase, SaysTheSameWithOtherSeparators) {
+  const auto frase = [](std::string_view contenuto) {
+    return DescriviInFrase(contenuto, VariabiliDiProva, FlagDiProva);
+  };
+  EXPECT_EQ(frase("V12;29L"), "Variabile 12 Cliente, 29 caratteri a sinistra");
+  EXPECT_EQ(frase("V9;1R"), "Variabile 9, 1 carattere a destra");
+  EXPECT_EQ(frase("F3N"), "Flag 3 Cliente estero");
+  EXPECT_EQ(frase("S;GRASSETTO"), "Stile Grassetto");
+  EXPECT_EQ(frase("xyz"), "Codice sconosciuto");
+}
+
 }  // namespace
 }  // namespace parvik

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 namespace parvik {
 namespace {
@@ -16,15 +17,17 @@ std::string Variabile(const char* nome) {
 
 }  // namespace
 
+fs::path CartellaConfigurazioneUtente() {
+  const std::string casa = Variabile("XDG_CONFIG_HOME");
+  if (!casa.empty()) return casa;
+  const std::string utente = Variabile("HOME");
+  return utente.empty() ? fs::path() : fs::path(utente) / ".config";
+}
+
 std::vector<fs::path> CartelleConfigurazione() {
   std::vector<fs::path> cartelle;
-  const std::string casa = Variabile("XDG_CONFIG_HOME");
-  const std::string utente = Variabile("HOME");
-  if (!casa.empty()) {
-    cartelle.emplace_back(casa);
-  } else if (!utente.empty()) {
-    cartelle.push_back(fs::path(utente) / ".config");
-  }
+  if (fs::path utente = CartellaConfigurazioneUtente(); !utente.empty())
+    cartelle.push_back(std::move(utente));
   std::string altre = Variabile("XDG_CONFIG_DIRS");
   if (altre.empty()) altre = "/etc/xdg";
   for (std::size_t inizio = 0; inizio <= altre.size();) {

@@ -1,0 +1,101 @@
+#include "app/barStato.h"
+
+#include <QEvent>
+#include <algorithm>
+#include <numeric>
+
+#include "common/qtTesto.h"
+
+namespace parvik {
+namespace {
+
+constexpr int Margine = 4;  // pixels, at both ends
+constexpr int Spazio = 16;  // pixels, between two fields
+
+/// A field as wide as this text, whatever it says: the others do not move while the caret does. Without a
+/// text it takes a part of what is left.
+struct Campo {
+  const char* Nome;
+  Qt::TextElideMode Taglio;
+  const char* Modello;
+};
+
+constexpr std::array<Campo, 6> Campi = {{{"lblSezione", Qt::ElideRight, "Testata: riga 9999, col. 999"},
+                                         {"lblColCarta", Qt::ElideRight, "Stampa: col. 9999"},
+                                         {"lblCodice", Qt::ElideRight, nullptr},
+                                         {"lblPercorso", Qt::ElideMiddle, nullptr},
+                                         {"lblAggiornata", Qt::ElideRight, "Anteprima non aggiornata"},
+                                         {"lblPagine", Qt::ElideRight, "99999 righe + fine"}}};
+
+}  // namespace
+
+barStato::barStato(QWidget* padre) : QStatusBar(padre) {
+  setObjectName("barStato");
+  setAccessibleName("Barra di stato");
+  setSizeGripEnabled(false);
+  for (std::size_t i = 0; i < NumCampi; ++i) campi_[i] = new lblBarra(Campi[i].Nome, Campi[i].Taglio, this);
+  Misura();
+}
+
+void barStato::Mostra(const TestiBarra& testi) {
+  const std::array<const std::string*, NumCampi> ordine = {&testi.Sezione,  &testi.ColCarta,   &testi.Codice,
+                                                           &testi.Percorso, &testi.Aggiornata, &testi.Pagine};
+  bool daDisporre = false;
+  for (std::size_t i = 0; i < NumCampi; ++i) {
+    const qsizetype prima = campi_[i]->text().size();
+    campi_[i]->Scrivi(DaUtf8(*ordine[i]));
+    daDisporre |= Allarga(i) || (prima == 0) != campi_[i]->text().isEmpty();
+  }
+  if (daDisporre) Disponi();
+}
+
+/// A field whose text is longer than any before it. It stays so.
+bool barStato::Allarga(std::size_t i) {
+  const QString testo = campi_[i]->text();
+  if (Campi[i].Modello == nullptr || testo.size() <= lunghezze_[i]) return false;
+  lunghezze_[i] = testo.size();
+  larghezze_[i] = std::max(larghezze_[i], fontMetrics().horizontalAdvance(testo));
+  return true;
+}
+
+void barStato::Misura() {
+  const QFontMetrics misure = fontMetrics();
+  for (std::size_t i = 0; i < NumCampi; ++i) {
+    const QString modello = Campi[i].Modello;
+    lunghezze_[i] = modello.size();
+    larghezze_[i] = misure.horizontalAdvance(modello);
+    Allarga(i);
+  }
+  setFixedHeight(misure.height() + 2 * Margine);
+  Disponi();
+}
+
+/// Fields without a text take no room. Where there is little, each field gets less: none is lost.
+void barStato::Disponi() {
+  std::array<int, NumCampi> larghezze = larghezze_;
+  for (std::size_t i = 0; i < NumCampi; ++i)
+    if (campi_[i]->text().isEmpty()) larghezze[i] = 0;
+  const int tutta = std::max(width() - 2 * Margine - static_cast<int>(NumCampi - 1) * Spazio, 0);
+  const int fissa = std::accumulate(larghezze.begin(), larghezze.end(), 0);
+  const int libera = std::max(tutta - fissa, tutta / 4);
+  const double scala = fissa > 0 ? std::min(1.0, static_cast<double>(tutta - libera) / fissa) : 1;
+  int x = Margine;
+  for (std::size_t i = 0; i < NumCampi; ++i) {
+    const bool divide = Campi[i].Modello == nullptr;
+    const int larghezza = divide ? libera / 2 : static_cast<int>(larghezze[i] * scala);
+    campi_[i]->Poni({x, 0, larghezza, height()});
+    x += larghezza + (larghezza > 0 ? Spazio : 0);
+  }
+}
+
+void barStato::changeEvent(QEvent* evento) {
+  QStatusBar::changeEvent(evento);
+  if (evento->type() == QEvent::FontChange || evento->type() == QEvent::StyleChange) Misura();
+}
+
+void barStato::resizeEvent(QResizeEvent* evento) {
+  QStatusBar::resizeEvent(evento);
+  Disponi();
+}
+
+}  // namespace parvik

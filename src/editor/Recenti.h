@@ -1,0 +1,38 @@
+// The templates that were last worked on, with their document types (docs/impostazioni.md).
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+namespace parvik {
+
+struct ModelloRecente {
+  std::filesystem::path File;  // whole
+  int Tipo = 0;                // the document type's number
+
+  bool operator==(const ModelloRecente&) const = default;
+};
+
+class Recenti {
+ public:
+  static constexpr std::size_t Massimo = 10;
+
+  /// The last one first.
+  const std::vector<ModelloRecente>& Voci() const { return voci_; }
+
+  /// To the front; a file stands there once, under the type that it was last opened with.
+  void Aggiungi(const ModelloRecente& modello);
+  /// The same at the end, where there is still room.
+  void Accoda(const ModelloRecente& modello);
+  /// Leaves out those that are not there any more.
+  void TogliSpariti(const std::function<bool(const std::filesystem::path&)>& esiste);
+
+  bool operator==(const Recenti&) const = default;
+
+ private:
+  std::vector<ModelloRecente> voci_;
+};
+
+}  // namespace parvik

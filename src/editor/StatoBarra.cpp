@@ -1,0 +1,76 @@
+#include "editor/StatoBarra.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <string_view>
+#include <vector>
+
+#include "common/TestoMostrabile.h"
+#include "template/TastiSezione.h"
+
+namespace parvik {
+namespace {
+
+constexpr std::array<std::string_view, MaxSezioni> NomiSezione = {"Testata", "Corpo", "Piede"};
+
+std::string Quanti(std::size_t numero, std::string_view uno, std::string_view tanti) {
+  return std::to_string(numero) + " " + std::string(numero == 1 ? uno : tanti);
+}
+
+std::string Posto(const TestoSezione& testo, const CursoreSezione& dove) {
+  const RigaColonna posto = testo.RigaColonnaDi(dove.Dentro.Posto);
+  return std::string(NomiSezione[Indice(dove.Dove)]) + ": riga " + std::to_string(posto.Riga + 1) +
+         ", col. " + std::to_string(posto.Colonna + 1);
+}
+
+/// A line end is one character.
+std::string Scelti(const TestoSezione& testo, const Selezione& scelta) {
+  const std::size_t finiRiga = testo.RigaDi(scelta.Fine()) - testo.RigaDi(scelta.Inizio);
+  return Quanti(scelta.Lunghezza - finiRiga, "carattere selezionato", "caratteri selezionati");
+}
+
+std::string Percorso(const std::filesystem::path& file) {
+  if (file.empty()) return {};
+  std::error_code errore;
+  const std::filesystem::path intero = std::filesystem::absolute(file, errore);
+  return Mostrabile((errore ? file : intero).string());
+}
+
+std::string Righe(const CorsaMostrata& corsa) {
+  return Quanti(corsa.Righe, "riga", "righe") + (corsa.Fine ? " + fine" : "");
+}
+
+}  // namespace
+
+std::optional<CorsaMostrata> CorsaDi(const TestoAnteprima& mostrato) {
+  if (mostrato.Testo().empty()) return std::nullopt;
+  const bool fine = mostrato.Testo().ends_with(FineAnteprima);
+  const std::size_t altre = fine ? 2 : 1;  // the end marker and the empty line in front of it
+  return CorsaMostrata{.Righe = mostrato.NumRighe() - std::min(altre, mostrato.NumRighe()), .Fine = fine};
+}
+
+std::optional<Selezione> CodiceDaDire(const TestoSezione& testo, std::size_t cursore) {
+  const std::vector<Selezione> toccati = CodiciAlCursore(testo, cursore);
+  if (toccati.empty()) return std::nullopt;
+  return toccati.back();
+}
+
+std::string ContenutoDi(const TestoSezione& testo, const Selezione& codice) {
+  return testo.Byte({.Inizio = codice.Inizio + 1, .Lunghezza = codice.Lunghezza - 2});
+}
+
+TestiBarra PerBarra(const DatiBarra& dati) {
+  const TestoSezione& testo = dati.Modello.Testo(dati.Dove.Dove);
+  const Selezione scelta = dati.Dove.Dentro.Selezionato();
+  TestiBarra barra;
+  barra.Sezione = Posto(testo, dati.Dove);
+  if (dati.ColonnaCarta) barra.ColCarta = "Stampa: col. " + std::to_string(*dati.ColonnaCarta);
+  barra.Codice = scelta.Lunghezza > 0 ? Scelti(testo, scelta) : dati.Codice;
+  barra.Percorso = Percorso(dati.Modello.Stato().NomeFile);
+  if (dati.Corsa) barra.Pagine = Righe(*dati.Corsa);
+  if (dati.Corsa && !dati.Aggiornata) barra.Aggiornata = "Anteprima non aggiornata";
+  return barra;
+}
+
+}  // namespace parvik
