@@ -20,9 +20,9 @@ found=$(grep -lP '\r| +$' docs/*.md || true)
 [ -z "$found" ] || complain "carriage return or trailing blank in: $found"
 
 # Windows are the files named frm* (forms), qt* (what else knows Qt), those named after their control, and main.
-core=$(echo "$files" | grep '^src/' | grep -vE '/((frm|qt|txt|lbl|ric|bar|pnl)[A-Z][A-Za-z]*|righello)\.(h|cpp)$|^src/app/main\.cpp$')
+core=$(echo "$files" | grep '^src/' | grep -vE '/((frm|qt|txt|lbl|ric|bar|pnl|presa)[A-Z][A-Za-z]*|righello)\.(h|cpp)$|^src/app/main\.cpp$')
 # shellcheck disable=SC2086
-found=$(grep -lE '#include [<"](Q[A-Z]|frm|ui_|[a-z]+/((frm|qt|txt|lbl|ric|bar|pnl)[A-Z]|righello))' $core || true)
+found=$(grep -lE '#include [<"](Q[A-Z]|frm|ui_|[a-z]+/((frm|qt|txt|lbl|ric|bar|pnl|presa)[A-Z]|righello))' $core || true)
 [ -z "$found" ] || complain "Qt or a window included in the core: $found"
 
 # The system is in one room, behind headers that name none: outside it the C++ library is enough,

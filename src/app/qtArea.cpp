@@ -1,5 +1,7 @@
 #include "app/qtArea.h"
 
+#include <QKeySequence>
+#include <QShortcut>
 #include <cmath>
 
 #include "app/qtDivisore.h"
@@ -10,6 +12,7 @@ namespace parvik {
 namespace {
 
 constexpr int SinistraEtichette = 4;  // pixels
+constexpr int PassoDivisore = 16;     // pixels, of a key
 
 int InTwip(int pixel) {
   return pixel * TwipPerPixel;
@@ -40,6 +43,8 @@ qtArea::qtArea(Documento& documento, QWidget* padre) : QWidget(padre) {
   pannello_ = new ricAnte(this);
   lblRighe_ = new lblRighe(*pannello_, this);
   lblRighe_->stackUnder(pannello_);  // it is read first
+  presa_ = new presaAnte(this);
+  presa_->stackUnder(lblRighe_);
   CreaDivisore();
 }
 
@@ -48,6 +53,17 @@ void qtArea::CreaDivisore() {
   for (txtTCP* sezione : sezioni_) divisore->Osserva(sezione);
   for (lblTCP* etichetta : etichette_) divisore->Osserva(etichetta);
   connect(divisore, &qtDivisore::Spostato, this, &qtArea::SpostaDivisore);
+  connect(presa_, &presaAnte::Spostata, this, &qtArea::SpostaDivisore);
+  CreaTasto(Qt::Key_Left, -PassoDivisore);
+  CreaTasto(Qt::Key_Right, PassoDivisore);
+}
+
+/// A key that moves the boundary, from anywhere in the window.
+void qtArea::CreaTasto(Qt::Key tasto, int passo) {
+  auto* scorciatoia = new QShortcut(QKeySequence(Qt::ALT | Qt::SHIFT | tasto), this);
+  connect(scorciatoia, &QShortcut::activated, this, [this, passo] {
+    if (stato_.NumSezioni && stato_.Anteprima) SpostaDivisore(pannello_->x() + passo);
+  });
 }
 
 void qtArea::Mostra(const StatoArea& stato) {
@@ -118,6 +134,7 @@ void qtArea::ResizeControls() {
     if (posti.Etichette[i]) etichette_[i]->move(InPixel(*posti.Etichette[i]).topLeft());
   }
   Colloca(*lblRighe_, posti.StatoAnteprima);
+  Colloca(*presa_, posti.Presa);
   Colloca(*pannello_, posti.Anteprima);
 }
 

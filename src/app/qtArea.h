@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "app/lblTCP.h"
+#include "app/presaAnte.h"
 #include "common/Sezione.h"
 #include "editor/Disposizione.h"
 #include "output/lblRighe.h"
@@ -43,6 +44,7 @@ class qtArea final : public QWidget {
  private:
   void CreaDivisore();
   void SpostaDivisore(int x);
+  void CreaTasto(Qt::Key tasto, int passo);
   Finestra Misure() const;
   Disposizione Posti();
   void MisuraEtichette();
@@ -52,6 +54,7 @@ class qtArea final : public QWidget {
   std::array<txtTCP*, MaxSezioni> sezioni_ = {};
   ricAnte* pannello_ = nullptr;
   lblRighe* lblRighe_ = nullptr;
+  presaAnte* presa_ = nullptr;
   StatoArea stato_;
   std::optional<int> divisore_;  // in twips; where the user has dragged the boundary since the last resize
   QSize finestra_;               // the size that the window had then

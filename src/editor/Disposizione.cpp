@@ -30,7 +30,7 @@ int DestraAnteprima(const Finestra& finestra) {
 
 std::optional<int> DivisoreAmmesso(const Finestra& finestra, int divisore) {
   const int minima = std::min(LarghezzaMinima, finestra.Larghezza / 4);
-  const int primo = finestra.SinistraSezioni + minima;
+  const int primo = finestra.SinistraSezioni + minima + LarghezzaPresa;
   const int ultimo = finestra.Larghezza - minima;
   if (primo > ultimo) return std::nullopt;
   return std::clamp(divisore, primo, ultimo);
@@ -40,7 +40,8 @@ Disposizione Disponi(const Finestra& finestra) {
   Disposizione disposizione;
   const int sinistra = finestra.SinistraSezioni;
   int larghezza = LarghezzaColonna(finestra);
-  if (finestra.Anteprima && finestra.Divisore) larghezza = *finestra.Divisore - sinistra;
+  if (finestra.Anteprima && finestra.Divisore)
+    larghezza = std::max(0, *finestra.Divisore - LarghezzaPresa - sinistra);
   if (finestra.TreSezioni) {
     const int altezza = Dividi(finestra.Altezza, static_cast<int>(MaxSezioni));
     for (std::size_t i = 0; i < MaxSezioni; ++i) {
@@ -52,11 +53,13 @@ Disposizione Disponi(const Finestra& finestra) {
     disposizione.Sezioni[0] = Rettangolo{sinistra, 0, larghezza, finestra.Altezza};
   }
   if (finestra.Anteprima) {
-    const int divisore = sinistra + larghezza;
-    const int resto = DestraAnteprima(finestra) - divisore;
-    disposizione.StatoAnteprima = Rettangolo{divisore, 0, resto, AltezzaStato};
-    disposizione.Anteprima =
-        Rettangolo{divisore, AltezzaStato, resto, std::max(0, finestra.Altezza - AltezzaStato)};
+    const int confine = sinistra + larghezza;
+    const int resto = DestraAnteprima(finestra) - confine;
+    const int presa = std::min(LarghezzaPresa, resto);
+    const int altezza = std::max(0, finestra.Altezza - AltezzaStato);
+    disposizione.StatoAnteprima = Rettangolo{confine, 0, resto, AltezzaStato};
+    disposizione.Presa = Rettangolo{confine, AltezzaStato, presa, altezza};
+    disposizione.Anteprima = Rettangolo{confine + presa, AltezzaStato, resto - presa, altezza};
   }
   return disposizione;
 }

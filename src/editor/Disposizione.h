@@ -28,12 +28,14 @@ struct Finestra {
   int SinistraEtichette = 0;  // left edge of the labels, as designed
   bool TreSezioni = false;
   bool Anteprima = false;
-  /// Where the user has put the boundary between sections and preview; in the middle by itself.
+  /// Where the user has put the pane's left edge; by itself the sections have half of the window.
   std::optional<int> Divisore = std::nullopt;
 };
 
-/// The nearest place where the boundary may stand: both columns keep 120 pixels, or a quarter of the window's
-/// width where that is less. nullopt in a window too narrow even for that.
+inline constexpr int LarghezzaPresa = 5 * TwipPerPixel;
+
+/// The nearest place where the pane's left edge may stand: both columns keep 120 pixels, or a quarter of the
+/// window's width where that is less. nullopt in a window too narrow even for that.
 std::optional<int> DivisoreAmmesso(const Finestra& finestra, int divisore);
 
 /// What the window has to show.
@@ -50,6 +52,7 @@ struct Disposizione {
   /// Left and top; the labels keep the size that they were designed with.
   std::array<std::optional<Rettangolo>, MaxSezioni> Etichette;
   std::optional<Rettangolo> StatoAnteprima;  // lblRighe
+  std::optional<Rettangolo> Presa;           // presaAnte, left of the pane
   std::optional<Rettangolo> Anteprima;       // ricAnte
 
   bool operator==(const Disposizione&) const = default;

@@ -140,17 +140,19 @@ std::optional<Selezione> txtMisura::CampoDopo(std::size_t byte) const {
   const TestoSezione& testo = specchio_.Testo();
   if (byte >= testo.Dimensione()) return std::nullopt;
   const RigaColonna posto = testo.RigaColonnaDi(byte);
-  for (const PezzoMisurato& pezzo : campi_.Riga(sezione_, posto.Riga).Pezzi)
+  for (const PezzoMisurato& pezzo : campi_.Riga(sezione_, posto.Riga).Pezzi) {
     if (pezzo.Codice && pezzo.Parte.Inizio == posto.Colonna)
       return Selezione{.Inizio = byte, .Lunghezza = pezzo.Parte.Lunghezza};
+  }
   return std::nullopt;
 }
 
 std::optional<Selezione> txtMisura::CampoDavanti(std::size_t byte) const {
   const RigaColonna posto = specchio_.Testo().RigaColonnaDi(byte);
-  for (const PezzoMisurato& pezzo : campi_.Riga(sezione_, posto.Riga).Pezzi)
+  for (const PezzoMisurato& pezzo : campi_.Riga(sezione_, posto.Riga).Pezzi) {
     if (pezzo.Codice && pezzo.Parte.Fine() == posto.Colonna)
       return Selezione{.Inizio = byte - pezzo.Parte.Lunghezza, .Lunghezza = pezzo.Parte.Lunghezza};
+  }
   return std::nullopt;
 }
 

@@ -93,7 +93,7 @@ class Disegnatore {
       taglia(static_cast<std::size_t>(disposta_.preeditAreaPosition()));
     for (const QTextLayout::FormatRange& colorato : disposta_.formats()) {
       taglia(static_cast<std::size_t>(colorato.start));
-      taglia(static_cast<std::size_t>(colorato.start + colorato.length));
+      taglia(static_cast<std::size_t>(colorato.start) + static_cast<std::size_t>(colorato.length));
     }
     tagli.push_back(parte.Fine());
     std::ranges::sort(tagli);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <ostream>
@@ -45,7 +46,8 @@ TEST(Disponi, GivesTheLeftHalfToASingleSectionAndTheRightOneToThePreview) {
   const Disposizione d = Disponi(finestra);
   EXPECT_EQ((Rettangolo{375, 0, 4500, 6001}), d.Sezioni[0]);
   EXPECT_EQ((Rettangolo{4875, 0, 4500, 255}), d.StatoAnteprima);
-  EXPECT_EQ((Rettangolo{4875, 255, 4500, 5746}), d.Anteprima);
+  EXPECT_EQ((Rettangolo{4875, 255, 75, 5746}), d.Presa);
+  EXPECT_EQ((Rettangolo{4950, 255, 4425, 5746}), d.Anteprima);
 }
 
 TEST(Disponi, StacksThreeSectionsOneTwipApartWithTheirLabelsBesideThem) {
@@ -90,7 +92,9 @@ TEST(Disponi, RoundsHalfOfTheWidthToTheEvenNumber) {
     const Disposizione d = Disponi(finestra);
     for (const auto& sezione : d.Sezioni) EXPECT_EQ(caso.Meta, sezione->Larghezza) << caso.Larghezza;
     EXPECT_EQ((Rettangolo{375 + caso.Meta, 0, caso.Meta, 255}), d.StatoAnteprima);
-    EXPECT_EQ((Rettangolo{375 + caso.Meta, 255, caso.Meta, 5745}), d.Anteprima);
+    const int presa = std::min(75, caso.Meta);
+    EXPECT_EQ((Rettangolo{375 + caso.Meta, 255, presa, 5745}), d.Presa);
+    EXPECT_EQ((Rettangolo{375 + caso.Meta + presa, 255, caso.Meta - presa, 5745}), d.Anteprima);
   }
 }
 
@@ -123,11 +127,11 @@ TEST(Disponi, ADraggedBoundaryMovesBothColumnsAndLeavesThePreviewsRightEdge) {
   finestra.TreSezioni = true;
   finestra.Divisore = 3000;
   const Disposizione d = Disponi(finestra);
-  EXPECT_EQ((Rettangolo{375, 0, 2625, 2000}), d.Sezioni[0]);
-  EXPECT_EQ((Rettangolo{375, 2001, 2625, 2000}), d.Sezioni[1]);
-  EXPECT_EQ((Rettangolo{375, 4002, 2625, 2000}), d.Sezioni[2]);
+  EXPECT_EQ((Rettangolo{375, 0, 2550, 2000}), d.Sezioni[0]);
+  EXPECT_EQ((Rettangolo{375, 2001, 2550, 2000}), d.Sezioni[1]);
+  EXPECT_EQ((Rettangolo{375, 4002, 2550, 2000}), d.Sezioni[2]);
   EXPECT_EQ((Rettangolo{60, 2001, 0, 0}), d.Etichette[1]);
-  EXPECT_EQ((Rettangolo{3000, 0, 6375, 255}), d.StatoAnteprima);
+  EXPECT_EQ((Rettangolo{2925, 0, 6450, 255}), d.StatoAnteprima);
   EXPECT_EQ((Rettangolo{3000, 255, 6375, 5745}), d.Anteprima);
 }
 
@@ -154,22 +158,22 @@ TEST(StatoArea, HasNoSectionWithoutATypeOneByItselfAndThreeWithExactlyThree) {
 
 TEST(DivisoreAmmesso, LeavesEachColumnAHundredAndTwentyPixels) {
   const Finestra finestra = ConAnteprima(15375);
-  for (const int posto : {375 + 1800, 7000, 15375 - 1800}) EXPECT_EQ(DivisoreAmmesso(finestra, posto), posto);
-  for (const int posto : {375 + 1799, 0, -90'000}) EXPECT_EQ(DivisoreAmmesso(finestra, posto), 375 + 1800);
+  for (const int posto : {450 + 1800, 7000, 15375 - 1800}) EXPECT_EQ(DivisoreAmmesso(finestra, posto), posto);
+  for (const int posto : {450 + 1799, 0, -90'000}) EXPECT_EQ(DivisoreAmmesso(finestra, posto), 450 + 1800);
   for (const int posto : {15375 - 1799, 90'000}) EXPECT_EQ(DivisoreAmmesso(finestra, posto), 15375 - 1800);
 }
 
 TEST(DivisoreAmmesso, LeavesEachColumnAQuarterOfANarrowWindow) {
   const Finestra finestra = ConAnteprima(4000);
-  EXPECT_EQ(DivisoreAmmesso(finestra, 375 + 999), 375 + 1000);
-  EXPECT_EQ(DivisoreAmmesso(finestra, 375 + 1000), 375 + 1000);
+  EXPECT_EQ(DivisoreAmmesso(finestra, 450 + 999), 450 + 1000);
+  EXPECT_EQ(DivisoreAmmesso(finestra, 450 + 1000), 450 + 1000);
   EXPECT_EQ(DivisoreAmmesso(finestra, 4000 - 1000), 4000 - 1000);
   EXPECT_EQ(DivisoreAmmesso(finestra, 4000 - 999), 4000 - 1000);
 }
 
 TEST(DivisoreAmmesso, IsNowhereInAWindowThatHoldsNoTwoSuchColumns) {
-  EXPECT_EQ(DivisoreAmmesso(ConAnteprima(750), 562), 562);
-  EXPECT_EQ(DivisoreAmmesso(ConAnteprima(740), 560), std::nullopt);
+  EXPECT_EQ(DivisoreAmmesso(ConAnteprima(900), 675), 675);
+  EXPECT_EQ(DivisoreAmmesso(ConAnteprima(890), 667), std::nullopt);
 }
 
 }  // namespace

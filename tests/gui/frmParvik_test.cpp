@@ -110,7 +110,7 @@ TEST(FrmParvik, TheLayoutFollowsTheWindow) {
     EXPECT_NEAR(testata.height(), area.height() / 3.0, 1);
     EXPECT_NEAR(finestra.Sezione(1).y(), testata.bottom() + 1, 1);
     EXPECT_NEAR(finestra.Sezione(2).geometry().bottom() + 1, area.height(), 1);
-    EXPECT_EQ(finestra.Anteprima().x(), testata.right() + 1);
+    EXPECT_EQ(finestra.Anteprima().x(), testata.right() + 1 + 5);  // behind the grip
     EXPECT_EQ(finestra.Anteprima().y(), 17);
     EXPECT_NEAR(finestra.Anteprima().geometry().right() + 1, area.width(), 1);
     EXPECT_EQ(finestra.Anteprima().geometry().bottom() + 1, area.height());

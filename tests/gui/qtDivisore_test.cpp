@@ -25,7 +25,7 @@ TEST_F(QtDivisore, ThePointerDoesNotSizeOnThePanesTopRow) {
 
 TEST_F(QtDivisore, MovingOverASectionWithTheButtonUpRestoresThePointer) {
   Muovi({Bordo(), 200});
-  Muovi({Bordo() - 5, 100});
+  Muovi({Bordo() - 6, 100});  // in front of the grip
   EXPECT_EQ(Puntatore(), std::nullopt);
 }
 
@@ -52,7 +52,7 @@ TEST_F(QtDivisore, DraggingOverThePaneMovesItsLeftEdgeAndKeepsTheRightOne) {
   Afferra();
   Muovi({prima.x() + 90, 300}, Qt::LeftButton);
   EXPECT_EQ(Pannello().geometry(), prima.adjusted(90, 0, 0, 0));
-  for (int i = 0; i < 3; ++i) EXPECT_EQ(finestra_.Sezione(i).geometry().right() + 1, prima.x() + 90) << i;
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(finestra_.Sezione(i).geometry().right() + 1 + 5, prima.x() + 90) << i;
   EXPECT_EQ(Testata().geometry(), testata.adjusted(0, 0, 90, 0));
   EXPECT_EQ(Puntatore(), Qt::SizeHorCursor);
 }
@@ -92,10 +92,11 @@ TEST_F(QtDivisore, NeitherColumnCanVanish) {
   const int sinistra = Testata().x();
   const int destra = Pannello().geometry().right() + 1;
   Afferra();
-  Muovi({sinistra + 120, 100}, Qt::LeftButton);
-  EXPECT_EQ(Pannello().x(), sinistra + 120);
-  Muovi({sinistra + 119, 100}, Qt::LeftButton);
-  EXPECT_EQ(Pannello().x(), sinistra + 120);
+  Muovi({sinistra + 125, 100}, Qt::LeftButton);
+  EXPECT_EQ(Pannello().x(), sinistra + 125);
+  EXPECT_EQ(Testata().width(), 120);  // the grip has the rest
+  Muovi({sinistra + 124, 100}, Qt::LeftButton);
+  EXPECT_EQ(Pannello().x(), sinistra + 125);
   Muovi({destra - 120, 100}, Qt::LeftButton);
   EXPECT_EQ(Pannello().x(), destra - 120);
   Muovi({destra - 119, 100}, Qt::LeftButton);
@@ -107,7 +108,7 @@ TEST_F(QtDivisore, AMoveFarBeyondStopsAtTheBound) {
   const int destra = Pannello().geometry().right() + 1;
   Afferra();
   Manda(QEvent::MouseMove, {-300, 100}, Qt::NoButton, Qt::LeftButton, Pannello());  // which has the mouse
-  EXPECT_EQ(Pannello().x(), sinistra + 120);
+  EXPECT_EQ(Pannello().x(), sinistra + 125);
   Manda(QEvent::MouseButtonRelease, {-300, 100}, Qt::LeftButton, Qt::NoButton, Pannello());
   Afferra();
   Manda(QEvent::MouseMove, {destra + 400, 300}, Qt::NoButton, Qt::LeftButton, Pannello());
