@@ -70,29 +70,38 @@ void righello::paintEvent(QPaintEvent* /*evento*/) {
   QPainter pittore(this);
   const GrigliaColonne griglia = griglia_();
   pittore.fillRect(rect(), palette().color(QPalette::Window));
+  DisegnaColonne(pittore, griglia, palette().color(QPalette::WindowText));
   const qreal cursore = std::round((griglia.Cursore - griglia.Origine) / griglia.Cella);
   const QRectF qui(griglia.Origine + cursore * griglia.Cella, 0, std::max(griglia.Cella, 2.0), height());
   pittore.fillRect(qui, palette().color(QPalette::Highlight));
-  const auto prima =
-      static_cast<int>(std::max(0.0, -griglia.Origine / griglia.Cella)) / OgniSegno * OgniSegno;
-  for (int colonna = std::max(prima, OgniSegno);; colonna += OgniSegno) {
-    const qreal sinistra = griglia.Origine + (colonna - 1) * griglia.Cella;
-    if (sinistra > width()) break;
-    const bool numero = colonna % OgniNumero == 0;
-    pittore.setPen(
-        palette().color(qui.left() == sinistra ? QPalette::HighlightedText : QPalette::WindowText));
-    const QRectF posto(sinistra - OgniSegno * griglia.Cella, 0, griglia.Cella + 2 * OgniSegno * griglia.Cella,
-                       height());
-    if (numero) pittore.drawText(posto, Qt::AlignCenter, QString::number(colonna));
-    const qreal x = std::floor(sinistra + griglia.Cella / 2) + 0.5;
-    if (!numero) pittore.drawLine(QPointF(x, height() / 2.0), QPointF(x, height() - 1));
-  }
+  pittore.setClipRect(qui);  // what stands there once more, to be read on the highlight
+  DisegnaColonne(pittore, griglia, palette().color(QPalette::HighlightedText));
+  pittore.setClipping(false);
   pittore.setPen(palette().color(QPalette::WindowText));
   for (const std::size_t colonna : guide_) {
     const qreal x = std::floor(griglia.Origine + static_cast<qreal>(colonna) * griglia.Cella) + 0.5;
     pittore.drawLine(QPointF(x, 0), QPointF(x, height()));
   }
   pittore.drawLine(0, height() - 1, width(), height() - 1);
+}
+
+/// Numbers and marks, each in the middle of its column.
+void righello::DisegnaColonne(QPainter& pittore, const GrigliaColonne& griglia, const QColor& colore) const {
+  pittore.setPen(colore);
+  const auto prima =
+      static_cast<int>(std::max(0.0, -griglia.Origine / griglia.Cella)) / OgniSegno * OgniSegno;
+  for (int colonna = std::max(prima, OgniSegno);; colonna += OgniSegno) {
+    const qreal centro = griglia.Origine + (colonna - 0.5) * griglia.Cella;
+    if (centro > width() + OgniSegno * griglia.Cella) return;
+    if (colonna % OgniNumero == 0) {
+      const qreal meta = OgniSegno * griglia.Cella;
+      pittore.drawText(QRectF(centro - meta, 0, 2 * meta, height()), Qt::AlignCenter,
+                       QString::number(colonna));
+    } else {
+      const qreal x = std::floor(centro) + 0.5;
+      pittore.drawLine(QPointF(x, height() / 2.0), QPointF(x, height() - 1));
+    }
+  }
 }
 
 void righello::mousePressEvent(QMouseEvent* evento) {

@@ -46,6 +46,7 @@ class righello final : public QWidget {
 
  private:
   void Colloca();
+  void DisegnaColonne(QPainter& pittore, const GrigliaColonne& griglia, const QColor& colore) const;
 
   QAbstractScrollArea& scatola_;
   Griglia griglia_;

@@ -48,7 +48,8 @@ void DisegnaSegni(QPainter& pittore, const std::vector<SegnoCodice>& segni, qrea
   for (std::size_t i = 0; i < segni.size();) {
     std::size_t fine = i;
     while (fine < segni.size() && segni[fine].X == segni[i].X) ++fine;
-    const qreal inizio = segni[i].X - passo * static_cast<qreal>(fine - i - 1) / 2;
+    qreal inizio = segni[i].X - passo * static_cast<qreal>(fine - i - 1) / 2;
+    if (segni[i].X >= 0) inizio = std::max(inizio, passo / 2);  // whole, at the left edge too
     for (std::size_t quale = i; quale < fine; ++quale)
       Disegna(pittore, segni[quale], inizio + passo * static_cast<qreal>(quale - i), alto, altezza);
     i = fine;
