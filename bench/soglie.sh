@@ -25,7 +25,7 @@ lavori() {
 read parvik::bench::Misurata* build/release/bench/bench_conta read
 write parvik::bench::Misurata* build/release/bench/bench_conta write
 render parvik::bench::Misurata* build/release/bench/bench_conta render
-key *::Prova::Premi* build/release/bench/finestre/bench_tasti editor
+key *::Battitura::Premi* build/release/bench/finestre/bench_tasti editor
 LAVORI
 }
 

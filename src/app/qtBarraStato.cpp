@@ -8,7 +8,7 @@ namespace {
 
 /// From one time that it is written to the next, in milliseconds: while keys come fast the eye follows no
 /// more, and they shall not wait for it.
-constexpr qint64 TraScritture = 80;
+constexpr qint64 TraScritture = 200;
 
 }  // namespace
 

@@ -118,6 +118,7 @@ bool EDelToolkit(const QKeyEvent& evento) {
 }
 
 bool EDellaFinestra(const QKeyEvent& evento) {
+  if (ScriveTesto(evento)) return false;  // most are, and the toolkit's table is long
   return evento.matches(QKeySequence::Undo) || evento.matches(QKeySequence::Redo) ||
          evento.keyCombination() == QKeyCombination(Qt::ControlModifier, Qt::Key_Y);
 }
