@@ -69,11 +69,14 @@ void qtAnteAuto::Inizia(const LavoroAnteprima& lavoro) {
 /// Also called once more for one that was waited for already.
 void qtAnteAuto::Finisci() {
   if (!filo_.joinable() || !finito_) return;
-  filo_.join();
-  filo_ = {};
-  editore_.Consegna(std::move(fatto_));
-  fatto_ = {};
+  Ritira();
   Segui();
+}
+
+/// Waits for the work, and hands in what has become of it.
+void qtAnteAuto::Ritira() {
+  filo_.join();
+  editore_.Consegna(std::exchange(fatto_, {}));
 }
 
 void qtAnteAuto::Segna() {
@@ -90,10 +93,7 @@ void qtAnteAuto::Sospendi() {
   sospesa_ = true;
   if (!filo_.joinable()) return;
   filo_.request_stop();
-  filo_.join();
-  filo_ = {};
-  editore_.Consegna(std::move(fatto_));
-  fatto_ = {};
+  Ritira();
 }
 
 void qtAnteAuto::Riprendi() {

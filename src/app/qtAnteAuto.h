@@ -39,6 +39,7 @@ class qtAnteAuto final : public QObject {
   void Rinnova();
   void Inizia(const LavoroAnteprima& lavoro);
   void Finisci();
+  void Ritira();
 
   Editore& editore_;
   ricAnte& pannello_;

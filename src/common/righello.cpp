@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 #include <QStringList>
 #include <algorithm>
@@ -47,11 +48,15 @@ void righello::ImpostaGuide(std::vector<std::size_t> guide) {
 }
 
 void righello::DisegnaGuide(QPainter& pittore) const {
+  DisegnaGuide(pittore, palette().color(QPalette::Highlight), scatola_.viewport()->height());
+}
+
+void righello::DisegnaGuide(QPainter& pittore, const QColor& colore, int altezza) const {
   const GrigliaColonne griglia = griglia_();
-  pittore.setPen(QPen(palette().color(QPalette::Highlight), 1));
+  pittore.setPen(colore);
   for (const std::size_t colonna : guide_) {
-    const qreal x = std::floor(griglia.Origine + static_cast<qreal>(colonna) * griglia.Cella) + 0.5;
-    pittore.drawLine(QPointF(x, 0), QPointF(x, scatola_.viewport()->height()));
+    const qreal x = std::floor(griglia.Sinistra(colonna)) + 0.5;
+    pittore.drawLine(QPointF(x, 0), QPointF(x, altezza));
   }
 }
 
@@ -77,11 +82,7 @@ void righello::paintEvent(QPaintEvent* /*evento*/) {
   pittore.setClipRect(qui);  // what stands there once more, to be read on the highlight
   DisegnaColonne(pittore, griglia, palette().color(QPalette::HighlightedText));
   pittore.setClipping(false);
-  pittore.setPen(palette().color(QPalette::WindowText));
-  for (const std::size_t colonna : guide_) {
-    const qreal x = std::floor(griglia.Origine + static_cast<qreal>(colonna) * griglia.Cella) + 0.5;
-    pittore.drawLine(QPointF(x, 0), QPointF(x, height()));
-  }
+  DisegnaGuide(pittore, palette().color(QPalette::WindowText), height());
   pittore.drawLine(0, height() - 1, width(), height() - 1);
 }
 

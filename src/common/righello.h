@@ -3,11 +3,12 @@
 #pragma once
 
 #include <QAbstractScrollArea>
-#include <QPainter>
 #include <QWidget>
 #include <cstddef>
 #include <functional>
 #include <vector>
+
+class QPainter;
 
 namespace parvik {
 
@@ -16,6 +17,9 @@ struct GrigliaColonne {
   qreal Origine = 0;  // the left edge of the first column
   qreal Cella = 1;
   qreal Cursore = 0;  // where the caret is
+
+  /// The left edge of a column, from 0.
+  qreal Sinistra(std::size_t colonna) const { return Origine + static_cast<qreal>(colonna) * Cella; }
 };
 
 class righello final : public QWidget {
@@ -46,6 +50,7 @@ class righello final : public QWidget {
 
  private:
   void Colloca();
+  void DisegnaGuide(QPainter& pittore, const QColor& colore, int altezza) const;
   void DisegnaColonne(QPainter& pittore, const GrigliaColonne& griglia, const QColor& colore) const;
 
   QAbstractScrollArea& scatola_;

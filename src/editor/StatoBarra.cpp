@@ -1,26 +1,19 @@
 #include "editor/StatoBarra.h"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
-#include <string_view>
 #include <vector>
 
+#include "common/ParoleComuni.h"
 #include "common/TestoMostrabile.h"
 #include "template/TastiSezione.h"
 
 namespace parvik {
 namespace {
 
-constexpr std::array<std::string_view, MaxSezioni> NomiSezione = {"Testata", "Corpo", "Piede"};
-
-std::string Quanti(std::size_t numero, std::string_view uno, std::string_view tanti) {
-  return std::to_string(numero) + " " + std::string(numero == 1 ? uno : tanti);
-}
-
 std::string Posto(const TestoSezione& testo, const CursoreSezione& dove) {
   const RigaColonna posto = testo.RigaColonnaDi(dove.Dentro.Posto);
-  return std::string(NomiSezione[Indice(dove.Dove)]) + ": riga " + std::to_string(posto.Riga + 1) +
+  return std::string(TitoliSezioni[Indice(dove.Dove)]) + ": riga " + std::to_string(posto.Riga + 1) +
          ", col. " + std::to_string(posto.Colonna + 1);
 }
 

@@ -58,7 +58,7 @@ class TestoSezione {
   Pezzo PezzoDi(std::size_t posto) const;
   /// The pieces that have bytes in a part of the text, whole and in their order. So far only tests ask.
   std::vector<Pezzo> PezziDi(Selezione parte) const;
-  /// The code that opens in a line before this one and is not closed there. So far only tests ask.
+  /// The code that opens in a line before this one and is not closed there.
   std::optional<Pezzo> CodiceAperto(std::size_t riga) const;
 
   /// The nearest delimiters. nullopt where there is none.

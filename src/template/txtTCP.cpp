@@ -11,8 +11,8 @@
 #include <QResizeEvent>
 #include <QTextDocument>
 #include <QTextEdit>
-#include <array>
 
+#include "common/ParoleComuni.h"
 #include "common/qtTesto.h"
 #include "editor/Ingrandimento.h"
 #include "template/txtComposizione.h"
@@ -21,8 +21,6 @@
 
 namespace parvik {
 namespace {
-
-constexpr std::array<const char*, MaxSezioni> NomiAccessibili = {"Testata", "Corpo", "Piede"};
 
 /// What a person does to a section, or a program on somebody's behalf.
 bool EUnIntervento(const QEvent& evento) {
@@ -53,7 +51,7 @@ txtTCP::txtTCP(Documento& documento, Sezione sezione, QWidget* padre)
   specchio_ = new txtSpecchio(documento, sezione, *this);  // in front of the colours: it knows the text first
   colori_ = new qtColori(document(), *specchio_);
   setObjectName(QStringLiteral("txtTCP_%1").arg(Indice(sezione)));
-  setAccessibleName(NomiAccessibili[Indice(sezione)]);
+  setAccessibleName(TitoliSezioni[Indice(sezione)]);
   setLineWrapMode(NoWrap);
   setTabChangesFocus(true);
   colori_->ImpostaTavolozza(palette());

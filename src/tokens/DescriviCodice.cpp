@@ -9,6 +9,7 @@
 
 #include "catalogue/Catalogo.h"
 #include "common/NumeroLeniente.h"
+#include "common/ParoleComuni.h"
 #include "common/Ritagli.h"
 #include "common/Windows1252.h"
 #include "tokens/Codice.h"
@@ -49,10 +50,6 @@ void Aggiungi(std::string& testo, std::string_view separatore, std::string_view 
   if (parte.empty()) return;
   testo += separatore;
   testo += parte;
-}
-
-std::string Quanti(std::size_t numero, std::string_view uno, std::string_view tanti) {
-  return std::to_string(numero) + " " + std::string(numero == 1 ? uno : tanti);
 }
 
 std::string Caratteri(std::size_t numero) {

@@ -2,14 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "BancoStampa.h"
-
-namespace parvik {
-
-inline void PrintTo(const Selezione& selezione, std::ostream* uscita) {
-  *uscita << selezione.Inizio << '+' << selezione.Lunghezza;
-}
-
-}  // namespace parvik
+#include "supporto/NomeSelezione.h"
 
 namespace parvik::prova {
 namespace {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractEventDispatcher>
 #include <QListWidget>
 #include <QTest>
 #include <QTimer>
@@ -69,6 +70,11 @@ void Finestra::Scegli(int numero) {
   });
   Azione("mnuScelta").trigger();
   Attiva();
+}
+
+void Finestra::Calma() {
+  while (QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) {
+  }
 }
 
 void Finestra::Apri(const char* nome) {

@@ -69,6 +69,9 @@ class Finestra {
   /// Opens a template of the installation through the menu.
   void Apri(const char* nome);
 
+  /// Until nothing is left to do for what was done so far.
+  static void Calma();
+
   /// What a window manager does when a dialog has closed.
   void Attiva();
 

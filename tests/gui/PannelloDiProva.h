@@ -9,14 +9,7 @@
 
 #include "output/MettiStili.h"
 #include "output/ricAnte.h"
-
-namespace parvik {
-
-inline void PrintTo(const Selezione& selezione, std::ostream* uscita) {
-  *uscita << selezione.Inizio << '+' << selezione.Lunghezza;
-}
-
-}  // namespace parvik
+#include "supporto/NomeSelezione.h"
 
 namespace parvik::prova {
 

@@ -98,7 +98,7 @@ TEST_F(AndataRitorno, F6ScrollsThePaneToWhatStandsAtTheCaret) {
   finestra_.Sezione(2).setFocus();
   QTest::keyClick(&finestra_.Sezione(2), Qt::Key_End, Qt::ControlModifier);
   QTest::keyClick(&finestra_.Sezione(2), Qt::Key_Up);
-  QTest::qWait(20);
+  Finestra::Calma();
   EXPECT_EQ(Pannello().verticalScrollBar()->value(), 0) << "the preview does not follow by itself";
   QTest::keyClick(&finestra_.Sezione(2), Qt::Key_F6);
   EXPECT_TRUE(Pannello().viewport()->rect().contains(Pannello().RettangoloDi(Posto("piede 199"))));

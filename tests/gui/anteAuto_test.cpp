@@ -89,7 +89,7 @@ TEST_F(AnteAuto, APrintFlagThatIsSetInItsWindowShowsByItself) {
 TEST_F(AnteAuto, TurningItOnRendersWhatHasChangedMeanwhile) {
   finestra_.Azione("mnuAnteAuto").trigger();
   Scrivi("uno");
-  QTest::qWait(20);
+  Finestra::Calma();
   EXPECT_EQ(Mostrata(), "") << "off, editing never refreshes it";
   finestra_.Azione("mnuAnteAuto").trigger();
   Mostrera("uno\n");

@@ -3,9 +3,11 @@
 #include <rapidcheck.h>
 
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QTest>
+#include <QToolTip>
 
 #include "SezioniAMisura.h"
 #include "output/StampaCasuale.h"
@@ -304,24 +306,48 @@ TEST(CampiAMisura, AreDrawnInTheColourOfTheirKindOverAllTheirCells) {
   EXPECT_NE(ColoreIn(sezioni, 0, 25), vuoto);
 }
 
-/// Whether something in a line is drawn in that colour, exactly.
-bool HaColore(SezioniAMisura& sezioni, int riga, const QColor& colore) {
+/// How many pixels of a line are drawn in that colour, exactly.
+int Quanti(SezioniAMisura& sezioni, int riga, const QColor& colore) {
   const QImage immagine = sezioni.Editor().viewport()->grab().toImage();
-  const QTextCursor inizio(sezioni.Editor().document()->findBlockByNumber(riga));
-  const QRect posto = sezioni.Editor().cursorRect(inizio);
+  const QRect posto =
+      sezioni.Editor().cursorRect(QTextCursor(sezioni.Editor().document()->findBlockByNumber(riga)));
   const qreal scala = immagine.devicePixelRatio();
+  int quanti = 0;
   for (int y = static_cast<int>(posto.top() * scala); y < posto.bottom() * scala; ++y)
-    for (int x = 0; x < immagine.width(); ++x)
-      if (immagine.pixelColor(x, y) == colore) return true;
-  return false;
+    for (int x = 0; x < immagine.width(); ++x) quanti += immagine.pixelColor(x, y) == colore ? 1 : 0;
+  return quanti;
+}
+
+TEST(CampiAMisura, AFlagIsAMarkInItsColourAndHollowWhereItHides) {
+  SezioniAMisura sezioni("a«F2N»b\na«F1N»b\nab\n|\n");
+  const QColor flag = sezioni.Editor().document()->findChild<qtColori*>()->Colore(TipoCodice::Flag);
+  EXPECT_GT(Quanti(sezioni, 0, flag), Quanti(sezioni, 1, flag));
+  EXPECT_EQ(Quanti(sezioni, 2, flag), 0);
+  sezioni.Campi.AggiornaFlag(true);
+  sezioni.Editor().Rimisura();
+  SezioniAMisura::Aspetta();
+  EXPECT_EQ(Quanti(sezioni, 0, flag), Quanti(sezioni, 1, flag));
+}
+
+TEST(CampiAMisura, TellInATooltipWhatTheyAreAndSoDoTheirMarks) {
+  SezioniAMisura sezioni("abc«F2N»def«V2;20L»|\n");
+  sezioni.Editor().ImpostaDescrizione([](std::string_view contenuto) { return DaUtf8(contenuto); });
+  const auto detto = [&](double celle) {
+    const QPoint punto = sezioni.Punto(0, celle);
+    QHelpEvent aiuto(QEvent::ToolTip, punto, sezioni.Editor().viewport()->mapToGlobal(punto));
+    QApplication::sendEvent(sezioni.Editor().viewport(), &aiuto);
+    return QToolTip::isVisible() ? QToolTip::text().toStdString() : std::string();
+  };
+  EXPECT_EQ(detto(20), "V2;20L");
+  EXPECT_EQ(detto(3), "F2N");
 }
 
 TEST(CampiAMisura, ACodeOfTwoLinesStaysTextInTheColourOfItsKind) {
   SezioniAMisura sezioni("a«V0;\"WWWWWWWW\nWWWWWWWW\"»b\n|\n");
   const QColor costante = sezioni.Editor().document()->findChild<qtColori*>()->Colore(TipoCodice::Costante);
-  EXPECT_TRUE(HaColore(sezioni, 0, costante));
-  EXPECT_TRUE(HaColore(sezioni, 1, costante));
-  EXPECT_FALSE(HaColore(sezioni, 2, costante));
+  EXPECT_GT(Quanti(sezioni, 0, costante), 0);
+  EXPECT_GT(Quanti(sezioni, 1, costante), 0);
+  EXPECT_EQ(Quanti(sezioni, 2, costante), 0);
 }
 
 TEST(CampiAMisura, BehindTheCaretIsMarkedAndASelectedOneIsSelectedWhole) {

@@ -171,7 +171,7 @@ void SegueDaSola(Finestra& finestra, const char* nome) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return finestra.TestoAnteprima().startsWith("uno\n"); }));
   Scegli(finestra, nome);
   QTest::keyClicks(&finestra.Sezione(0), "due");
-  QTest::qWait(20);
+  Finestra::Calma();
   EXPECT_TRUE(finestra.TestoAnteprima().startsWith("uno\n"));
 }
 

@@ -83,6 +83,33 @@ TEST_F(Righello, AClickSetsAGuideInEveryBoxAndAnotherOneTakesItAway) {
   EXPECT_EQ(Quello("righelloAnte").accessibleDescription(), "Guide alle colonne 5");
 }
 
+/// The colour in the middle of a column of the Testata's ruler, near its lower edge.
+QColor ColoreIn(righello& quello, QPoint dove) {
+  const QImage immagine = quello.grab().toImage();
+  return immagine.pixelColor(QPoint(dove.x(), quello.height() - 3) * immagine.devicePixelRatio());
+}
+
+TEST_F(Righello, HasAMarkEachFiveColumnsANumberEachTenAndTheCaretsColumn) {
+  finestra_.Azione("mnuMisura").trigger();
+  finestra_.Sezione(0).moveCursor(QTextCursor::Start);
+  Finestra::Calma();
+  righello& quello = Quello("righello_0");
+  const QColor vuoto = quello.palette().color(QPalette::Window);
+  EXPECT_EQ(ColoreIn(quello, NelRighello(0)), quello.palette().color(QPalette::Highlight));
+  for (const int senza : {1, 3, 5, 9}) EXPECT_EQ(ColoreIn(quello, NelRighello(senza)), vuoto) << senza;
+  EXPECT_NE(ColoreIn(quello, NelRighello(4)), vuoto);
+  EXPECT_NE(ColoreIn(quello, NelRighello(14)), vuoto);
+  const QRect dieci(NelRighello(8).x(), 0, NelRighello(10).x() - NelRighello(8).x(), quello.height() - 2);
+  const QImage numero = quello.grab(dieci).toImage();
+  bool scritto = false;
+  for (int x = 0; x < numero.width(); ++x)
+    for (int y = 0; y < numero.height(); ++y) scritto |= numero.pixelColor(x, y) != vuoto;
+  EXPECT_TRUE(scritto);
+  finestra_.Sezione(0).moveCursor(QTextCursor::End);
+  Finestra::Calma();
+  EXPECT_EQ(ColoreIn(quello, NelRighello(1)), vuoto);
+}
+
 /// Whether a column of pixels of the viewport is all of one colour.
 bool LineaIn(QWidget& vista, int x, const QColor& colore) {
   const QImage immagine = vista.grab().toImage();

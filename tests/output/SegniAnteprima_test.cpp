@@ -6,14 +6,7 @@
 
 #include "output/AnteprimaDiProva.h"
 #include "output/StampaCasuale.h"
-
-namespace parvik {
-
-inline void PrintTo(const Selezione& selezione, std::ostream* uscita) {
-  *uscita << selezione.Inizio << '+' << selezione.Lunghezza;
-}
-
-}  // namespace parvik
+#include "supporto/NomeSelezione.h"
 
 namespace parvik::prova {
 namespace {
