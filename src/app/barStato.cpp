@@ -49,21 +49,18 @@ void barStato::Mostra(const TestiBarra& testi) {
   if (daDisporre) Disponi();
 }
 
-/// A field whose text is longer than any before it. It stays so.
+/// A field whose text is wider than any before it. It stays so.
 bool barStato::Allarga(std::size_t i) {
-  const QString testo = campi_[i]->text();
-  if (Campi[i].Modello == nullptr || testo.size() <= lunghezze_[i]) return false;
-  lunghezze_[i] = testo.size();
-  larghezze_[i] = std::max(larghezze_[i], fontMetrics().horizontalAdvance(testo));
+  const int serve = campi_[i]->LarghezzaTesto();
+  if (Campi[i].Modello == nullptr || serve <= larghezze_[i]) return false;
+  larghezze_[i] = serve;
   return true;
 }
 
 void barStato::Misura() {
   const QFontMetrics misure = fontMetrics();
   for (std::size_t i = 0; i < NumCampi; ++i) {
-    const QString modello = Campi[i].Modello;
-    lunghezze_[i] = modello.size();
-    larghezze_[i] = misure.horizontalAdvance(modello);
+    larghezze_[i] = misure.horizontalAdvance(Campi[i].Modello);
     Allarga(i);
   }
   setFixedHeight(misure.height() + 2 * Margine);

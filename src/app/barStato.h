@@ -31,8 +31,7 @@ class barStato final : public QStatusBar {
   void Disponi();
 
   std::array<lblBarra*, NumCampi> campi_ = {};
-  std::array<int, NumCampi> larghezze_ = {};        // what a field takes; 0 of those that share the rest
-  std::array<qsizetype, NumCampi> lunghezze_ = {};  // the longest text that this is enough for
+  std::array<int, NumCampi> larghezze_ = {};  // what a field takes; 0 of those that share the rest
 };
 
 }  // namespace parvik

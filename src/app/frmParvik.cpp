@@ -10,6 +10,7 @@
 #include "common/qtTastiRipetuti.h"
 #include "common/qtTesto.h"
 #include "output/frmDestStampa.h"
+#include "output/qtFoglio.h"
 #include "output/qtStampa.h"
 #include "start/CartelleProgramma.h"
 
@@ -108,6 +109,7 @@ void frmParvik::Aggiorna() {
   menu_->Aggiorna(editore_.PerMenu());
   barraStato_->Aggiorna();
   area_->Mostra(editore_.PerArea());
+  area_->Pannello().MostraFoglio(editore_.FoglioInUso());
   misure_->Aggiorna();
   righelli_->Aggiorna();
   finestrelle_.Aggiorna();
@@ -172,13 +174,15 @@ std::optional<Destinazione> frmParvik::ScegliDestinazione() {
 Esito<Vista::Tipografo, std::string> frmParvik::ScegliStampante() {
   const Esito<ModuloStampa*, std::string> modulo = CaricaModuloStampa(DirModuli(dirProgramma_));
   if (!modulo) return modulo.Errore();
-  const std::shared_ptr<Stampante> stampante = (*modulo)->ChiediStampante(this);
+  const Foglio foglio = editore_.FoglioInUso();
+  const std::shared_ptr<Stampante> stampante = (*modulo)->ChiediStampante(this, CartaDi(foglio));
   if (!stampante) return Tipografo();
-  return Tipografo([this, stampante](const std::string& nomeLavoro) {
+  return Tipografo([this, stampante, passo = PassoRigaDi(foglio)](const std::string& nomeLavoro) {
     if (!isVisible()) return;  // the program is ending
     stampante->Intitola(DaUtf8(nomeLavoro));
     const SelezioneAnteprima scelta = area_->Pannello().Scelta();  // the pane may go on to another text
-    StampaConAttesa(*stampante, scelta.Testo(), DaStampare(scelta), this);
+    StampaConAttesa(*stampante, {.Testo = scelta.Testo(), .Parte = DaStampare(scelta), .PassoRiga = passo},
+                    this);
   });
 }
 

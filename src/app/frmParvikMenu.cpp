@@ -67,6 +67,8 @@ void frmParvik::Esegui(Comando comando) {
     case Comando::FlagVeri:
     case Comando::Ricorda:
       return editore_.Commuta(PreferenzaDi(comando).value());
+    case Comando::Foglio:
+      return maschere_.ApriFoglio();
     case Comando::VaiAnte:
       return anteAuto_->VaiAnte();
   }

@@ -52,7 +52,8 @@ void lblBarra::Componi() {
   glifi_ = segni_.glyphIndexesForString(mostrato_);
   for (const QPointF& passo : segni_.advancesForGlyphIndexes(glifi_)) posti_ += posti_.last() + passo.x();
   const bool mancanti = glifi_.size() != mostrato_.size() || glifi_.contains(0);
-  if (mancanti || posti_.last() > width()) {
+  intero_ = mancanti ? fontMetrics().horizontalAdvance(text()) : static_cast<int>(std::ceil(posti_.last()));
+  if (mancanti || intero_ > width()) {
     glifi_.clear();
     mostrato_ = fontMetrics().elidedText(text(), taglio_, width());
   }

@@ -20,6 +20,8 @@ class lblBarra final : public QLabel {
   void Scrivi(const QString& testo);
   /// Place and size, both fixed: a new text of a fixed field lays nothing out anew.
   void Poni(const QRect& posto);
+  /// How wide the whole text is.
+  int LarghezzaTesto() const { return intero_; }
 
  protected:
   void changeEvent(QEvent* evento) override;
@@ -32,6 +34,7 @@ class lblBarra final : public QLabel {
   Qt::TextElideMode taglio_;
   QRawFont segni_;
   QString mostrato_;
+  int intero_ = 0;
   QList<quint32> glifi_;  // of what is shown; none where the font lacks one of them
   QList<qreal> posti_;    // their left edges, and the right one of the last
 };

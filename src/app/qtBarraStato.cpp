@@ -46,7 +46,7 @@ void qtBarraStato::Accoda() {
 
 void qtBarraStato::Scrivi() {
   if (barra_ != nullptr && !barra_->isHidden() && editore_.TipoScelto())
-    barra_->Mostra(editore_.Barra(area_.Pannello().Contenuto()));
+    barra_->Mostra(editore_.Barra(area_.Pannello().Contenuto(), area_.Pannello().SulFoglio()));
   ultima_.start();
 }
 

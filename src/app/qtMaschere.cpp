@@ -1,5 +1,7 @@
 #include "app/qtMaschere.h"
 
+#include "output/frmFoglio.h"
+#include "output/ricCelle.h"
 #include "template/frmComando.h"
 #include "tokens/frmCostante.h"
 #include "tokens/frmFlag.h"
@@ -27,6 +29,11 @@ void qtMaschere::ApriComando() {
   if (!linee) return;
   frmComando comando(editore_.Modello().Stato().Corpo, *linee, &finestra_);
   if (comando.exec() == QDialog::Accepted) editore_.ImpostaCorpo(comando.Scelte());
+}
+
+void qtMaschere::ApriFoglio() {
+  frmFoglio foglio(editore_.FoglioInUso(), CellaSuCarta(), &finestra_);
+  if (foglio.exec() == QDialog::Accepted) editore_.ImpostaFoglio(foglio.Scelto());
 }
 
 std::unique_ptr<frmCodice> qtMaschere::Crea(TipoCodice genere) {

@@ -26,6 +26,9 @@ class qtMaschere {
   /// The body settings, which are no code.
   void ApriComando();
 
+  /// The sheet of the document type, which is no code either.
+  void ApriFoglio();
+
  private:
   std::unique_ptr<frmCodice> Crea(TipoCodice genere);
   void Esegui(frmCodice& maschera);

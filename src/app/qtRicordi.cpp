@@ -13,7 +13,7 @@ void qtRicordi::Riprendi() {
   scritto_ = file_.Leggi();
   if (!scritto_) return;
   ricordo_ = *scritto_;
-  editore_.RiprendiScelte(ricordo_.Scelte);
+  editore_.Riprendi(ricordo_.Scelte, ricordo_.Fogli);
   RiponiFinestra();
 }
 
@@ -27,6 +27,7 @@ void qtRicordi::RiponiFinestra() {
 
 void qtRicordi::Aggiorna() {
   ricordo_.Scelte = editore_.Scelte();
+  ricordo_.Fogli = editore_.FogliScelti();
   if (ricordo_.Scelte[Preferenza::Ricorda]) {
     NotaModello();
     Scrivi();

@@ -23,6 +23,14 @@ constexpr const char* Massimizzata = "Finestra/Massimizzata";
 constexpr const char* Modelli = "Recenti";
 constexpr const char* File = "File";
 constexpr const char* Tipo = "Tipo";
+constexpr const char* GruppoFogli = "Fogli";
+constexpr int FogliMassimi = 1000;  // in a file of the program's
+constexpr const char* NomeCarta = "Carta";
+constexpr std::array<const char*, NomiCarte.size()> NomiNelFile = {  // in their order
+    "", "A4", "A5", "Modulo11", "Modulo12", "Personalizzata"};
+constexpr std::array<const char*, NumMargini> NomiMargini = {  // in their order
+    "MargineSinistro", "MargineDestro", "MargineAlto", "MargineBasso"};
+constexpr int LunghezzaMassima = 1'000'000;  // beyond all that a sheet can have
 
 QString NomeDi(const fs::path& file) {
   return QString::fromStdString(file.string());
@@ -57,6 +65,43 @@ void ScriviModelli(QSettings& in, const Recenti& modelli) {
   in.endArray();
 }
 
+/// Which sheet a type has; those that cannot be are left out.
+Fogli LeggiFogli(QSettings& da) {
+  Fogli fogli;
+  const auto lunghezza = [&da](const char* nome) {
+    return std::clamp(da.value(nome).toInt(), 0, LunghezzaMassima);
+  };
+  const int quanti = std::min(da.beginReadArray(GruppoFogli), FogliMassimi);
+  for (int i = 0; i < quanti; ++i) {
+    da.setArrayIndex(i);
+    const auto carta = std::ranges::find(NomiNelFile, da.value(NomeCarta).toString().toStdString());
+    if (carta == NomiNelFile.end()) continue;
+    Foglio foglio = {.Quale = static_cast<Carta>(carta - NomiNelFile.begin()),
+                     .Larghezza = lunghezza("Larghezza"),
+                     .Altezza = lunghezza("Altezza"),
+                     .LineePerPollice = lunghezza("Linee")};
+    for (std::size_t m = 0; m < NumMargini; ++m) foglio.Margini[m] = lunghezza(NomiMargini[m]);
+    if (!DifettoDi(foglio)) fogli.Imposta(da.value(Tipo).toInt(), foglio);
+  }
+  da.endArray();
+  return fogli;
+}
+
+void ScriviFogli(QSettings& in, const Fogli& fogli) {
+  in.beginWriteArray(GruppoFogli, static_cast<int>(fogli.Scelti().size()));
+  int i = 0;
+  for (const auto& [tipo, foglio] : fogli.Scelti()) {
+    in.setArrayIndex(i++);
+    in.setValue(Tipo, tipo);
+    in.setValue(NomeCarta, NomiNelFile[static_cast<std::size_t>(foglio.Quale)]);
+    in.setValue("Larghezza", foglio.Larghezza);
+    in.setValue("Altezza", foglio.Altezza);
+    in.setValue("Linee", foglio.LineePerPollice);
+    for (std::size_t m = 0; m < NumMargini; ++m) in.setValue(NomiMargini[m], foglio.Margini[m]);
+  }
+  in.endArray();
+}
+
 Ricordo LeggiDa(const fs::path& file) {
   QSettings da(NomeDi(file), QSettings::IniFormat);
   Ricordo ricordo;
@@ -68,6 +113,7 @@ Ricordo LeggiDa(const fs::path& file) {
   ricordo.Finestra = da.value(Posto).toRect();
   ricordo.Massimizzata = da.value(Massimizzata).toBool();
   ricordo.Modelli = LeggiModelli(da);
+  ricordo.Fogli = LeggiFogli(da);
   return ricordo;
 }
 
@@ -102,6 +148,7 @@ void qtRicordo::Scrivi(const Ricordo& ricordo) {
   if (!ricordo.Finestra.isNull()) in.setValue(Posto, ricordo.Finestra);
   in.setValue(Massimizzata, ricordo.Massimizzata);
   ScriviModelli(in, ricordo.Modelli);
+  ScriviFogli(in, ricordo.Fogli);
   in.sync();
   scritto_ = in.status() == QSettings::NoError;
 }

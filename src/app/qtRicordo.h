@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "editor/Fogli.h"
 #include "editor/Preferenze.h"
 #include "editor/Recenti.h"
 
@@ -19,6 +20,7 @@ struct Ricordo {
   QRect Finestra;         // its place with the frame, its size without; null when not known
   bool Massimizzata = false;
   Recenti Modelli;
+  parvik::Fogli Fogli;
 
   bool operator==(const Ricordo&) const = default;
 };

@@ -172,7 +172,7 @@ std::optional<std::string> Editore::ConLarghezza(Sezione sezione, std::string_vi
   return tipo_->ConLarghezza(sezione, contenuto, larghezza);
 }
 
-TestiBarra Editore::Barra(const TestoAnteprima& mostrato) {
+TestiBarra Editore::Barra(const TestoAnteprima& mostrato, const std::optional<MisuraFoglio>& foglio) {
   PARVIK_ESIGE(TipoScelto(), ConTipo);
   const Sezione attiva = inserimento_.Attiva();
   const TestoSezione& testo = documento_.Testo(attiva);
@@ -183,7 +183,8 @@ TestiBarra Editore::Barra(const TestoAnteprima& mostrato) {
                    .ColonnaCarta = campi_.Colonna(attiva, cursore.Posto) + 1,
                    .Codice = codice ? tipo_->DescriviInFrase(attiva, ContenutoDi(testo, *codice)) : "",
                    .Aggiornata = AnteprimaAggiornata(),
-                   .Corsa = AnteVisibile() ? CorsaDi(mostrato) : std::nullopt});
+                   .Corsa = AnteVisibile() ? CorsaDi(mostrato) : std::nullopt,
+                   .Foglio = foglio});
 }
 
 std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
@@ -206,6 +207,12 @@ void Editore::SegnaModificato() {
 
 void Editore::CommutaGuida(std::size_t colonna) {
   guide_.Commuta(colonna);
+  vista_.Aggiorna();
+}
+
+void Editore::ImpostaFoglio(const Foglio& foglio) {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  fogli_.Imposta(*NumeroTipo(), foglio);
   vista_.Aggiorna();
 }
 

@@ -17,6 +17,7 @@
 #include "editor/ComandoStampa.h"
 #include "editor/ContoRighe.h"
 #include "editor/Disposizione.h"
+#include "editor/Fogli.h"
 #include "editor/Guide.h"
 #include "editor/Inserimento.h"
 #include "editor/Menu.h"
@@ -83,6 +84,9 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   FlagPerStampe& Flag() { return flag_; }
   /// What the sections print, line by line.
   const CampiAMisura& AMisura() const { return campi_; }
+  /// The sheet of the document type; `Carta::Nessuna` when there is none, and while no type is chosen.
+  Foglio FoglioInUso() const { return NumeroTipo() ? fogli_.Di(*NumeroTipo()) : Foglio(); }
+  const Fogli& FogliScelti() const { return fogli_; }
   /// The check mark of the print-flags window.
   bool SettaFlagSpuntata() const { return settaFlagSpuntata_; }
   /// The numbers of the line-totals window; nullopt while it is not shown. They are those of the moment at
@@ -155,8 +159,9 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   /// The code with another width; nullopt where it cannot be given one. The section must be in use.
   std::optional<std::string> ConLarghezza(Sezione sezione, std::string_view contenuto,
                                           std::int16_t larghezza);
-  /// What the status bar says of the active section's caret; `mostrato` is what the preview pane holds.
-  TestiBarra Barra(const TestoAnteprima& mostrato);
+  /// What the status bar says of the active section's caret; `mostrato` is what the preview pane holds, and
+  /// `foglio` what there is to say of its sheet.
+  TestiBarra Barra(const TestoAnteprima& mostrato, const std::optional<MisuraFoglio>& foglio);
 
   /// The lines of a section, its last line completed; nullopt after a message when there are too many to
   /// count.
@@ -164,12 +169,18 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   /// Needs a type of three sections.
   void ImpostaCorpo(const ImpostazioniCorpo& corpo);
 
+  /// The sheet of the document type, without anything wrong.
+  void ImpostaFoglio(const Foglio& foglio);
+
   /// Sets a guide at a column, from 0, or takes it away. In every state.
   void CommutaGuida(std::size_t colonna);
   /// Turns a switch on or off. In every state.
   void Commuta(Preferenza quale);
-  /// The switches as they were left, before anything is shown.
-  void RiprendiScelte(const Preferenze& scelte) { scelte_ = scelte; }
+  /// The switches and the sheets as they were left, before anything is shown.
+  void Riprendi(const Preferenze& scelte, const Fogli& fogli) {
+    scelte_ = scelte;
+    fogli_ = fogli;
+  }
 
   /// Whether the window may close. Asks when the template is modified. In every state.
   bool PuoChiudere() { return !TipoScelto() || comandi_.PuoChiudere(Tipo()); }
@@ -209,6 +220,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   bool settaFlagSpuntata_ = false;
   Preferenze scelte_;
   Guide guide_;
+  Fogli fogli_;
   Documento::Ascolto ascolto_;
 };
 

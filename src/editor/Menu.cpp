@@ -49,6 +49,7 @@ constexpr std::array Voci = {
     VoceMenu{"mnuMostra",     Sottomenu,  {},                     "M&ostra",                 "",             Sempre,      false},
     VoceMenu{"mnuBarraStato", Voce,       Comando::BarraStato,    "Barra di s&tato",         "",             Sempre,      true},
     VoceMenu{"mnuRighello",   Voce,       Comando::Righello,      "&Righello",               "",             Sempre,      true},
+    VoceMenu{"mnuFoglio",     Voce,       Comando::Foglio,        "&Foglio...",              "",             ConTipo,     false},
     VoceMenu{"mnuFlagVeri",   Voce,       Comando::FlagVeri,      "Flag tutti &veri",        "",             Sempre,      true},
     VoceMenu{"",              Fine,       {},                     "",                        "",             Sempre,      false},
     VoceMenu{"sep8",          Separatore, {},                     "",                        "",             Sempre,      false},

@@ -53,6 +53,7 @@ enum class Comando {
   VaiAnte,
   BarraStato,
   Righello,
+  Foglio,
   FlagVeri,
   Ricorda,
 };

@@ -34,6 +34,12 @@ std::string Righe(const CorsaMostrata& corsa) {
   return Quanti(corsa.Righe, "riga", "righe") + (corsa.Fine ? " + fine" : "");
 }
 
+std::string Fogli(const CorsaMostrata& corsa, const MisuraFoglio& foglio) {
+  const std::string pagine = Quanti(Pagine(corsa.Righe, foglio.Pagina), "pagina", "pagine");
+  return foglio.Oltre == 0 ? pagine
+                           : pagine + ", " + Quanti(foglio.Oltre, "riga", "righe") + " oltre il foglio";
+}
+
 }  // namespace
 
 std::optional<CorsaMostrata> CorsaDi(const TestoAnteprima& mostrato) {
@@ -62,6 +68,7 @@ TestiBarra PerBarra(const DatiBarra& dati) {
   barra.Codice = scelta.Lunghezza > 0 ? Scelti(testo, scelta) : dati.Codice;
   barra.Percorso = Percorso(dati.Modello.Stato().NomeFile);
   if (dati.Corsa) barra.Pagine = Righe(*dati.Corsa);
+  if (dati.Corsa && dati.Foglio) barra.Pagine += ": " + Fogli(*dati.Corsa, *dati.Foglio);
   if (dati.Corsa && !dati.Aggiornata) barra.Aggiornata = "Anteprima non aggiornata";
   return barra;
 }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "output/OltreFoglio.h"
 #include "output/TestoAnteprima.h"
 #include "template/Documento.h"
 
@@ -29,6 +30,7 @@ struct DatiBarra {
   std::string Codice = {};                       // the code at the caret in words, UTF-8
   bool Aggiornata = true;                        // the preview is that of the texts and flags
   std::optional<CorsaMostrata> Corsa = {};       // nullopt while none shows
+  std::optional<MisuraFoglio> Foglio = {};       // nullopt without a sheet
 };
 
 /// The bar's texts, in their order, UTF-8; "" where there is nothing to say.

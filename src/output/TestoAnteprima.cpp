@@ -141,8 +141,8 @@ PerAspetto<std::size_t> TestoAnteprima::Conta(std::size_t byte) const {
   return conteggio;
 }
 
-double TestoAnteprima::LarghezzaMassima(const PerAspetto<double>& larghezze) const {
-  double massima = 0;
+template <class Visita>
+void TestoAnteprima::PerOgniLarghezza(const PerAspetto<double>& larghezze, Visita visita) const {
   auto tratto = Tratti().begin();
   std::size_t inizio = 0;
   for (std::size_t riga = 0; riga < numRighe_; ++riga) {
@@ -156,10 +156,21 @@ double TestoAnteprima::LarghezzaMassima(const PerAspetto<double>& larghezze) con
       larghezza += larghezze[IndiceDi(scoperto ? Aspetto() : tratto->Come)] * static_cast<double>(a - p);
       p = a;
     }
-    massima = std::max(massima, larghezza);
+    visita(larghezza);
     inizio = termine + FineRiga.size();
   }
+}
+
+double TestoAnteprima::LarghezzaMassima(const PerAspetto<double>& larghezze) const {
+  double massima = 0;
+  PerOgniLarghezza(larghezze, [&](double larghezza) { massima = std::max(massima, larghezza); });
   return massima;
+}
+
+std::size_t TestoAnteprima::RighePiuLarghe(const PerAspetto<double>& larghezze, double limite) const {
+  std::size_t quante = 0;
+  PerOgniLarghezza(larghezze, [&](double larghezza) { quante += larghezza > limite ? 1U : 0U; });
+  return quante;
 }
 
 }  // namespace parvik

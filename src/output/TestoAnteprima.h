@@ -55,6 +55,8 @@ class TestoAnteprima {
   /// The width of the widest line, a character of each look being as wide as `larghezze` says. Linear in
   /// lines and runs.
   double LarghezzaMassima(const PerAspetto<double>& larghezze) const;
+  /// How many lines are wider than that. Linear in lines and runs.
+  std::size_t RighePiuLarghe(const PerAspetto<double>& larghezze, double limite) const;
 
  private:
   struct Tappa {  // a place that searches start from
@@ -71,6 +73,8 @@ class TestoAnteprima {
   void IndicizzaTratti();
   EstremiRiga Estremi(std::size_t riga) const;
   std::size_t TrattoCheFinisceDopo(std::size_t byte) const;
+  template <class Visita>
+  void PerOgniLarghezza(const PerAspetto<double>& larghezze, Visita visita) const;
 
   Anteprima anteprima_;
   std::vector<Tappa> tappe_;

@@ -5,7 +5,9 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <algorithm>
 
+#include "output/qtProprietaStampa.h"
 #include "output/qtStampante.h"
 #include "output/qtTestiStampa.h"
 
@@ -14,6 +16,20 @@ namespace {
 
 class StampanteDiSistema final : public Stampante {
  public:
+  /// Margins that the printer cannot reach are its least ones.
+  void Prepara(const QPageLayout& carta) {
+    stampante_.setPageSize(carta.pageSize());
+    QPageLayout sua = stampante_.pageLayout();
+    sua.setUnits(QPageLayout::Point);
+    const QMarginsF minimi = sua.minimumMargins();
+    const auto almeno = [](qreal margine, qreal minimo) { return std::max(margine, minimo); };
+    const QMarginsF margini = carta.margins(QPageLayout::Point);
+    stampante_.setPageMargins(
+        QMarginsF(almeno(margini.left(), minimi.left()), almeno(margini.top(), minimi.top()),
+                  almeno(margini.right(), minimi.right()), almeno(margini.bottom(), minimi.bottom())),
+        QPageLayout::Point);
+  }
+
   void Intitola(const QString& nomeLavoro) override { stampante_.setDocName(nomeLavoro); }
   QPrinter& Foglio() override { return stampante_; }
   void Ritira() override { stampante_.abort(); }
@@ -62,12 +78,15 @@ class qtModuloStampa final : public QObject, public ModuloStampa {
     QCoreApplication::instance()->removeEventFilter(this);
   }
 
-  std::unique_ptr<Stampante> ChiediStampante(QWidget* padre) override {
+  std::unique_ptr<Stampante> ChiediStampante(QWidget* padre, const QPageLayout& carta) override {
     // Without a printer the toolkit would print into a file.
     if (QPrinterInfo::availablePrinterNames().isEmpty()) return nullptr;
     auto stampante = std::make_unique<StampanteDiSistema>();
+    if (carta.isValid()) stampante->Prepara(carta);
     DialogoStampa dialogo(stampante->Foglio(), padre);
+    const qtProprietaStampa* proprieta = carta.isValid() ? new qtProprietaStampa(dialogo, carta) : nullptr;
     if (dialogo.exec() != QDialog::Accepted) return nullptr;
+    if (proprieta != nullptr && proprieta->DaPreparare()) stampante->Prepara(carta);
     return stampante;
   }
 

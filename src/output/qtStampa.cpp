@@ -5,7 +5,6 @@
 #include <QProgressDialog>
 
 #include "common/TestoMostrabile.h"
-#include "output/ricCarta.h"
 #include "sistema/LetturaFile.h"
 
 namespace parvik {
@@ -33,17 +32,17 @@ Esito<ModuloStampa*, std::string> CaricaModuloStampa(const std::filesystem::path
   return modulo;
 }
 
-void StampaConAttesa(Stampante& stampante, const TestoAnteprima& testo, const Selezione& parte,
-                     QWidget* padre) {
+void StampaConAttesa(Stampante& stampante, const LavoroCarta& lavoro, QWidget* padre) {
   QProgressDialog scatola("Stampa in corso...", "Annulla", 0, Millesimi, padre);
   scatola.setObjectName("frmStampa");
   scatola.setWindowTitle("Ordavia");
   scatola.setWindowModality(Qt::ApplicationModal);
   scatola.setMinimumDuration(500);
   QObject::connect(&scatola, &QDialog::rejected, &scatola, &QProgressDialog::cancel);
-  const double tutto = static_cast<double>(parte.Lunghezza) + 1;
-  StampaSuCarta(stampante, testo, parte, [&](std::size_t fino) {
-    scatola.setValue(static_cast<int>(Millesimi * (static_cast<double>(fino - parte.Inizio) / tutto)));
+  const double tutto = static_cast<double>(lavoro.Parte.Lunghezza) + 1;
+  StampaSuCarta(stampante, lavoro, [&](std::size_t fino) {
+    const auto fatto = static_cast<double>(fino - lavoro.Parte.Inizio);
+    scatola.setValue(static_cast<int>(Millesimi * (fatto / tutto)));
     return !scatola.wasCanceled();
   });
 }

@@ -6,9 +6,8 @@
 #include <string>
 
 #include "common/Esito.h"
-#include "output/TestoAnteprima.h"
 #include "output/qtStampante.h"
-#include "template/TastiSezione.h"
+#include "output/ricCarta.h"
 
 namespace parvik {
 
@@ -19,7 +18,6 @@ Esito<ModuloStampa*, std::string> CaricaModuloStampa(const std::filesystem::path
 
 /// Prints. When it takes longer than half a second a box in front of `padre` says so and offers "Annulla",
 /// which gives the job up. Failures are silent.
-void StampaConAttesa(Stampante& stampante, const TestoAnteprima& testo, const Selezione& parte,
-                     QWidget* padre);
+void StampaConAttesa(Stampante& stampante, const LavoroCarta& lavoro, QWidget* padre);
 
 }  // namespace parvik

@@ -2,6 +2,7 @@
 // printing, which every start would pay for: the module does, and is loaded when a printer is first chosen.
 #pragma once
 
+#include <QPageLayout>
 #include <QPagedPaintDevice>
 #include <QString>
 #include <QWidget>
@@ -37,12 +38,13 @@ class ModuloStampa {
 
   /// Asks with the toolkit's own dialog, in front of `padre`. nullptr when no printer was chosen, and,
   /// without a question, on a machine that has none. Printing to a file, ranges of pages and selections are
-  /// not offered.
-  virtual std::unique_ptr<Stampante> ChiediStampante(QWidget* padre) = 0;
+  /// not offered. Paper and margins begin as `carta` says, as far as the printer can have them, or, where it
+  /// is not valid, as the printer's own.
+  virtual std::unique_ptr<Stampante> ChiediStampante(QWidget* padre, const QPageLayout& carta) = 0;
 };
 
 }  // namespace parvik
 
 /// When the classes above change, so does the number: modules of another contract are not loaded.
-#define PARVIK_IID_MODULO_STAMPA "parvik32.ModuloStampa/1"
+#define PARVIK_IID_MODULO_STAMPA "parvik32.ModuloStampa/2"
 Q_DECLARE_INTERFACE(parvik::ModuloStampa, PARVIK_IID_MODULO_STAMPA)

@@ -120,8 +120,10 @@ void ricAnte::paintEvent(QPaintEvent* evento) {
                                       : hasFocus() ? QPalette::Active
                                                    : QPalette::Inactive;
   if (Contenuto().Testo().empty()) DisegnaInvito(pittore, viewport()->rect(), palette());
+  foglio_.DisegnaOltre(pittore, veduta, palette());
   luoghi_.Disegna(pittore, veduta, palette(), gruppo);
   veduta.Disegna(pittore, evento->rect(), Selezionato(), palette(), gruppo);
+  foglio_.DisegnaBordi(pittore, veduta, palette());
   if (righello_ != nullptr && righello_->isVisible()) {
     righello_->DisegnaGuide(pittore);
     righello_->update();

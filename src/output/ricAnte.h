@@ -12,6 +12,7 @@
 #include "common/righello.h"
 #include "output/SelezioneAnteprima.h"
 #include "output/ricCelle.h"
+#include "output/ricFoglio.h"
 #include "output/ricLuoghi.h"
 #include "output/ricVeduta.h"
 
@@ -54,6 +55,11 @@ class ricAnte final : public QAbstractScrollArea {
   void Seleziona(std::size_t ancora, std::size_t cursore);
 
   void SelezionaTutto();
+
+  /// The sheet that the text is looked at on.
+  void MostraFoglio(const Foglio& foglio);
+  /// What there is to say of it; nullopt without one.
+  const std::optional<MisuraFoglio>& SulFoglio() const { return foglio_.Misurato(); }
 
   /// A ruler above the text.
   void MostraRighello(bool mostra);
@@ -121,6 +127,7 @@ class ricAnte final : public QAbstractScrollArea {
 
   SelezioneAnteprima scelta_;  // what is shown, too
   ricLuoghi luoghi_;
+  ricFoglio foglio_;
   std::optional<Celle> celle_;
   qreal rapporto_ = 0;  // the device's pixel ratio and resolution that the cells were made for
   int risoluzione_ = 0;

@@ -76,6 +76,7 @@ void ricAnte::MisuraLarghezza() {
     if (conteggio[i] > 0) larghezze[i] = celle_->Avanzamento(AspettoDiIndice(i));
   }
   larghezza_ = InBarra(Contenuto().LarghezzaMassima(larghezze));
+  foglio_.Misura(Contenuto());
   AggiornaBarre();
   viewport()->update();
 }

@@ -1,5 +1,5 @@
-// What the preview pane has to do with the sections: the marks, the way back, and a new text that takes the
-// place of the one that it was made from.
+// What the preview pane shows beside its text: the marks of what stands at the caret of a section, and the
+// sheet. And a new text that takes the place of the one that it was made from.
 #include <QRegion>
 #include <QScrollBar>
 #include <utility>
@@ -21,6 +21,10 @@ void ricAnte::Rinnova(std::shared_ptr<const TestoAnteprima> testo, const Ricollo
   ricAccessibile::AnnunciaDifferenza(*this, prima.Testo());
   if (scelta_.Estremi() != prima.Estremi()) ricAccessibile::AnnunciaCursore(*this, prima.Selezionato());
   emit Mostrata();
+}
+
+void ricAnte::MostraFoglio(const Foglio& foglio) {
+  if (foglio_.Imposta(foglio, Contenuto())) viewport()->update();
 }
 
 bool ricAnte::MostraSegni(SegniAnteprima segni) {

@@ -10,32 +10,36 @@ namespace parvik {
 namespace {
 
 constexpr double ScalaMinima = 0.5;  // of text that is still read
+constexpr double Tolleranza = 0.01;  // of a line: a page's height is a rounded number
 
 /// Lengths are twips, made smaller where the text is too wide for the page.
-class Carta {
+class Impaginatore {
  public:
-  Carta(QPagedPaintDevice& foglio, QPainter& pittore, const TestoAnteprima& testo)
+  Impaginatore(QPagedPaintDevice& foglio, QPainter& pittore, const LavoroCarta& lavoro)
       : foglio_(foglio),
         pittore_(pittore),
-        testo_(testo),
+        testo_(lavoro.Testo),
+        passo_(lavoro.PassoRiga),
         celle_(Celle::SuCarta(CarattereAnteprima())),
         pagina_(QSizeF(foglio.width(), foglio.height()) / UnitaPerTwip()) {
     const double scala = Scala();
     pittore_.scale(scala * UnitaPerTwip(), scala * UnitaPerTwip());
     pagina_ /= scala;
+    passo_ /= scala;
   }
 
   /// Prints the columns [da, a) of a line. Whether a page was finished before it.
   bool Stampa(std::size_t riga, std::size_t da, std::size_t a) {
     const AltezzeRiga altezze = AltezzeDi(testo_, riga, celle_);
     const std::vector<std::size_t> fini = Spezza(riga, da, a);
-    const bool nuova = !CiSta(static_cast<qreal>(fini.size()) * altezze.Altezza()) && y_ > 0;
+    const qreal altezza = passo_ > 0 ? passo_ : altezze.Altezza();
+    const bool nuova = !CiSta(static_cast<qreal>(fini.size()) * altezza) && y_ > 0;
     if (nuova) NuovaPagina();
     for (const std::size_t fine : fini) {
-      if (!CiSta(altezze.Altezza()) && y_ > 0) NuovaPagina();  // one line, longer than a whole page
+      if (!CiSta(altezza) && y_ > 0) NuovaPagina();  // one line, longer than a whole page
       const qreal x = XDi(testo_, riga, da, celle_);
       DisegnaRiga(pittore_, {-x, y_ + altezze.Ascesa}, testo_, riga, da, fine, celle_);
-      y_ += altezze.Altezza();
+      y_ += altezza;
       da = fine;
     }
     return nuova;
@@ -67,7 +71,8 @@ class Carta {
     return fini;
   }
 
-  bool CiSta(qreal altezza) const { return y_ + altezza <= pagina_.height(); }
+  /// Lines at a distance of their own fill a page to its edge, whose place is rounded.
+  bool CiSta(qreal altezza) const { return y_ + altezza <= pagina_.height() + passo_ * Tolleranza; }
 
   void NuovaPagina() {
     foglio_.newPage();
@@ -77,6 +82,7 @@ class Carta {
   QPagedPaintDevice& foglio_;
   QPainter& pittore_;
   const TestoAnteprima& testo_;
+  double passo_;  // 0: each line as high as its characters
   Celle celle_;
   QSizeF pagina_;
   qreal y_ = 0;
@@ -84,19 +90,20 @@ class Carta {
 
 }  // namespace
 
-bool StampaSuCarta(Stampante& stampante, const TestoAnteprima& testo, const Selezione& parte,
+bool StampaSuCarta(Stampante& stampante, const LavoroCarta& lavoro,
                    const std::function<bool(std::size_t)>& avanza) {
+  const auto& [testo, parte, passo] = lavoro;
   QPainter pittore;
   if (!pittore.begin(&stampante.Foglio())) return false;
   pittore.setPen(Qt::black);
-  Carta carta(stampante.Foglio(), pittore, testo);
+  Impaginatore pagine(stampante.Foglio(), pittore, lavoro);
   const std::size_t ultima = testo.RigaDi(parte.Fine());
   for (std::size_t riga = testo.RigaDi(parte.Inizio); riga <= ultima; ++riga) {
     const std::size_t inizio = testo.InizioRiga(riga);
     const std::size_t da = std::max(parte.Inizio, inizio) - inizio;
     if (parte.Fine() == inizio && parte.Lunghezza > 0) break;  // the part ends with a line end
     const std::size_t a = std::max(std::min(parte.Fine(), testo.TermineRiga(riga)) - inizio, da);
-    if (carta.Stampa(riga, da, a) && !avanza(inizio + da)) {
+    if (pagine.Stampa(riga, da, a) && !avanza(inizio + da)) {
       stampante.Ritira();
       return false;
     }

@@ -8,6 +8,7 @@
 
 #include "common/Windows1252.h"
 #include "common/qtTesto.h"
+#include "output/Foglio.h"
 
 namespace parvik {
 namespace {
@@ -159,6 +160,11 @@ void Celle::DisegnaStretto(QPainter& pittore, QPointF base, QChar segno, const F
   pittore.scale(scala, 1);
   pittore.drawText(QPointF(), segno);
   pittore.restore();
+}
+
+double CellaSuCarta() {
+  const qreal twip = Celle::SuCarta(CarattereAnteprima()).Avanzamento({.Corpo = CorpoCarattere::Normale});
+  return twip * DecimiPerPollice / TwipPerPollice;
 }
 
 AltezzeRiga AltezzeDi(const TestoAnteprima& testo, std::size_t riga, const Celle& celle) {

@@ -84,6 +84,9 @@ class Celle {
   mutable PerAspetto<std::optional<Faccia>> facce_;
 };
 
+/// The width of a character of the normal size on paper, in tenths of a millimetre.
+double CellaSuCarta();
+
 /// From a line's top to its baseline, and to its bottom. An empty line is as high as its line end's look.
 struct AltezzeRiga {
   qreal Ascesa = 0;

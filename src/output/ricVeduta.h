@@ -38,6 +38,11 @@ class VedutaAnteprima {
   QSize Dimensione() const { return finestrella_.Dimensione; }
   /// Of a line in the pane's own look.
   qreal AltezzaRiga() const { return celle_.Altezza({}); }
+  /// The left edge of a column, from 0, as wide as a character of the normal size; in the window's
+  /// coordinates.
+  qreal XDellaColonna(std::size_t colonna) const {
+    return XDelTesto() + static_cast<qreal>(colonna) * celle_.Avanzamento({});
+  }
 
   /// Those of which something shows.
   std::vector<std::size_t> Righe() const;

@@ -2,7 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QDialogButtonBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -228,6 +230,55 @@ TEST(Carta, TextIsBlackOnPaperInADarkDesktopToo) {
   }
   QApplication::setPalette(chiara);
 }
+
+/// Chooses a sheet, and so many lines an inch.
+void ScegliFoglio(Finestra& finestra, Carta carta, const char* linee) {
+  NelProssimoDialogo([carta, linee](QDialog& dialogo) {
+    Trova<QComboBox>(dialogo, "cmbCarta")->setCurrentIndex(static_cast<int>(carta));
+    Trova<QLineEdit>(dialogo, "txtLinee")->setText(linee);
+    QTest::keyClick(&dialogo, Qt::Key_Return);
+  });
+  finestra.Azione("mnuFoglio").trigger();
+}
+
+QString ConRighe(int quante) {
+  QString testo;
+  for (int i = 1; i <= quante; ++i) testo += QStringLiteral("riga%1\n").arg(i);
+  return testo;
+}
+
+struct FoglioStampato {
+  const char* Nome;
+  Carta Quale;
+  const char* Linee;
+  double Sinistra;  // points
+  double Passo;
+  std::size_t Righe;  // of the first page
+
+  friend void PrintTo(const FoglioStampato& foglio, std::ostream* uscita) { *uscita << foglio.Nome; }
+};
+
+class CartaFoglio : public testing::TestWithParam<FoglioStampato> {};
+
+TEST_P(CartaFoglio, IsWhatThePrintDialogBeginsWith) {
+  const FoglioStampato& atteso = GetParam();
+  Finestra finestra;
+  Prepara(finestra, qPrintable(ConRighe(100)));
+  ScegliFoglio(finestra, atteso.Quale, atteso.Linee);
+  StampaConIlMenu(finestra);
+  const CartaStampata carta = CartaStampata::Prossima();
+  EXPECT_EQ(carta.Pagine().at(0).size(), static_cast<qsizetype>(atteso.Righe));
+  EXPECT_NEAR(Trovata(carta, "riga1").X, atteso.Sinistra, 0.5);
+  EXPECT_NEAR(Trovata(carta, "riga5").Y - Trovata(carta, "riga4").Y, atteso.Passo, 0.1);
+  EXPECT_EQ(Scritte(RigheDi(carta)), Scritte(Mostrate(finestra)));
+}
+
+// The printer cannot reach 18 points of A5, where the sheet has 14: 559 points are left, at 12 a line.
+INSTANTIATE_TEST_SUITE_P(Fogli, CartaFoglio,
+                         testing::Values(FoglioStampato{"A5", Carta::A5, "6", 18, 12, 46},
+                                         FoglioStampato{"A5_fitto", Carta::A5, "8", 18, 9, 62},
+                                         FoglioStampato{"modulo", Carta::Modulo11, "6", 36, 12, 66}),
+                         [](const auto& caso) { return std::string(caso.param.Nome); });
 
 TEST(Carta, CancelInThePrintDialogPrintsNothingAndShowsNoPreview) {
   Finestra finestra;

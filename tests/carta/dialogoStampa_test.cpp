@@ -5,6 +5,8 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -24,8 +26,9 @@ using prova::Trova;
 
 /// What the test's printer calls itself and its options: words of its driver.
 const QSet<QString> DellaStampante = {
-    "prova",     "Prova, keeps its jobs", "A4",           "Letter",      "dato qualita", "dato bassa",
-    "dato alta", "dato vassoio",          "dato piccolo", "dato grande",
+    "prova",        "Prova, keeps its jobs", "A4",         "Letter",    "A5",
+    "Modulo",       "dato qualita",          "dato bassa", "dato alta", "dato vassoio",
+    "dato piccolo", "dato grande",
 };
 
 const QSet<QString> NelDialogo = {
@@ -272,6 +275,53 @@ TEST_F(DialogoStampa, OptionsThatExcludeEachOtherAreToldInItalian) {
         "Cambiarla? / Sì / No");
   });
   prova::CartaStampata::Prossima();
+}
+
+/// With a sheet of A5 set.
+class DialogoConFoglio : public DialogoStampa {
+ protected:
+  DialogoConFoglio() {
+    NelProssimoDialogo([](QDialog& foglio) {
+      Trova<QComboBox>(foglio, "cmbCarta")->setCurrentText("A5");
+      Trova<QLineEdit>(foglio, "txtMargine_0")->setText("20");
+      QTest::keyClick(&foglio, Qt::Key_Return);
+    });
+    finestra_.Azione("mnuFoglio").trigger();
+  }
+  static void Stampa(QDialog& dialogo) { Clicca(Pulsante(dialogo, QDialogButtonBox::Ok)); }
+  /// How wide the paper was that was printed on, in points.
+  static double Larghezza() { return prova::CartaStampata::Prossima().Dimensione().width(); }
+};
+
+TEST_F(DialogoConFoglio, ThePrintersPropertiesBeginWithItsPaperAndMargins) {
+  Nel([](QDialog& dialogo) {
+    for (int volta = 0; volta < 2; ++volta) {
+      NelleProprietaDi(dialogo, [](QDialog& proprieta) {
+        EXPECT_EQ(Trova<QComboBox>(proprieta, "pageSizeCombo")->currentText(), "A5");
+        EXPECT_NEAR(Trova<QDoubleSpinBox>(proprieta, "leftMargin")->value(), 20, 0.2);
+        EXPECT_NEAR(Trova<QDoubleSpinBox>(proprieta, "topMargin")->value(), 6.35, 0.2)
+            << "the printer's least";
+        proprieta.reject();
+      });
+    }
+    Stampa(dialogo);
+  });
+  EXPECT_NEAR(Larghezza(), 420, 1) << "the properties were given up";
+}
+
+TEST_F(DialogoConFoglio, WhatIsChosenInThePrintersPropertiesHolds) {
+  Nel([](QDialog& dialogo) {
+    NelleProprietaDi(dialogo, [](QDialog& proprieta) {
+      Scegli(proprieta, "Letter");
+      Clicca(Pulsante(proprieta, QDialogButtonBox::Ok));
+    });
+    NelleProprietaDi(dialogo, [](QDialog& proprieta) {
+      EXPECT_EQ(Trova<QComboBox>(proprieta, "pageSizeCombo")->currentText(), "Letter");
+      proprieta.reject();
+    });
+    Stampa(dialogo);
+  });
+  EXPECT_NEAR(Larghezza(), 612, 1);
 }
 
 }  // namespace

@@ -70,6 +70,7 @@ TEST(VociMenu, AreTheWholeTreeInTheOrderOfTheScreen) {
       "  mnuMostra M&ostra",
       "    mnuBarraStato Barra di s&tato",
       "    mnuRighello &Righello",
+      "    mnuFoglio &Foglio...",
       "    mnuFlagVeri Flag tutti &veri",
       "  sep8",
       "  mnuRicorda Ricorda tra una sessione e l'a&ltra",
@@ -106,7 +107,7 @@ TEST(Abilitata, LeavesOnlyTheChoiceOfATypeTheAboutBoxAndTheExitWithoutAType) {
   EXPECT_EQ((Nomi{"mnuAnte",     "mnuApri",   "mnuComando",   "mnuCostante",  "mnuFlag",    "mnuLingua",
                   "mnuNuovo",    "mnuPagina", "mnuSalva",     "mnuSalvaNome", "mnuStampa",  "mnuStile",
                   "mnuVar",      "mnuRighe",  "mnuSettaFlag", "mnuTool",      "mnuAnnulla", "mnuRipeti",
-                  "mnuAnteAuto", "mnuMisura", "mnuVaiAnte"}),
+                  "mnuAnteAuto", "mnuMisura", "mnuFoglio",    "mnuVaiAnte"}),
             Disabilitate({.TipoScelto = false, .TreSezioni = false}));
 }
 

@@ -10,13 +10,14 @@ class StatoBarraTest : public BancoEditore {
  protected:
   StatoBarraTest() { editore_.ScegliTipo(Fattura); }
 
-  TestiBarra Barra() { return editore_.Barra(pannello_); }
+  TestiBarra Barra() { return editore_.Barra(pannello_, foglio_); }
   void Cursore(Sezione sezione, std::size_t ancora, std::size_t posto) {
     editore_.AttivaSezione(sezione);
     vista_.ImpostaCursore(sezione, {.Ancora = ancora, .Posto = posto});
   }
 
   TestoAnteprima pannello_;
+  std::optional<MisuraFoglio> foglio_;
 };
 
 TEST_F(StatoBarraTest, TellsSectionLineAndColumnOfTheCaretFromOne) {
@@ -95,6 +96,20 @@ TEST_F(StatoBarraTest, TellsTheLinesOfTheLastRun) {
     pannello_ = TestoAnteprima({.Testo = testo, .Tratti = {}});
     EXPECT_EQ(Barra().Pagine, atteso);
   }
+  editore_.CommutaAnteprima();
+  EXPECT_EQ(Barra().Pagine, "") << "the pane is hidden";
+}
+
+TEST_F(StatoBarraTest, TellsThePagesOfASheetAndWhatStandsOutside) {
+  pannello_ = TestoAnteprima({.Testo = "a\r\nb\r\nc\r\n\r\n--- Fine file ---", .Tratti = {}});
+  foglio_ = MisuraFoglio{.Pagina = {.Colonne = 80, .Righe = 3}, .Oltre = 0};
+  EXPECT_EQ(Barra().Pagine, "3 righe + fine: 1 pagina");
+  foglio_->Pagina.Righe = 2;
+  EXPECT_EQ(Barra().Pagine, "3 righe + fine: 2 pagine");
+  foglio_->Oltre = 1;
+  EXPECT_EQ(Barra().Pagine, "3 righe + fine: 2 pagine, 1 riga oltre il foglio");
+  foglio_->Oltre = 2;
+  EXPECT_EQ(Barra().Pagine, "3 righe + fine: 2 pagine, 2 righe oltre il foglio");
   editore_.CommutaAnteprima();
   EXPECT_EQ(Barra().Pagine, "") << "the pane is hidden";
 }

@@ -45,6 +45,12 @@ std::vector<QStringList> PdfStampato::Pagine() const {
   return pagine;
 }
 
+QSizeF PdfStampato::Dimensione() const {
+  static const QRegularExpression pagina(R"re(<page width="([0-9.]+)" height="([0-9.]+)">)re");
+  const QRegularExpressionMatch trovata = pagina.match(Esegui("pdftotext", {"-bbox", pdf_, "-"}));
+  return {trovata.captured(1).toDouble(), trovata.captured(2).toDouble()};
+}
+
 std::vector<std::vector<Parola>> PdfStampato::Parole() const {
   static const QRegularExpression elemento(
       R"re(<page |<word xMin="([0-9.]+)" yMin="([0-9.]+)" xMax="([0-9.]+)" yMax="([0-9.]+)">(.*)</word>)re");

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QImage>
+#include <QSizeF>
 #include <QString>
 #include <QStringList>
 #include <vector>
@@ -25,6 +26,8 @@ class PdfStampato {
   std::vector<QStringList> Pagine() const;
   /// The words of each page, with their places.
   std::vector<std::vector<Parola>> Parole() const;
+  /// The size of the first page, in points.
+  QSizeF Dimensione() const;
   /// The names of the fonts in the document.
   QStringList Caratteri() const;
 

@@ -71,6 +71,17 @@ TEST_F(BarStato, TellsTheCodeThePathAndTheLinesOfTheRun) {
   EXPECT_EQ(Dopo("lblPagine", "71 righe + fine"), "71 righe + fine");
 }
 
+TEST_F(BarStato, ShowsAFieldWholeWhereThereIsRoomForIt) {
+  finestra_->resize(1600, 700);
+  finestra_.Scegli(1);
+  finestra_.Apri("FATT01.IMG");
+  finestra_.Azione("mnuAnte").trigger();
+  QTest::keyClicks(&finestra_.Sezione(0), "z");
+  ASSERT_EQ(Dopo("lblAggiornata", "Anteprima non aggiornata"), "Anteprima non aggiornata");
+  for (const char* nome : {"lblSezione", "lblColCarta", "lblAggiornata", "lblPagine"})
+    EXPECT_EQ(Campo(nome).toolTip(), "") << nome << ": what is cut is the tooltip";
+}
+
 TEST_F(BarStato, IsReadWholeByAssistiveTechnologiesHoweverNarrow) {
   finestra_.Scegli(1);
   finestra_.Apri("FATT01.IMG");

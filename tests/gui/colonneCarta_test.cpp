@@ -22,7 +22,8 @@ using prova::StampanteDiProva;
 /// Prints, and looks at the words. Returns how many there were.
 std::size_t ConfrontaCarta(const TestoAnteprima& testo) {
   StampanteDiProva stampante;
-  EXPECT_TRUE(StampaSuCarta(stampante, testo, {.Inizio = 0, .Lunghezza = testo.Testo().size()},
+  EXPECT_TRUE(StampaSuCarta(stampante,
+                            {.Testo = testo, .Parte = {.Inizio = 0, .Lunghezza = testo.Testo().size()}},
                             [](std::size_t) { return true; }));
   const QRectF utile = stampante.Foglio().pageLayout().paintRect(QPageLayout::Point);
   return prova::ConfrontaColonne(PdfStampato(stampante.Pdf()), testo,

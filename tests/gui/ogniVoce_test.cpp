@@ -233,6 +233,7 @@ const std::vector<Voce>& Voci() {
       {"mnuVaiAnte", VaiNellAnteprima},
       {"mnuBarraStato", NascondeEMostra("barStato")},
       {"mnuRighello", MostraRighello},
+      {"mnuFoglio", Apre("frmFoglio: Foglio")},
       {"mnuFlagVeri", MisuraConFlagVeri},
       {"mnuRicorda", Ricorda},
   };

@@ -8,6 +8,7 @@
 
 #include "Finestra.h"
 #include "app/qtRicordo.h"
+#include "output/ricAnte.h"
 
 namespace parvik {
 namespace {
@@ -66,6 +67,38 @@ TEST_F(QtRicordi, KeepsSwitchesAndWindowWhileItIsOn) {
   EXPECT_FALSE(Spuntata("mnuMisura"));
   EXPECT_EQ(finestra_->size(), QSize(640, 480));
   EXPECT_EQ(finestra_->pos(), QPoint(30, 20));
+}
+
+TEST_F(QtRicordi, KeepsTheSheetOfEachDocumentType) {
+  Foglio suo = FoglioDi(Carta::Personalizzata);
+  suo.Larghezza = 1505;
+  suo.LineePerPollice = 8;
+  suo.Margini = {10, 20, 30, 40};
+  Ricordo ricordo;
+  ricordo.Fogli.Imposta(1, suo);
+  ricordo.Fogli.Imposta(4, FoglioDi(Carta::Modulo12));
+  qtRicordo(finestra_.Configurazione(), {}).Scrivi(ricordo);
+  const auto letto = qtRicordo(finestra_.Configurazione(), {}).Leggi();
+  ASSERT_TRUE(letto);
+  EXPECT_TRUE(letto->Fogli == ricordo.Fogli);
+  finestra_.Riavvia();
+  finestra_.Scegli(4);
+  EXPECT_EQ(finestra_.Anteprima().SulFoglio()->Pagina.Righe, 72U);
+  finestra_.Azione("mnuNuovo").trigger();
+  finestra_.Scegli(2);
+  EXPECT_EQ(finestra_.Anteprima().SulFoglio(), std::nullopt);
+}
+
+TEST_F(QtRicordi, ASheetThatCannotBeIsNone) {
+  for (const char* riga :
+       {"1\\Carta=B7", "1\\Carta=", "1\\Carta=A4\n1\\Larghezza=99999999999999999999\n1\\Altezza=1",
+        "1\\Carta=A4\n1\\Larghezza=2100\n1\\Altezza=2970\n1\\Linee=0",
+        "1\\Carta=A4\n1\\Larghezza=2100\n1\\Altezza=2970\n1\\Linee=6\n1\\MargineAlto=2147483647"}) {
+    Scrivi(finestra_.Impostazioni(), std::string("[Fogli]\nsize=1\n1\\Tipo=1\n") + riga + "\n");
+    finestra_.Riavvia();
+    finestra_.Scegli(1);
+    EXPECT_EQ(finestra_.Anteprima().SulFoglio(), std::nullopt) << riga;
+  }
 }
 
 TEST_F(QtRicordi, RemovesTheFileWhenItIsTurnedOff) {
