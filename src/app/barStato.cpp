@@ -12,8 +12,8 @@ namespace {
 constexpr int Margine = 4;  // pixels, at both ends
 constexpr int Spazio = 16;  // pixels, between two fields
 
-/// A field as wide as this text, whatever it says: the others do not move while the caret does. Without a
-/// text it takes a part of what is left.
+/// A field as wide as this text, whatever it says: the others do not move while the caret does. Those without
+/// share what is left.
 struct Campo {
   const char* Nome;
   Qt::TextElideMode Taglio;
@@ -26,6 +26,9 @@ constexpr std::array<Campo, 6> Campi = {{{"lblSezione", Qt::ElideRight, "Testata
                                          {"lblPercorso", Qt::ElideMiddle, nullptr},
                                          {"lblAggiornata", Qt::ElideRight, "Anteprima non aggiornata"},
                                          {"lblPagine", Qt::ElideRight, "99999 righe + fine"}}};
+
+constexpr std::size_t Codice = 2;
+constexpr std::size_t Percorso = 3;
 
 }  // namespace
 
@@ -42,9 +45,10 @@ void barStato::Mostra(const TestiBarra& testi) {
                                                            &testi.Percorso, &testi.Aggiornata, &testi.Pagine};
   bool daDisporre = false;
   for (std::size_t i = 0; i < NumCampi; ++i) {
-    const qsizetype prima = campi_[i]->text().size();
+    const int prima = campi_[i]->LarghezzaTesto();
     campi_[i]->Scrivi(DaUtf8(*ordine[i]));
-    daDisporre |= Allarga(i) || (prima == 0) != campi_[i]->text().isEmpty();
+    const int ora = campi_[i]->LarghezzaTesto();
+    daDisporre |= Allarga(i) || (prima == 0) != (ora == 0) || (i == Percorso && prima != ora);
   }
   if (daDisporre) Disponi();
 }
@@ -67,7 +71,8 @@ void barStato::Misura() {
   Disponi();
 }
 
-/// Fields without a text take no room. Where there is little, each field gets less: none is lost.
+/// Fields without a text take no room, and the path no more than it needs of what is left. Where there is
+/// little, each field gets less: none is lost.
 void barStato::Disponi() {
   std::array<int, NumCampi> larghezze = larghezze_;
   for (std::size_t i = 0; i < NumCampi; ++i)
@@ -76,10 +81,12 @@ void barStato::Disponi() {
   const int fissa = std::accumulate(larghezze.begin(), larghezze.end(), 0);
   const int libera = std::max(tutta - fissa, tutta / 4);
   const double scala = fissa > 0 ? std::min(1.0, static_cast<double>(tutta - libera) / fissa) : 1;
+  for (int& larghezza : larghezze) larghezza = static_cast<int>(larghezza * scala);
+  larghezze[Percorso] = std::min(campi_[Percorso]->LarghezzaTesto(), libera / 2);
+  larghezze[Codice] = libera - larghezze[Percorso];
   int x = Margine;
   for (std::size_t i = 0; i < NumCampi; ++i) {
-    const bool divide = Campi[i].Modello == nullptr;
-    const int larghezza = divide ? libera / 2 : static_cast<int>(larghezze[i] * scala);
+    const int larghezza = larghezze[i];
     campi_[i]->Poni({x, 0, larghezza, height()});
     x += larghezza + (larghezza > 0 ? Spazio : 0);
   }

@@ -3,6 +3,7 @@
 #include <QPolygonF>
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace parvik {
 namespace {
@@ -29,10 +30,19 @@ qreal Centro(TipoCodice quale, qreal alto, qreal altezza, qreal lato) {
   return alto + altezza / 2;
 }
 
+/// Around the mark and its line alone: what stands on both sides is to be read.
+void DisegnaFondo(QPainter& pittore, QPointF centro, qreal lato, std::pair<qreal, qreal> riga,
+                  const QColor& colore) {
+  constexpr qreal Alone = 2;  // pixels
+  const qreal largo = lato + 2 * Alone;
+  pittore.fillRect(QRectF(centro.x() - Alone, riga.first, 2 * Alone, riga.second), colore);
+  pittore.fillRect(QRectF(centro.x() - largo / 2, centro.y() - largo / 2, largo, largo), colore);
+}
+
 void Disegna(QPainter& pittore, const SegnoCodice& segno, qreal x, qreal alto, qreal altezza) {
   const qreal lato = std::max(5.0, altezza / 3);
   const QPointF centro(x, Centro(segno.Quale, alto, altezza, lato));
-  if (segno.Fondo.isValid()) pittore.fillRect(QRectF(x - lato, alto, 2 * lato, altezza), segno.Fondo);
+  if (segno.Fondo.isValid()) DisegnaFondo(pittore, centro, lato, {alto, altezza}, segno.Fondo);
   pittore.setPen(QPen(segno.Tinta, 1));
   pittore.drawLine(QPointF(x, alto), QPointF(x, alto + altezza - 1));
   pittore.setBrush(segno.Mostrato ? QBrush(segno.Tinta) : QBrush(pittore.background().color()));

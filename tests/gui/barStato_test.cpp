@@ -82,6 +82,17 @@ TEST_F(BarStato, ShowsAFieldWholeWhereThereIsRoomForIt) {
     EXPECT_EQ(Campo(nome).toolTip(), "") << nome << ": what is cut is the tooltip";
 }
 
+TEST_F(BarStato, GivesTheCodeWhatThePathDoesNotNeed) {
+  finestra_->resize(1600, 700);
+  finestra_.Scegli(1);
+  finestra_.Apri("FATT01.IMG");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !Campo("lblPercorso").text().isEmpty(); }, 1000));
+  const int necessaria = Campo("lblPercorso").fontMetrics().horizontalAdvance(Campo("lblPercorso").text());
+  EXPECT_EQ(Campo("lblPercorso").toolTip(), "") << "it is whole";
+  EXPECT_LT(Campo("lblPercorso").width(), necessaria * 5 / 4);
+  EXPECT_GT(Campo("lblCodice").width(), Campo("lblPercorso").width());
+}
+
 TEST_F(BarStato, IsReadWholeByAssistiveTechnologiesHoweverNarrow) {
   finestra_.Scegli(1);
   finestra_.Apri("FATT01.IMG");

@@ -329,6 +329,15 @@ TEST(CampiAMisura, AFlagIsAMarkInItsColourAndHollowWhereItHides) {
   EXPECT_EQ(Quanti(sezioni, 0, flag), Quanti(sezioni, 1, flag));
 }
 
+TEST(CampiAMisura, AMarkBehindTheCaretLeavesTheFieldBesideItLegible) {
+  SezioniAMisura sezioni("«S;GR»«V1;20L»|\n|\n");
+  sezioni.Editor().moveCursor(QTextCursor::End);
+  const QColor campo = ColoreIn(sezioni, 0, 0.5);
+  EXPECT_NE(campo, sezioni.Editor().palette().color(QPalette::Base));
+  sezioni.Editor().moveCursor(QTextCursor::Start);
+  EXPECT_EQ(ColoreIn(sezioni, 0, 0.5), campo);
+}
+
 TEST(CampiAMisura, TellInATooltipWhatTheyAreAndSoDoTheirMarks) {
   SezioniAMisura sezioni("abc«F2N»def«V2;20L»|\n");
   sezioni.Editor().ImpostaDescrizione([](std::string_view contenuto) { return DaUtf8(contenuto); });
