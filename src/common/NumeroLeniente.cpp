@@ -101,6 +101,10 @@ std::size_t LunghezzaLeniente(std::string_view testo) {
   return static_cast<std::size_t>(arrotondato);
 }
 
+bool HaNumero(std::string_view testo) {
+  return !TrovaPrefisso(testo).Cifre.empty();
+}
+
 bool EUnNumero(std::string_view testo) {
   const Prefisso prefisso = TrovaPrefisso(testo);
   return !prefisso.Cifre.empty() && testo.find_first_not_of(' ', prefisso.Fine) == std::string_view::npos;

@@ -31,6 +31,9 @@ inline constexpr std::size_t LunghezzaMassima = 1'000'000;
 /// LunghezzaMassima.
 std::size_t LunghezzaLeniente(std::string_view testo);
 
+/// Whether there is a number at all: of a text without one, the readings above say 0.
+bool HaNumero(std::string_view testo);
+
 /// Whether the whole of `testo` is a number in the sense above, spaces around it allowed.
 bool EUnNumero(std::string_view testo);
 

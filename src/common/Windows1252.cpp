@@ -69,4 +69,15 @@ std::string Utf8DaAnsi(std::string_view byte) {
   return utf8;
 }
 
+std::string Utf8SenzaControlli(std::string_view byte) {
+  std::string utf8;
+  utf8.reserve(byte.size());
+  for (const char c : byte) {
+    const char16_t valore = UnicodeDiAnsi[static_cast<unsigned char>(c)];
+    const bool controllo = valore < 0x20 || (valore >= 0x7F && valore < 0xA0);
+    Aggiungi(utf8, controllo ? u' ' : valore);
+  }
+  return utf8;
+}
+
 }  // namespace parvik

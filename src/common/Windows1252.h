@@ -14,6 +14,10 @@ extern const std::array<char16_t, 256> UnicodeDiAnsi;
 /// Windows-1252 bytes as UTF-8, value by value.
 std::string Utf8DaAnsi(std::string_view byte);
 
+/// The same on one line that does nothing to a terminal: control characters, those of the undefined values
+/// too, are spaces.
+std::string Utf8SenzaControlli(std::string_view byte);
+
 /// UTF-16, low byte first and without its mark, as Windows-1252: what the code page lacks becomes "?", one
 /// for each unit of two bytes. Half a unit at the end is dropped.
 std::string AnsiDaUtf16(std::string_view byte);

@@ -1,7 +1,6 @@
 #include "output/TrovaVar.h"
 
 #include "tokens/Codice.h"
-#include "tokens/CodiceCorsa.h"
 
 namespace parvik {
 namespace {
@@ -19,15 +18,22 @@ Campione Letterale(std::string_view testo) {
   return campione;
 }
 
+constexpr std::string_view ZeroIntero = "0";
+constexpr std::string_view ZeroDecimale = "0,";
+
+/// What a zero takes without any fill.
+std::size_t Occupati(const CampoCorsa& campo) {
+  return campo.Decimali ? ZeroDecimale.size() + *campo.Decimali : ZeroIntero.size();
+}
+
 /// A zero with its decimals, filled up to the width; a width too short for it is a run of "#".
 Campione CampioneNumerico(const CampoCorsa& campo) {
+  if (NonCiSta(campo)) return Ripeti('#', campo.Larghezza);
   Campione campione;
-  campione.Testo = campo.Decimali ? "0," : "0";
+  campione.Testo = campo.Decimali ? ZeroDecimale : ZeroIntero;
   campione.Zeri = campo.Decimali.value_or(0);
-  const std::size_t occupati = campione.Testo.size() + campione.Zeri;
-  if (campo.Larghezza < occupati) return Ripeti('#', campo.Larghezza);
   campione.Riempimento = campo.Riempimento;
-  (campo.ADestra ? campione.RiempiPrima : campione.RiempiDopo) = campo.Larghezza - occupati;
+  (campo.ADestra ? campione.RiempiPrima : campione.RiempiDopo) = campo.Larghezza - Occupati(campo);
   return campione;
 }
 
@@ -36,6 +42,10 @@ Campione CampioneDi(const CampoCorsa& campo) {
 }
 
 }  // namespace
+
+bool NonCiSta(const CampoCorsa& campo) {
+  return campo.Zero && campo.Larghezza < Occupati(campo);
+}
 
 StatiFlag::StatiFlag(const FlagPerStampe& flag) {
   for (std::size_t i = flag.Righe().size(); i > 0; --i) {  // the first row of a number comes last, and stays

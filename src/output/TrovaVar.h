@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "output/FlagPerStampe.h"
+#include "tokens/CodiceCorsa.h"
 
 namespace parvik {
 
@@ -25,6 +26,9 @@ struct Campione {
   std::size_t Lunghezza() const { return RiempiPrima + Testo.size() + Zeri + RiempiDopo; }
   bool operator==(const Campione&) const = default;
 };
+
+/// Whether the zero that a field shows, with its decimals, is longer than the field: "#" comes out instead.
+bool NonCiSta(const CampoCorsa& campo);
 
 /// What a run keeps from code to code.
 struct Memoria {

@@ -38,6 +38,30 @@ void LeggiInterruttori(std::string_view testo, ImpostazioniCorpo& corpo) {
   if (secondo != std::string_view(&DelimFileChiusura, 1)) corpo.FlagAccorpa = secondo;
 }
 
+/// Takes what a text begins with, piece by piece.
+class Assaggio {
+ public:
+  explicit Assaggio(std::string_view testo) : testo_(testo) {}
+
+  std::size_t Presi() const { return presi_; }
+  bool Prendi(char c) {
+    const bool preso = presi_ < testo_.size() && testo_[presi_] == c;
+    if (preso) ++presi_;
+    return preso;
+  }
+  /// A minus sign or none, and digits.
+  bool PrendiIntero() {
+    Prendi('-');
+    const std::size_t prima = presi_;
+    while (presi_ < testo_.size() && Cifra(testo_[presi_])) ++presi_;
+    return presi_ > prima;
+  }
+
+ private:
+  std::string_view testo_;
+  std::size_t presi_ = 0;
+};
+
 std::size_t FineRigaDa(std::string_view byte, std::size_t inizio) {
   LettoreRighe righe(byte.substr(inizio));
   righe.Prossima();
@@ -53,6 +77,18 @@ std::optional<Marcatore> TrovaMarcatore(std::string_view byte, std::size_t da) {
   const std::size_t dopoCr = byte.rfind('\r', coppia) + 1;  // another line lies before this one
   const std::size_t inizio = dopoCr + (byte[dopoCr] == '\n' ? 1 : 0);
   return Marcatore{.InizioRiga = inizio, .Coppia = coppia, .FineRiga = FineRigaDa(byte, inizio)};
+}
+
+std::size_t MarcatoreIntero(std::string_view testo) {
+  const bool diFile = testo.starts_with(DelimFileApertura);
+  Assaggio assaggio(testo);
+  const bool comincia = assaggio.Prendi(diFile ? DelimFileApertura : DelimApertura) && assaggio.Prendi('C');
+  const bool numeri = comincia && assaggio.PrendiIntero() && assaggio.Prendi(';') &&
+                      assaggio.PrendiIntero() && assaggio.Prendi(';');
+  if (!numeri) return 0;
+  assaggio.Prendi('C');
+  assaggio.Prendi('S');
+  return assaggio.Prendi(diFile ? DelimFileChiusura : DelimChiusura) ? assaggio.Presi() : 0;
 }
 
 Esito<void> LeggiMarcatore(std::string_view byte, const Marcatore& marcatore, ImpostazioniCorpo& corpo) {

@@ -33,6 +33,11 @@ struct Marcatore {
 /// is none. In the first line of the file it is never looked for.
 std::optional<Marcatore> TrovaMarcatore(std::string_view byte, std::size_t da);
 
+/// How many bytes the whole marker takes that a text of a section or of a file begins with: an opening
+/// delimiter, C, an integer, ";", an integer, ";", a C or not, an S or not, and the closing delimiter, each
+/// as it is written. 0 when the text begins with none.
+std::size_t MarcatoreIntero(std::string_view testo);
+
 /// Reads the settings. What was set before an error, and what the line does not set, stays.
 Esito<void> LeggiMarcatore(std::string_view byte, const Marcatore& marcatore, ImpostazioniCorpo& corpo);
 

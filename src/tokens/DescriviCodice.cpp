@@ -29,20 +29,9 @@ constexpr std::int16_t Acceso = 1;
 constexpr std::array<std::string_view, 5> NomiStile = {"Normale", "Grassetto", "Compresso",
                                                        "Corsivo o Italico", "Sottolineato"};
 
-/// Words of the template or of the catalogue: UTF-8, on one line.
-std::string Parole(std::string_view ansi) {
-  const auto controllo = [](char c) {
-    const char16_t unicode = UnicodeDiAnsi[static_cast<unsigned char>(c)];
-    return unicode < 0x20 || (unicode >= 0x7F && unicode < 0xA0);
-  };
-  std::string pulito(ansi);
-  std::ranges::replace_if(pulito, controllo, ' ');
-  return Utf8DaAnsi(pulito);
-}
-
-/// The same without the spaces around them.
+/// Words of the template or of the catalogue, without the spaces around them.
 std::string ParoleRifilate(std::string_view ansi) {
-  return std::string(Rifila(Parole(ansi)));
+  return std::string(Rifila(Utf8SenzaControlli(ansi)));
 }
 
 /// `parte` after `testo`; nothing when `parte` is empty.
@@ -60,7 +49,7 @@ std::string Decimali(const std::string& decimali) {
   if (decimali == "0") return {};
   if (decimali == "*") return "decimali secondo il valore";
   if (decimali == "1") return "1 decimale";
-  return Parole(decimali) + " decimali";
+  return Utf8SenzaControlli(decimali) + " decimali";
 }
 
 std::string Formato(const Variabile& formato) {
@@ -72,7 +61,7 @@ std::string Formato(const Variabile& formato) {
   const auto aggiungi = [&testo](bool vale, std::string_view parte) {
     if (vale) Aggiungi(testo, ", ", parte);
   };
-  aggiungi(!formato.Testo1.empty(), "riempimento \"" + Parole(formato.Testo1) + "\"");
+  aggiungi(!formato.Testo1.empty(), "riempimento \"" + Utf8SenzaControlli(formato.Testo1) + "\"");
   aggiungi(true, Decimali(formato.Testo2));
   aggiungi(formato.Intero8 == Acceso, "separatore migliaia");
   aggiungi(formato.Intero7 == Acceso, "zero visibile");
@@ -132,7 +121,7 @@ Detto DescriviLingua(std::string_view contenuto) {
 }
 
 Detto DescriviTesto(const char* genere, const std::string& ansi) {
-  return {.Genere = genere, .Nome = Parole(ansi)};
+  return {.Genere = genere, .Nome = Utf8SenzaControlli(ansi)};
 }
 
 Detto Descrivi(std::string_view contenuto, std::span<const Variabile> variabili, std::span<const Flag> flag) {
