@@ -58,6 +58,6 @@ END
 field Depends | tr ',' '\n' | sed 's/|.*//; s/(.*//; s/ //g' | sort -u | while read -r library; do
   part DEPENDS_ON "$library"
 done
-for contained in libcli11-dev "$(dpkg-query -S "$(g++ -print-file-name=libstdc++.a)" | cut -d : -f 1)"; do
+for contained in libcli11-dev nlohmann-json3-dev "$(dpkg-query -S "$(g++ -print-file-name=libstdc++.a)" | cut -d : -f 1)"; do
   part CONTAINS "$contained"
 done

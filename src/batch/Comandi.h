@@ -8,13 +8,24 @@
 #include <vector>
 
 #include "common/Sezione.h"
+#include "verifica/Verifica.h"
 
 namespace parvik::batch {
 
 /// A promise to scripts.
 enum class Uscita {
   Fatto = 0,
-  NonFatto = 2,  // something could not be done
+  ConRilievi = 1,  // done, and there is something to mend
+  NonFatto = 2,    // something could not be done
+};
+
+/// What verifica alone is told.
+struct ComeVerificare {
+  OpzioniVerifica Opzioni = {};
+  bool Severo = false;  // warnings count
+  bool Json = false;
+  bool Sommario = false;
+  bool ElencoRegole = false;
 };
 
 struct Opzioni {
@@ -22,15 +33,18 @@ struct Opzioni {
   std::optional<std::filesystem::path> Velkor;  // a host directory
   std::optional<std::filesystem::path> Campi;   // a catalogue
   int Tipo = 0;                                 // as the catalogue writes it: slot + 1
+  bool TipoAuto = false;                        // instead: of each file, by its name
   std::optional<Sezione> SolaSezione;
   std::vector<int> Veri;                        // the print flags that are true
   std::optional<std::filesystem::path> Uscita;  // instead of standard output, or of the file itself
   std::vector<std::filesystem::path> File;
+  ComeVerificare Rilievi;
 };
 
 Uscita Tipi(const Opzioni& opzioni);
 Uscita Campi(const Opzioni& opzioni);
 Uscita Stampa(const Opzioni& opzioni);
 Uscita Normalizza(const Opzioni& opzioni);
+Uscita Verifica(const Opzioni& opzioni);
 
 }  // namespace parvik::batch

@@ -2,7 +2,6 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,6 +9,7 @@
 
 #include "batch/Messaggi.h"
 #include "batch/Parole.h"
+#include "batch/Valori.h"
 #include "common/TestoMostrabile.h"
 #include "start/Versione.h"
 
@@ -17,45 +17,6 @@ namespace parvik::batch {
 namespace {
 
 using Comando = Uscita (*)(const Opzioni&);
-
-// Checks of single values: the text that says what is wrong, or nothing.
-
-std::string NonVuoto(const std::string& valore) {
-  return valore.empty() ? "vuole un nome" : "";
-}
-
-std::optional<int> NumeroIntero(std::string_view testo) {
-  int numero = 0;
-  const auto [resto, errore] = std::from_chars(testo.data(), testo.data() + testo.size(), numero);
-  if (errore != std::errc() || resto != testo.data() + testo.size()) return std::nullopt;
-  return numero;
-}
-
-std::string Numero(const std::string& valore) {
-  return NumeroIntero(valore) ? "" : "vuole un numero, non \"" + Mostrabile(valore) + "\"";
-}
-
-std::string NomeSezione(const std::string& valore) {
-  const bool noto = std::ranges::find(NomiSezioni, valore) != NomiSezioni.end();
-  return noto ? "" : "vuole testata, corpo o piede, non \"" + Mostrabile(valore) + "\"";
-}
-
-/// "3,14,97" as numbers; nullopt when one is none.
-std::optional<std::vector<int>> Numeri(std::string_view elenco) {
-  std::vector<int> numeri;
-  while (!elenco.empty()) {
-    const std::size_t fine = std::min(elenco.find(','), elenco.size());
-    const std::optional<int> numero = NumeroIntero(elenco.substr(0, fine));
-    if (!numero) return std::nullopt;
-    numeri.push_back(*numero);
-    elenco.remove_prefix(std::min(fine + 1, elenco.size()));
-  }
-  return numeri;
-}
-
-std::string ElencoDiNumeri(const std::string& valore) {
-  return Numeri(valore) ? "" : "vuole numeri separati da virgole, non \"" + Mostrabile(valore) + "\"";
-}
 
 /// A word of the command line in a message.
 std::string Detta(const std::string& parola) {
@@ -81,6 +42,7 @@ class RigaDiComando {
     AggiungiCampi();
     AggiungiStampa();
     AggiungiNormalizza();
+    AggiungiVerifica();
   }
 
   Uscita Esegui(int argc, char** argv) {
@@ -97,6 +59,10 @@ class RigaDiComando {
     Completa(argv[0]);
     if (comando_ == Normalizza && opzioni_.Uscita && opzioni_.File.size() > 1) {
       Segnala("-o vuole un file solo: " + Mostrabile(opzioni_.Uscita->string()));
+      return Uscita::NonFatto;
+    }
+    if (const std::string manca = Manca(); !manca.empty()) {
+      Segnala("manca " + manca + " (--help elenca gli argomenti)");
       return Uscita::NonFatto;
     }
     return comando_(opzioni_);
@@ -116,6 +82,13 @@ class RigaDiComando {
       return opzione->get_items_expected_min() > 0 ? GenereOpzione::ConValore : GenereOpzione::SenzaValore;
     }
     return GenereOpzione::Sconosciuta;
+  }
+
+  /// What a command lacks that it does not always want.
+  std::string Manca() const {
+    if (comando_ != Verifica || opzioni_.Rilievi.ElencoRegole) return {};
+    if (tipo_.empty()) return "--tipo";
+    return file_.empty() ? "IMG" : "";
   }
 
   /// What the library says of the arguments, in the user's language.
@@ -183,6 +156,12 @@ class RigaDiComando {
         ->check(Numero);
   }
 
+  void AggiungiTipoOAuto(CLI::App& app) {
+    Aggiungi(app, "--tipo", tipo_, "Numero del tipo di documento, o auto: dal nome del file")
+        ->type_name("N|auto")
+        ->check(NumeroOAuto);
+  }
+
   void AggiungiFile(CLI::App& app) {
     AggiungiNome(app, "IMG", file_, "Modelli di stampa (*.img)")->required();
   }
@@ -211,6 +190,30 @@ class RigaDiComando {
     AggiungiFile(app);
   }
 
+  void AggiungiVerifica() {
+    CLI::App& app = AggiungiComando("verifica", "Dice che cosa non va nei modelli, riga per riga", Verifica);
+    ComeVerificare& come = opzioni_.Rilievi;
+    AggiungiTipoOAuto(app);
+    app.add_flag("--severo", come.Severo, "Stato 1 anche con soli avvisi");
+    app.add_flag("--json", come.Json, "Un documento JSON");
+    app.add_flag("--sommario", come.Sommario, "Solo quanti errori e avvisi ha ogni file");
+    app.add_flag("--regole", come.ElencoRegole, "Elenca le regole ed esce");
+    AggiungiRegole(app, "--solo", solo_, "Solo queste regole");
+    AggiungiRegole(app, "--escludi", escluse_, "Non queste regole");
+    AggiungiQuanti(app, "--larghezza", larghezza_, "Caratteri che una riga stampata può avere");
+    AggiungiQuanti(app, "--righe", righe_, "Righe che una pagina può avere");
+    app.add_flag("--cornici", come.Opzioni.Cornici, "Guarda anche se le cornici combaciano");
+    AggiungiNome(app, "IMG", file_, "Modelli di stampa (*.img)");
+  }
+
+  static void AggiungiRegole(CLI::App& app, const char* opzione, std::string& regole, const char* scopo) {
+    Aggiungi(app, opzione, regole, scopo)->type_name("R,R")->check(ElencoDiRegole);
+  }
+
+  static void AggiungiQuanti(CLI::App& app, const char* opzione, std::string& quanti, const char* scopo) {
+    Aggiungi(app, opzione, quanti, scopo)->type_name("N")->check(NumeroPositivo);
+  }
+
   /// From what was written to what it means; every value has passed its check.
   void Completa(const char* programma) {
     opzioni_.Programma = programma;
@@ -218,12 +221,26 @@ class RigaDiComando {
     if (!campi_.empty()) opzioni_.Campi = campi_;
     if (!uscita_.empty()) opzioni_.Uscita = uscita_;
     opzioni_.Tipo = NumeroIntero(tipo_).value_or(0);
+    opzioni_.TipoAuto = tipo_ == Auto;
+    CompletaVerifica(opzioni_.Rilievi.Opzioni);
     opzioni_.Veri = Numeri(veri_).value_or(std::vector<int>());
     opzioni_.File.assign(file_.begin(), file_.end());
     const auto nome = std::ranges::find(NomiSezioni, sezione_);
     if (nome != NomiSezioni.end()) {
       opzioni_.SolaSezione = TutteLeSezioni[static_cast<std::size_t>(nome - NomiSezioni.begin())];
     }
+  }
+
+  void CompletaVerifica(OpzioniVerifica& opzioni) const {
+    if (!solo_.empty()) opzioni.Regole = Regole(solo_).value_or(InsiemeRegole());
+    opzioni.Regole.TogliTutte(Regole(escluse_).value_or(InsiemeRegole()));
+    const auto quanti = [](const std::string& scritti) -> std::optional<std::size_t> {
+      const std::optional<int> numero = NumeroIntero(scritti);
+      if (!numero) return std::nullopt;
+      return static_cast<std::size_t>(*numero);
+    };
+    opzioni.Larghezza = quanti(larghezza_);
+    opzioni.Righe = quanti(righe_);
   }
 
   CLI::App app_{"Modelli di stampa di Velkor da riga di comando"};
@@ -235,6 +252,10 @@ class RigaDiComando {
   std::string sezione_;
   std::string veri_;
   std::string uscita_;
+  std::string solo_;
+  std::string escluse_;
+  std::string larghezza_;
+  std::string righe_;
   std::vector<std::string> file_;
 };
 

@@ -23,15 +23,15 @@ TEST(RigaDiComando, ShowsAHelpThatNamesEveryCommand) {
     EXPECT_EQ(aiuto.Stato, 0);
     EXPECT_EQ(aiuto.Errori, "");
     EXPECT_THAT(aiuto.Uscita, HasSubstr("Uso: parvik32-batch [OPZIONI] COMANDO\n"));
-    for (const char* nome :
-         {"--velkor DIR", "--campi FILE", "\n  tipi ", "\n  campi ", "\n  stampa ", "\n  normalizza "}) {
+    for (const char* nome : {"--velkor DIR", "--campi FILE", "\n  tipi ", "\n  campi ", "\n  stampa ",
+                             "\n  normalizza ", "\n  verifica "}) {
       EXPECT_THAT(aiuto.Uscita, HasSubstr(nome));
     }
   }
 }
 
 TEST(RigaDiComando, ShowsAHelpForEachCommand) {
-  for (const std::string comando : {"tipi", "campi", "stampa", "normalizza"}) {
+  for (const std::string comando : {"tipi", "campi", "stampa", "normalizza", "verifica"}) {
     const Esecuzione aiuto = Esegui({comando, "--help"});
     EXPECT_EQ(aiuto.Stato, 0) << comando;
     EXPECT_EQ(aiuto.Errori, "");

@@ -72,6 +72,9 @@ TEST(BatchPage, ShowsHowTemplatesAreRendered) {
 TEST(BatchPage, ShowsHowTemplatesAreNormalised) {
   ControllaSessione("session-normalizza");
 }
+TEST(BatchPage, ShowsHowTemplatesAreChecked) {
+  ControllaSessione("session-verifica");
+}
 TEST(BatchPage, ShowsWhatIsSaidOfErrors) {
   ControllaSessione("session-errors");
 }

@@ -1,0 +1,32 @@
+#include "batch/Json.h"
+
+#include "batch/Messaggi.h"
+#include "common/TestoMostrabile.h"
+
+namespace parvik::batch {
+
+std::string NomePerJson(const std::filesystem::path& file) {
+  std::string nome = file.string();
+  try {
+    static_cast<void>(Json(nome).dump());
+    return nome;
+  } catch (const Json::type_error&) {  // what it says of bytes that are no UTF-8
+    return Mostrabile(nome);
+  }
+}
+
+bool ElencoJson::Inizia() {
+  return Stampa("[");
+}
+
+bool ElencoJson::Aggiungi(const Json& elemento) {
+  const std::string prima = vuoto_ ? "\n" : ",\n";
+  vuoto_ = false;
+  return Stampa(prima + elemento.dump());
+}
+
+bool ElencoJson::Finisci() {
+  return Stampa(vuoto_ ? "]\n" : "\n]\n");
+}
+
+}  // namespace parvik::batch

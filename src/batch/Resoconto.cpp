@@ -1,0 +1,130 @@
+#include "batch/Resoconto.h"
+
+#include <algorithm>
+#include <string>
+
+#include "batch/Json.h"
+#include "batch/Messaggi.h"
+#include "common/TestoMostrabile.h"
+#include "common/Windows1252.h"
+
+namespace parvik::batch {
+namespace {
+
+struct Conti {
+  std::size_t Errori = 0;
+  std::size_t Avvisi = 0;
+};
+
+Conti Conta(std::span<const Rilievo> rilievi) {
+  const auto errori =
+      std::ranges::count_if(rilievi, [](const Rilievo& r) { return r.Grado() == Livello::Errore; });
+  return {.Errori = static_cast<std::size_t>(errori),
+          .Avvisi = rilievi.size() - static_cast<std::size_t>(errori)};
+}
+
+std::string Quanti(std::size_t numero, std::string_view uno, std::string_view tanti) {
+  return std::to_string(numero) + " " + std::string(numero == 1 ? uno : tanti);
+}
+
+class RigheDiTesto final : public Resoconto {
+ public:
+  bool File(const std::filesystem::path& file, std::span<const Rilievo> rilievi) override {
+    if (rilievi.empty()) return true;
+    const std::string nome = Mostrabile(file.string()) + ":";
+    std::string righe;
+    for (const Rilievo& rilievo : rilievi) {
+      righe += nome + std::to_string(rilievo.Riga) + ":" + std::to_string(rilievo.Colonna) + ": ";
+      righe.append(NomeLivello(rilievo.Grado())).append(": ").append(rilievo.Testo);
+      righe.append(" [").append(VoceDi(rilievo.Quale).Nome).append("]\n");
+    }
+    return Stampa(righe);
+  }
+};
+
+class RigheDiSommario final : public Resoconto {
+ public:
+  bool File(const std::filesystem::path& file, std::span<const Rilievo> rilievi) override {
+    const Conti conti = Conta(rilievi);
+    return Stampa(Mostrabile(file.string()) + ": " + Quanti(conti.Errori, "errore", "errori") + ", " +
+                  Quanti(conti.Avvisi, "avviso", "avvisi") + "\n");
+  }
+};
+
+Json OppureNiente(std::optional<std::string> testo) {
+  return testo ? Json(std::move(*testo)) : Json();
+}
+
+Json PerJson(const Rilievo& rilievo) {
+  std::optional<std::string> sezione;
+  if (rilievo.Dove) sezione = NomiSezioni[Indice(*rilievo.Dove)];
+  std::optional<std::string> proposta;
+  if (rilievo.Proposta) proposta = Utf8DaAnsi(*rilievo.Proposta);
+  return {{"regola", VoceDi(rilievo.Quale).Nome},
+          {"livello", NomeLivello(rilievo.Grado())},
+          {"sezione", OppureNiente(std::move(sezione))},
+          {"riga", rilievo.Riga},
+          {"colonna", rilievo.Colonna},
+          {"lunghezza", rilievo.Lunghezza},
+          {"testo", rilievo.Testo},
+          {"proposta", OppureNiente(std::move(proposta))}};
+}
+
+class DocumentoJson final : public Resoconto {
+ public:
+  bool Inizia() override { return elenco_.Inizia(); }
+  bool File(const std::filesystem::path& file, std::span<const Rilievo> rilievi) override {
+    Json risultati = Json::array();
+    for (const Rilievo& rilievo : rilievi) risultati.push_back(PerJson(rilievo));
+    return elenco_.Aggiungi({{"file", NomePerJson(file)}, {"risultati", std::move(risultati)}});
+  }
+  bool Finisci() override { return elenco_.Finisci(); }
+
+ private:
+  ElencoJson elenco_;
+};
+
+class SommarioJson final : public Resoconto {
+ public:
+  bool Inizia() override { return elenco_.Inizia(); }
+  bool File(const std::filesystem::path& file, std::span<const Rilievo> rilievi) override {
+    const Conti conti = Conta(rilievi);
+    return elenco_.Aggiungi(
+        {{"file", NomePerJson(file)}, {"errori", conti.Errori}, {"avvisi", conti.Avvisi}});
+  }
+  bool Finisci() override { return elenco_.Finisci(); }
+
+ private:
+  ElencoJson elenco_;
+};
+
+}  // namespace
+
+std::unique_ptr<Resoconto> ResocontoPer(const ComeVerificare& come) {
+  if (come.Json && come.Sommario) return std::make_unique<SommarioJson>();
+  if (come.Json) return std::make_unique<DocumentoJson>();
+  if (come.Sommario) return std::make_unique<RigheDiSommario>();
+  return std::make_unique<RigheDiTesto>();
+}
+
+bool StampaRegole(const ComeVerificare& come) {
+  if (come.Json) {
+    ElencoJson elenco;
+    bool scritto = elenco.Inizia();
+    for (const VoceRegola& voce : Regole()) {
+      scritto = scritto && elenco.Aggiungi({{"regola", voce.Nome},
+                                            {"livello", NomeLivello(voce.Grado)},
+                                            {"trova", voce.Trova},
+                                            {"corregge", voce.Corregge}});
+    }
+    return scritto && elenco.Finisci();
+  }
+  std::string tabella;
+  for (const VoceRegola& voce : Regole()) {
+    tabella.append(voce.Nome).append("\t").append(NomeLivello(voce.Grado)).append("\t");
+    tabella.append(voce.Corregge ? "corregge" : "").append("\t").append(voce.Trova).append("\n");
+  }
+  return Stampa(tabella);
+}
+
+}  // namespace parvik::batch

@@ -1,0 +1,91 @@
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "batch/Catalogo.h"
+#include "batch/Comandi.h"
+#include "batch/Messaggi.h"
+#include "batch/Resoconto.h"
+#include "batch/TipiInEsame.h"
+#include "sistema/LetturaFile.h"
+
+namespace parvik::batch {
+namespace {
+
+/// Several files, and what they come to.
+class Giro {
+ public:
+  Giro(const Opzioni& opzioni, const CatalogoScelto& catalogo, const TipoDoc* tipo)
+      : come_(opzioni.Rilievi), tipi_(catalogo), tipo_(tipo), resoconto_(ResocontoPer(come_)) {}
+
+  Uscita Esegui(const std::vector<std::filesystem::path>& file) {
+    if (tipo_ != nullptr && tipi_.Per(*tipo_) == nullptr) return Uscita::NonFatto;
+    if (!resoconto_->Inizia()) return Uscita::NonFatto;
+    for (const std::filesystem::path& uno : file)
+      if (!UnFile(uno)) return Uscita::NonFatto;
+    return resoconto_->Finisci() ? uscita_ : Uscita::NonFatto;
+  }
+
+ private:
+  /// False when standard output takes no more.
+  bool UnFile(const std::filesystem::path& file) {
+    const std::optional<std::vector<Rilievo>> trovati = Esamina(file);
+    if (!trovati) {
+      uscita_ = Uscita::NonFatto;
+      return true;
+    }
+    Conta(*trovati);
+    return resoconto_->File(file, *trovati);
+  }
+
+  /// nullopt after a message.
+  std::optional<std::vector<Rilievo>> Esamina(const std::filesystem::path& file) {
+    const Esito<std::string> byte = LeggiFile(file);
+    if (!byte) return Segnalato(file, byte.Errore());
+    const TipoDoc* tipo = tipo_;
+    if (tipo == nullptr) {
+      const std::vector<const TipoDoc*> tipi = tipi_.PerNome(file);
+      if (tipi.size() != 1) return DiTipoIncerto(tipi);
+      tipo = tipi.front();
+    }
+    Verificatore* verificatore = tipi_.Per(*tipo);
+    if (verificatore == nullptr) return std::nullopt;
+    EsitoVerifica trovati = verificatore->File(*byte, come_.Opzioni);
+    if (!trovati) return Segnalato(file, trovati.Errore());
+    return std::move(*trovati);
+  }
+
+  static std::nullopt_t Segnalato(const std::filesystem::path& file, NumeroErrore errore) {
+    Segnala(file, errore);
+    return std::nullopt;
+  }
+
+  std::vector<Rilievo> DiTipoIncerto(const std::vector<const TipoDoc*>& tipi) const {
+    if (!come_.Opzioni.Regole.Ha(Regola::TipoIncerto)) return {};
+    return {TipoIncerto(tipi)};
+  }
+
+  void Conta(const std::vector<Rilievo>& rilievi) {
+    const auto conta = [this](const Rilievo& r) { return come_.Severo || r.Grado() == Livello::Errore; };
+    if (uscita_ == Uscita::Fatto && std::ranges::any_of(rilievi, conta)) uscita_ = Uscita::ConRilievi;
+  }
+
+  const ComeVerificare& come_;
+  TipiInEsame tipi_;
+  const TipoDoc* tipo_;  // of all files; nullptr where each file's name tells it
+  std::unique_ptr<Resoconto> resoconto_;
+  Uscita uscita_ = Uscita::Fatto;
+};
+
+}  // namespace
+
+Uscita Verifica(const Opzioni& opzioni) {
+  if (opzioni.Rilievi.ElencoRegole) return StampaRegole(opzioni.Rilievi) ? Uscita::Fatto : Uscita::NonFatto;
+  const auto catalogo = ApriCatalogo(opzioni);
+  if (!catalogo) return Uscita::NonFatto;
+  const TipoDoc* tipo = opzioni.TipoAuto ? nullptr : TrovaTipo(*catalogo, opzioni.Tipo);
+  if (tipo == nullptr && !opzioni.TipoAuto) return Uscita::NonFatto;
+  return Giro(opzioni, *catalogo, tipo).Esegui(opzioni.File);
+}
+
+}  // namespace parvik::batch
