@@ -26,6 +26,8 @@ struct ComeVerificare {
   bool Json = false;
   bool Sommario = false;
   bool ElencoRegole = false;
+  bool Correggi = false;  // mend what has one right answer
+  bool Prova = false;     // show the mends, and write nothing
 };
 
 struct Opzioni {

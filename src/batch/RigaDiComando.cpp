@@ -198,6 +198,8 @@ class RigaDiComando {
     app.add_flag("--json", come.Json, "Un documento JSON");
     app.add_flag("--sommario", come.Sommario, "Solo quanti errori e avvisi ha ogni file");
     app.add_flag("--regole", come.ElencoRegole, "Elenca le regole ed esce");
+    app.add_flag("--correggi", come.Correggi, "Corregge ciò che si corregge in un modo solo; tiene IMG~");
+    app.add_flag("--prova", come.Prova, "Mostra le correzioni, e non scrive niente");
     AggiungiRegole(app, "--solo", solo_, "Solo queste regole");
     AggiungiRegole(app, "--escludi", escluse_, "Non queste regole");
     AggiungiQuanti(app, "--larghezza", larghezza_, "Caratteri che una riga stampata può avere");

@@ -4,6 +4,7 @@
 
 #include "batch/Catalogo.h"
 #include "batch/Comandi.h"
+#include "batch/Correggi.h"
 #include "batch/Messaggi.h"
 #include "batch/Resoconto.h"
 #include "batch/TipiInEsame.h"
@@ -16,14 +17,18 @@ namespace {
 class Giro {
  public:
   Giro(const Opzioni& opzioni, const CatalogoScelto& catalogo, const TipoDoc* tipo)
-      : come_(opzioni.Rilievi), tipi_(catalogo), tipo_(tipo), resoconto_(ResocontoPer(come_)) {}
+      : come_(opzioni.Rilievi),
+        catalogo_(catalogo.Campi),
+        tipi_(catalogo),
+        tipo_(tipo),
+        resoconto_(ResocontoPer(come_)) {}
 
   Uscita Esegui(const std::vector<std::filesystem::path>& file) {
     if (tipo_ != nullptr && tipi_.Per(*tipo_) == nullptr) return Uscita::NonFatto;
-    if (!resoconto_->Inizia()) return Uscita::NonFatto;
+    if (!come_.Prova && !resoconto_->Inizia()) return Uscita::NonFatto;
     for (const std::filesystem::path& uno : file)
       if (!UnFile(uno)) return Uscita::NonFatto;
-    return resoconto_->Finisci() ? uscita_ : Uscita::NonFatto;
+    return come_.Prova || resoconto_->Finisci() ? uscita_ : Uscita::NonFatto;
   }
 
  private:
@@ -35,22 +40,35 @@ class Giro {
       return true;
     }
     Conta(*trovati);
+    if (come_.Prova) return true;  // the changes are all that is shown
     return resoconto_->File(file, *trovati);
   }
 
   /// nullopt after a message.
   std::optional<std::vector<Rilievo>> Esamina(const std::filesystem::path& file) {
-    const Esito<std::string> byte = LeggiFile(file);
-    if (!byte) return Segnalato(file, byte.Errore());
     const TipoDoc* tipo = tipo_;
     if (tipo == nullptr) {
       const std::vector<const TipoDoc*> tipi = tipi_.PerNome(file);
-      if (tipi.size() != 1) return DiTipoIncerto(tipi);
+      if (tipi.size() != 1) return DiTipoIncerto(file, tipi);
       tipo = tipi.front();
     }
     Verificatore* verificatore = tipi_.Per(*tipo);
     if (verificatore == nullptr) return std::nullopt;
-    EsitoVerifica trovati = verificatore->File(*byte, come_.Opzioni);
+    if (Corregge()) {
+      const auto corretto = CorreggiFile(file, *verificatore, catalogo_, come_);
+      if (!corretto) return std::nullopt;
+      return OSegnalato(file, verificatore->File(*corretto, come_.Opzioni));
+    }
+    PreparaImmagine prepara(FormatoDi(tipo->NumSezioni));
+    Esito<ByteFile> byte = LeggiFile(file, [&prepara](std::span<char> finora) { prepara.Prosegui(finora); });
+    if (!byte) return Segnalato(file, byte.Errore());
+    return OSegnalato(file, verificatore->File(std::move(*byte), prepara, come_.Opzioni));
+  }
+
+  bool Corregge() const { return come_.Correggi || come_.Prova; }
+
+  static std::optional<std::vector<Rilievo>> OSegnalato(const std::filesystem::path& file,
+                                                        EsitoVerifica trovati) {
     if (!trovati) return Segnalato(file, trovati.Errore());
     return std::move(*trovati);
   }
@@ -60,9 +78,12 @@ class Giro {
     return std::nullopt;
   }
 
-  std::vector<Rilievo> DiTipoIncerto(const std::vector<const TipoDoc*>& tipi) const {
-    if (!come_.Opzioni.Regole.Ha(Regola::TipoIncerto)) return {};
-    return {TipoIncerto(tipi)};
+  std::optional<std::vector<Rilievo>> DiTipoIncerto(const std::filesystem::path& file,
+                                                    const std::vector<const TipoDoc*>& tipi) const {
+    if (const Esito<void> leggibile = ProvaLettura(file); !leggibile)
+      return Segnalato(file, leggibile.Errore());
+    if (!come_.Opzioni.Regole.Ha(Regola::TipoIncerto)) return std::vector<Rilievo>();
+    return std::vector<Rilievo>{TipoIncerto(tipi)};
   }
 
   void Conta(const std::vector<Rilievo>& rilievi) {
@@ -71,6 +92,7 @@ class Giro {
   }
 
   const ComeVerificare& come_;
+  const Catalogo& catalogo_;
   TipiInEsame tipi_;
   const TipoDoc* tipo_;  // of all files; nullptr where each file's name tells it
   std::unique_ptr<Resoconto> resoconto_;

@@ -118,7 +118,8 @@ Esito<std::unique_ptr<const ImmagineInPosto>> ImmagineInPosto::Apri(ByteFile byt
 ImmagineInPosto::ImmagineInPosto(ByteFile byte, PreparaImmagine prepara, const ImpostazioniCorpo& attuali)
     : byte_(std::move(byte)) {
   prepara.Concludi(byte_);
-  divisa_ = Dividi({byte_.data(), byte_.size()}, prepara.Per(), prepara.Trovato(), attuali);
+  marcatore_ = prepara.Trovato();
+  divisa_ = Dividi(Byte(), prepara.Per(), marcatore_, attuali);
   for (std::size_t i = 0; i < MaxSezioni; ++i) {
     std::string_view& righe = divisa_.Righe[i];
     if (righe.empty() || (!prepara.CrSoli() && righe.ends_with(FineRiga))) continue;

@@ -58,11 +58,16 @@ class ImmagineInPosto {
   const EsitoImmagine& Esito() const { return divisa_; }
   /// The same texts as LeggiImmagine's, valid as long as this object.
   const std::array<std::string_view, MaxSezioni>& Testi() const { return divisa_.Righe; }
+  /// The line of the marker, nullopt in the one-section layout too. Its places are those of the bytes below.
+  const std::optional<Marcatore>& RigaDelMarcatore() const { return marcatore_; }
+  /// The file's bytes: codes may have the editor's delimiters, but the marker's line is as it was.
+  std::string_view Byte() const { return {byte_.data(), byte_.size()}; }
 
  private:
   ImmagineInPosto(ByteFile byte, PreparaImmagine prepara, const ImpostazioniCorpo& attuali);
 
   ByteFile byte_;
+  std::optional<Marcatore> marcatore_;
   TestiSezioni completati_;
   ImmagineDivisa divisa_;
 };

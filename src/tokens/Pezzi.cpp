@@ -26,7 +26,11 @@ void LettorePezzi::CercaDaQui() {
   } else if (codice_.Apertura < qui_) {
     codice_.Apertura = TrovaByte(testo_, DelimApertura, qui_);
   }
-  if (chiusura_ < qui_) chiusura_ = TrovaByte(testo_, DelimChiusura, qui_);
+  if (chiusura_ >= qui_) return;
+  // What lies in front of the code has none, mostly; the code's own is known.
+  const std::string_view davanti = testo_.substr(0, codice_.Apertura);
+  chiusura_ = TrovaByte(davanti, DelimChiusura, qui_);
+  if (chiusura_ == davanti.size()) chiusura_ = codice_.Chiusura;
 }
 
 }  // namespace parvik

@@ -103,8 +103,6 @@ std::string CodiceCitato(std::string_view contenuto) {
 EsameCodici::EsameCodici(VociTipo& voci, Ricerca dove) : voci_(voci), dove_(dove) {}
 
 const EsitoCodice& EsameCodici::operator()(std::string_view contenuto) {
-  const auto noto = inOrdine_.find(contenuto);
-  if (noto != inOrdine_.end()) return noto->second;
   Esamina(contenuto);
   const bool daTenere = esito_.Giudizi.empty() && contenuto.size() <= LunghezzaInOrdine;
   if (daTenere && inOrdine_.size() < MassimiInOrdine) inOrdine_.emplace(contenuto, esito_);

@@ -46,7 +46,12 @@ class EsameCodici {
   /// `voci` must outlive this.
   EsameCodici(VociTipo& voci, Ricerca dove);
 
-  /// A whole code without its delimiters, and none inside. Valid until the next call.
+  /// A content that was found in order before, if it is still known; nullptr otherwise.
+  const EsitoCodice* InOrdine(std::string_view contenuto) const {
+    const auto noto = inOrdine_.find(contenuto);
+    return noto == inOrdine_.end() ? nullptr : &noto->second;
+  }
+  /// A whole code without its delimiters, in one line and with no opening inside. Valid until the next call.
   const EsitoCodice& operator()(std::string_view contenuto);
 
  private:

@@ -12,7 +12,7 @@ void EsameFlag::Flag(Selezione dove, const EsitoCodice& esito) {
   inAttesa_.push_back(dove);
 }
 
-void EsameFlag::Codice(Selezione dove, std::optional<TipoCodice> tipo) {
+void EsameFlag::Governato(Selezione dove, std::optional<TipoCodice> tipo) {
   for (const Selezione flag : inAttesa_) {
     if (flag == governa_) {
       Governa(flag, dove, tipo);

@@ -22,12 +22,15 @@ class EsameFlag {
 
   void Flag(Selezione dove, const EsitoCodice& esito);
   /// Any other code; nullopt of one that is broken.
-  void Codice(Selezione dove, std::optional<TipoCodice> tipo);
+  void Codice(Selezione dove, std::optional<TipoCodice> tipo) {
+    if (!inAttesa_.empty()) Governato(dove, tipo);
+  }
   /// The section ends.
   void Fine();
 
  private:
   void Aggiungi(Regola regola, Selezione dove, std::string_view perche);
+  void Governato(Selezione dove, std::optional<TipoCodice> tipo);
   void Governa(Selezione flag, Selezione codice, std::optional<TipoCodice> tipo);
 
   Sezione sezione_;

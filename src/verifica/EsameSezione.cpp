@@ -13,6 +13,15 @@ namespace {
 
 constexpr std::string_view SegnoDiStile = "S;";
 
+/// Between codes there is often but a blank: the library's search costs more than looking at it.
+std::size_t TrovaSegno(std::string_view testo, std::size_t da) {
+  constexpr std::size_t Corto = 16;
+  if (testo.size() > Corto) return testo.find(SegnoDiStile, da);
+  for (; da + 1 < testo.size(); ++da)
+    if (testo[da] == SegnoDiStile[0] && testo[da + 1] == SegnoDiStile[1]) return da;
+  return std::string_view::npos;
+}
+
 Selezione In(const Pezzo& pezzo, std::size_t base) {
   return {.Inizio = base + pezzo.Inizio, .Lunghezza = pezzo.Fine - pezzo.Inizio};
 }
@@ -28,7 +37,7 @@ void EsameSezione::Esegui(std::size_t da, MarcatoriNelTesto marcatori, bool daFi
     if (pezzo->Genere == GenerePezzo::Testo) {
       Testo(dove);
     } else if (pezzo->Genere == GenerePezzo::Codice) {
-      if (!Marcatore(dove)) Codice(dove);
+      Codice(dove);
     } else if (testo_[dove.Inizio] == DelimChiusura) {
       Aggiungi(Regola::ChiusuraIsolata, dove, "chiusura fuori dai codici");
     } else {
@@ -40,9 +49,9 @@ void EsameSezione::Esegui(std::size_t da, MarcatoriNelTesto marcatori, bool daFi
 }
 
 void EsameSezione::Testo(Selezione dove) {
-  const std::string_view testo = testo_.substr(dove.Inizio, dove.Lunghezza);
-  for (std::size_t s = testo.find(SegnoDiStile); s != std::string_view::npos;
-       s = testo.find(SegnoDiStile, s + SegnoDiStile.size())) {
+  const std::string_view testo(testo_.data() + dove.Inizio, dove.Lunghezza);
+  for (std::size_t s = TrovaSegno(testo, 0); s != std::string_view::npos;
+       s = TrovaSegno(testo, s + SegnoDiStile.size())) {
     Aggiungi(Regola::TestoStile, {.Inizio = dove.Inizio + s, .Lunghezza = SegnoDiStile.size()},
              "l'anteprima prende \"S;\" per un segno di stile");
   }
@@ -76,21 +85,27 @@ bool EsameSezione::Marcatore(Selezione dove) {
 }
 
 void EsameSezione::Codice(Selezione dove) {
-  const std::string_view contenuto = ContenutoDi(testo_.substr(dove.Inizio, dove.Lunghezza));
+  const std::string_view contenuto(testo_.data() + dove.Inizio + 1, dove.Lunghezza - 2);
+  if (const EsitoCodice* noto = codici_.InOrdine(contenuto)) return Conta(dove, *noto);
+  if (Marcatore(dove)) return;
   if (contenuto.find(DelimApertura) != std::string_view::npos)
     return Rotto(dove, Regola::AperturaNelCodice, "un'apertura dentro il codice: manca la chiusura prima");
   if (contenuto.find('\r') != std::string_view::npos)
     return Rotto(dove, Regola::CodiceSuPiuRighe, "una fine di riga dentro il codice");
   const EsitoCodice& esito = codici_(contenuto);
-  if (esito.Tipo == TipoCodice::Flag) {
-    flag_.Flag(dove, esito);
-  } else {
-    flag_.Codice(dove, esito.Tipo);
-  }
+  Conta(dove, esito);
   for (const Giudizio& giudizio : esito.Giudizi) {
     Rilievo& rilievo = Aggiungi(giudizio.Quale, dove, giudizio.Testo);
     rilievo.Proposta = giudizio.Proposta;
     rilievo.Cosa = giudizio.Cosa;
+  }
+}
+
+void EsameSezione::Conta(Selezione dove, const EsitoCodice& esito) {
+  if (esito.Tipo == TipoCodice::Flag) {
+    flag_.Flag(dove, esito);
+  } else {
+    flag_.Codice(dove, esito.Tipo);
   }
 }
 

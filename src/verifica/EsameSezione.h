@@ -37,6 +37,7 @@ class EsameSezione {
   void DelimitatoriDiFile(Selezione dove);
   bool Marcatore(Selezione dove);
   void Codice(Selezione dove);
+  void Conta(Selezione dove, const EsitoCodice& esito);
   void Rotto(Selezione dove, Regola regola, std::string_view perche);
   bool RigaIntera(Selezione dove) const;
   Rilievo& Aggiungi(Regola regola, Selezione dove, std::string testo);

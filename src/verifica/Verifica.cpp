@@ -94,14 +94,26 @@ Verificatore::Verificatore(const Catalogo& catalogo, const TipoDoc& tipo)
 
 EsitoVerifica Verificatore::File(std::string_view byte, const OpzioniVerifica& opzioni) {
   return SeBastaMemoria([&]() -> EsitoVerifica {
+    const Formato formato = FormatoDi(voci_.Tipo().NumSezioni);
+    return File(ByteFile(byte.begin(), byte.end()), PreparaImmagine(formato), opzioni);
+  });
+}
+
+EsitoVerifica Verificatore::File(ByteFile byte, const PreparaImmagine& prepara,
+                                 const OpzioniVerifica& opzioni) {
+  const bool tre = voci_.TreSezioni();
+  const auto immagine =
+      ImmagineInPosto::Apri(std::move(byte), prepara, tre ? ImpostazioniPredefinite() : ImpostazioniCorpo());
+  if (!immagine) return immagine.Errore();
+  return SeBastaMemoria([&]() -> EsitoVerifica {
     Lavoro lavoro{.Opzioni = opzioni};
-    if (FineRigaLf(byte)) {
+    if (FineRigaLf((*immagine)->Byte())) {
       lavoro.Rilievi.push_back(
           {.Quale = Regola::FineRigaLf,
            .Dove = {},
            .Testo = "le righe finiscono con LF e non con CR LF: il file è una riga sola"});
-    } else if (!byte.empty()) {
-      if (const Esito<void> letto = EsaminaFile(byte, lavoro); !letto) return letto.Errore();
+    } else if (!(*immagine)->Byte().empty()) {
+      EsaminaFile(**immagine, lavoro);
     }
     lavoro.TogliNonChiesti();
     std::ranges::stable_sort(lavoro.Rilievi, {},
@@ -125,60 +137,57 @@ EsitoVerifica Verificatore::Testi(const TestiDaVerificare& testi, const OpzioniV
            .Testo = "il marcatore è nella prima riga, dove nessuno lo cerca: la testata è vuota"});
     }
     EsaminaTesti(lavoro);
+    MettiPosti(lavoro.Testi, lavoro.Prime, lavoro.Rilievi);
     lavoro.TogliNonChiesti();
     return std::move(lavoro.Rilievi);
   });
 }
 
-Esito<void> Verificatore::EsaminaFile(std::string_view byte, Lavoro& lavoro) {
-  const bool tre = voci_.TreSezioni();
-  const Esito<ImmagineLetta> letta = LeggiImmagine(byte, FormatoDi(voci_.Tipo().NumSezioni),
-                                                   tre ? ImpostazioniPredefinite() : ImpostazioniCorpo());
-  if (!letta) return letta.Errore();
-  std::ranges::copy(letta->Testi, lavoro.Testi.begin());
-  lavoro.Impostazioni = letta->Corpo;
-  lavoro.TuttoLetto = !letta->TestoNonLetto;
-  if (tre) {
-    const MarcatoreEsaminato marcatore = EsaminaMarcatore(byte, lavoro.Rilievi);
+void Verificatore::EsaminaFile(const ImmagineInPosto& immagine, Lavoro& lavoro) {
+  const std::string_view byte = immagine.Byte();
+  lavoro.Testi = immagine.Testi();
+  lavoro.Impostazioni = immagine.Esito().Corpo;
+  lavoro.TuttoLetto = !immagine.Esito().TestoNonLetto;
+  MarcatoreEsaminato marcatore;
+  if (voci_.TreSezioni()) {
+    marcatore = EsaminaMarcatore(byte, immagine.RigaDelMarcatore(), lavoro.Rilievi);
     lavoro.Certa = marcatore.Certo();
     lavoro.PrimaRigaDetta = marcatore.InPrimaRiga;
     if (marcatore.Preso) {
       lavoro.AltriMarcatori = marcatore.Preso->Solo || !marcatore.Preso->Intero;
-      lavoro.Prime[Indice(Corpo)] = marcatore.Preso->Riga + 1;
-      lavoro.Prime[Indice(Piede)] = lavoro.Prime[Indice(Corpo)] + FiniRiga(lavoro.Testi[Indice(Corpo)]);
-      EsaminaRigheCorpo(*letta, *marcatore.Preso, lavoro);
+      EsaminaRigheCorpo(immagine.Esito(), byte, *marcatore.Preso, lavoro);
     }
   }
   EsaminaTesti(lavoro);
-  return {};
+  if (lavoro.Rilievi.empty()) return;  // nobody asks for lines
+  if (marcatore.Preso) {
+    lavoro.Prime[Indice(Corpo)] = QuanteRighe(byte.substr(0, marcatore.Preso->InizioRiga)) + 2;
+    lavoro.Prime[Indice(Piede)] = lavoro.Prime[Indice(Corpo)] + FiniRiga(lavoro.Testi[Indice(Corpo)]);
+  }
+  MettiPosti(lavoro.Testi, lavoro.Prime, lavoro.Rilievi);
 }
 
 /// What the marker promises, and what comes of it.
-void Verificatore::EsaminaRigheCorpo(const EsitoImmagine& letta, const RigaDelMarcatore& marcatore,
-                                     Lavoro& lavoro) {
-  Rilievo rilievo{.Quale = Regola::RigheCorpo, .Dove = {}, .Lunghezza = marcatore.Lunghezza, .Testo = {}};
-  rilievo.Riga = marcatore.Riga;
-  rilievo.Colonna = marcatore.Colonna;
+void Verificatore::EsaminaRigheCorpo(const EsitoImmagine& letta, std::string_view byte,
+                                     const RigaDelMarcatore& marcatore, Lavoro& lavoro) {
+  const auto aggiungi = [&](Regola regola, std::string testo) {
+    lavoro.Rilievi.push_back(DelMarcatore(regola, byte, marcatore, std::move(testo)));
+  };
   const std::string_view corpo = lavoro.Testi[Indice(Corpo)];
   if (letta.TestoNonLetto) {
-    rilievo.Testo = "un numero del marcatore è oltre 16 bit: ciò che lo segue non si legge";
+    aggiungi(Regola::RigheCorpo, "un numero del marcatore è oltre 16 bit: ciò che lo segue non si legge");
   } else if (lavoro.Certa && letta.CorpoIncompleto) {
-    rilievo.Testo = "il marcatore promette " + std::to_string(letta.Corpo.LineeCorpo) +
-                    " righe di corpo, e ne seguono " + std::to_string(FiniRiga(corpo));
+    aggiungi(Regola::RigheCorpo, "il marcatore promette " + std::to_string(letta.Corpo.LineeCorpo) +
+                                     " righe di corpo, e ne seguono " + std::to_string(FiniRiga(corpo)));
   } else if (lavoro.Certa && CorpoMuto(corpo, letta.Corpo)) {
-    rilievo.Quale = Regola::CorpoNonStampato;
-    rilievo.Testo = DettoCorpoMuto(letta.Corpo);
-  } else {
-    return;
+    aggiungi(Regola::CorpoNonStampato, DettoCorpoMuto(letta.Corpo));
   }
-  lavoro.Rilievi.push_back(std::move(rilievo));
 }
 
 void Verificatore::EsaminaTesti(Lavoro& lavoro) {
   if (lavoro.Finestra) EsaminaFinestra(lavoro);
   EsaminaSezioni(lavoro);
   EsaminaPagina(lavoro);
-  MettiPosti(lavoro.Testi, lavoro.Prime, lavoro.Rilievi);
 }
 
 /// What only texts in a window can have.

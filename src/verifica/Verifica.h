@@ -8,15 +8,18 @@
 #include <vector>
 
 #include "catalogue/Catalogo.h"
+#include "common/ByteFile.h"
 #include "common/Esito.h"
 #include "common/Sezione.h"
 #include "template/Marcatore.h"
+#include "template/PreparaImmagine.h"
 #include "verifica/EsameCodice.h"
 #include "verifica/Rilievo.h"
 #include "verifica/VociTipo.h"
 
 namespace parvik {
 
+class ImmagineInPosto;
 struct EsitoImmagine;
 struct RigaDelMarcatore;
 
@@ -38,8 +41,8 @@ struct TestiDaVerificare {
 using EsitoVerifica = Esito<std::vector<Rilievo>>;
 
 /// Checks templates of one type, any number of them, one at a time: it remembers codes that it has found in
-/// order, and so belongs to one thread. A check is linear in the template, and takes memory for a second copy
-/// of a file and for what it finds. An error only when memory is exhausted.
+/// order, and so belongs to one thread. A check is linear in the template, and takes memory for what it
+/// finds. An error only when memory is exhausted.
 class Verificatore {
  public:
   /// Both must outlive this.
@@ -53,7 +56,10 @@ class Verificatore {
   /// Where there is something, the catalogue does not say what the type offers: nothing can be checked.
   const std::vector<ErroreSezione>& Errori() const { return voci_.Errori(); }
 
-  /// A file's bytes. Lines and columns are those of the file; the rules of texts in a window are not given.
+  /// A file's bytes, that `prepara`, made for the type's layout, was shown, or a beginning of them. Lines and
+  /// columns are those of the file; the rules of texts in a window are not given.
+  EsitoVerifica File(ByteFile byte, const PreparaImmagine& prepara, const OpzioniVerifica& opzioni);
+  /// The same of a copy of them.
   EsitoVerifica File(std::string_view byte, const OpzioniVerifica& opzioni);
 
   /// Texts in a window. Lines are those of each section, from 1, and findings come section by section. What
@@ -63,9 +69,9 @@ class Verificatore {
  private:
   struct Lavoro;
 
-  Esito<void> EsaminaFile(std::string_view byte, Lavoro& lavoro);
-  static void EsaminaRigheCorpo(const EsitoImmagine& letta, const RigaDelMarcatore& marcatore,
-                                Lavoro& lavoro);
+  void EsaminaFile(const ImmagineInPosto& immagine, Lavoro& lavoro);
+  static void EsaminaRigheCorpo(const EsitoImmagine& letta, std::string_view byte,
+                                const RigaDelMarcatore& marcatore, Lavoro& lavoro);
   void EsaminaTesti(Lavoro& lavoro);
   void EsaminaFinestra(Lavoro& lavoro) const;
   void EsaminaSezioni(Lavoro& lavoro);

@@ -5,6 +5,7 @@
 
 #include "catalogue/TrovaTipo.h"
 #include "docs/Pagine.h"
+#include "verifica/Correzioni.h"
 
 namespace parvik::prova {
 namespace {
@@ -106,6 +107,20 @@ TEST(VerificaPage, HasExamplesOfNamesThatTellNoType) {
   for (const RigaEsempio& riga : TabellaEsempi(Pagina, VoceDi(Regola::TipoIncerto).Nome, 2)) {
     const bool incerto = TipiPerNome(CatalogoDellaPagina(), riga.Byte(0)).size() != 1;
     EXPECT_EQ(incerto ? "1:1" : "", riga.Testo(1)) << riga.Posto();
+  }
+}
+
+TEST(VerificaPage, TellsWhatIsMended) {
+  const TipoDoc& tipo = CatalogoDellaPagina().TipiDoc()[1];
+  Verificatore verificatore(CatalogoDellaPagina(), tipo);
+  for (const RigaEsempio& riga : TabellaEsempi(Pagina, "mends", 3)) {
+    const std::string prima = riga.Byte(0);
+    const auto corretto = Correggi(prima, verificatore, CatalogoDellaPagina(), {});
+    ASSERT_TRUE(corretto) << riga.Posto();
+    const std::string perche =
+        corretto->Mancate.empty() ? "" : std::string(Motivo(corretto->Mancate.front().Perche));
+    EXPECT_EQ(corretto->Byte, riga.Testo(1).empty() ? prima : riga.Byte(1)) << riga.Posto();
+    EXPECT_EQ(perche, riga.Testo(2)) << riga.Posto();
   }
 }
 
