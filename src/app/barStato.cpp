@@ -20,12 +20,13 @@ struct Campo {
   const char* Modello;
 };
 
-constexpr std::array<Campo, 6> Campi = {{{"lblSezione", Qt::ElideRight, "Testata: riga 9999, col. 999"},
+constexpr std::array<Campo, 7> Campi = {{{"lblSezione", Qt::ElideRight, "Testata: riga 9999, col. 999"},
                                          {"lblColCarta", Qt::ElideRight, "Stampa: col. 9999"},
                                          {"lblCodice", Qt::ElideRight, nullptr},
                                          {"lblPercorso", Qt::ElideMiddle, nullptr},
                                          {"lblAggiornata", Qt::ElideRight, "Anteprima non aggiornata"},
-                                         {"lblPagine", Qt::ElideRight, "99999 righe + fine"}}};
+                                         {"lblPagine", Qt::ElideRight, "99999 righe + fine"},
+                                         {"lblProblemi", Qt::ElideRight, "99 errori, 99 avvisi"}}};
 
 constexpr std::size_t Codice = 2;
 constexpr std::size_t Percorso = 3;
@@ -42,7 +43,8 @@ barStato::barStato(QWidget* padre) : QStatusBar(padre) {
 
 void barStato::Mostra(const TestiBarra& testi) {
   const std::array<const std::string*, NumCampi> ordine = {&testi.Sezione,  &testi.ColCarta,   &testi.Codice,
-                                                           &testi.Percorso, &testi.Aggiornata, &testi.Pagine};
+                                                           &testi.Percorso, &testi.Aggiornata, &testi.Pagine,
+                                                           &testi.Problemi};
   bool daDisporre = false;
   for (std::size_t i = 0; i < NumCampi; ++i) {
     const int prima = campi_[i]->LarghezzaTesto();

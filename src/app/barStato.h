@@ -24,7 +24,7 @@ class barStato final : public QStatusBar {
   void resizeEvent(QResizeEvent* evento) override;
 
  private:
-  static constexpr std::size_t NumCampi = 6;
+  static constexpr std::size_t NumCampi = 7;
 
   void Misura();
   bool Allarga(std::size_t campo);

@@ -41,6 +41,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
   CreaMenu();
   anteAuto_ = std::make_unique<qtAnteAuto>(editore_, area_->Pannello());
   barraStato_ = new qtBarraStato(editore_, *area_, *this);
+  verifica_ = std::make_unique<qtVerifica>(editore_, *area_, *this);
   resize(EntroLoSchermo(*this, DimensioneIniziale));
   ricordi_.Riprendi();
   CreaIngrandimento();
@@ -50,6 +51,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
 /// The sections go before the document that they show; hidden first, they pass the focus to nobody.
 frmParvik::~frmParvik() {
   anteAuto_.reset();
+  verifica_.reset();
   hide();
   delete barraStato_;
   delete area_;
@@ -113,6 +115,7 @@ void frmParvik::Aggiorna() {
   misure_->Aggiorna();
   righelli_->Aggiorna();
   finestrelle_.Aggiorna();
+  verifica_->Aggiorna();
   SeguiAnteprima();
   ricordi_.Aggiorna();
   inizio_->Aggiorna();
@@ -122,6 +125,7 @@ void frmParvik::Aggiorna() {
 void frmParvik::CambiatoTesto() {
   if (menu_ != nullptr) menu_->Aggiorna(editore_.PerMenu());
   SeguiAnteprima();
+  if (verifica_) verifica_->Segui();
   if (barraStato_ != nullptr) barraStato_->Accoda();
 }
 
@@ -146,6 +150,7 @@ void frmParvik::CambiataMisura() {
   if (misure_) misure_->Rimisura();
   SeguiAnteprima();
   if (barraStato_ != nullptr) barraStato_->Accoda();
+  if (verifica_) verifica_->Segui();
 }
 
 void frmParvik::MostraAnteprima(Anteprima anteprima) {
@@ -197,6 +202,11 @@ void frmParvik::ImpostaCursore(Sezione sezione, Cursore cursore) {
 void frmParvik::Raggiungi(const CursoreSezione& cursore) {
   area_->Raggiungi(cursore);
   AttivaSezione(cursore.Dove);
+}
+
+void frmParvik::CambiatiProblemi() {
+  if (verifica_) verifica_->Mostra();
+  if (barraStato_ != nullptr) barraStato_->Accoda();
 }
 
 void frmParvik::RicaricaFlagStampe() {

@@ -19,6 +19,7 @@
 #include "app/qtMisure.h"
 #include "app/qtRicordi.h"
 #include "app/qtRighelli.h"
+#include "app/qtVerifica.h"
 #include "editor/Editore.h"
 #include "editor/Vista.h"
 #include "start/Avvio.h"
@@ -60,6 +61,7 @@ class frmParvik final : public QMainWindow, private Vista {
   Cursore CursoreIn(Sezione sezione) const override;
   void ImpostaCursore(Sezione sezione, Cursore cursore) override;
   void Raggiungi(const CursoreSezione& cursore) override;
+  void CambiatiProblemi() override;
   void RicaricaFlagStampe() override;
 
   void CreaArea();
@@ -97,6 +99,7 @@ class frmParvik final : public QMainWindow, private Vista {
   std::optional<qtMisure> misure_;
   std::optional<qtRighelli> righelli_;
   std::unique_ptr<qtAnteAuto> anteAuto_;
+  std::unique_ptr<qtVerifica> verifica_;
 };
 
 }  // namespace parvik

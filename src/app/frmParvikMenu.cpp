@@ -65,10 +65,13 @@ void frmParvik::Esegui(Comando comando) {
     case Comando::BarraStato:
     case Comando::Righello:
     case Comando::FlagVeri:
+    case Comando::Problemi:
     case Comando::Ricorda:
       return editore_.Commuta(PreferenzaDi(comando).value());
     case Comando::Foglio:
       return maschere_.ApriFoglio();
+    case Comando::Verifica:
+      return verifica_->Verifica();
     case Comando::VaiAnte:
       return anteAuto_->VaiAnte();
   }

@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <system_error>
 #include <utility>
 
 #include "common/SeBastaMemoria.h"
@@ -14,7 +13,12 @@ constexpr int DopoIlDisegno = Qt::LowEventPriority - 1;  // which windows are pa
 
 }  // namespace
 
-qtAnteAuto::qtAnteAuto(Editore& editore, ricAnte& pannello) : editore_(editore), pannello_(pannello) {
+/// The end of what was under way asks again.
+qtAnteAuto::qtAnteAuto(Editore& editore, ricAnte& pannello)
+    : editore_(editore), pannello_(pannello), filo_([this](LavoroAnteprima::Fatto fatto) {
+        editore_.Consegna(std::move(fatto));
+        Segui();
+      }) {
   connect(&pannello, &ricAnte::OrigineChiesta, this, [this](std::size_t byte) {
     if (editore_.TipoScelto()) editore_.RaggiungiOrigine(byte);
   });
@@ -24,7 +28,7 @@ qtAnteAuto::qtAnteAuto(Editore& editore, ricAnte& pannello) : editore_(editore),
 qtAnteAuto::~qtAnteAuto() = default;
 
 void qtAnteAuto::Segui() {
-  if (filo_.joinable() && editore_.AnteprimaDaRifare()) filo_.request_stop();
+  if (filo_.AlLavoro() && editore_.AnteprimaDaRifare()) filo_.Ferma();
   if (!attesa_.isActive()) attesa_.start(0, this);
 }
 
@@ -43,40 +47,12 @@ void qtAnteAuto::customEvent(QEvent* /*evento*/) {
   }));
 }
 
-/// Never two at once: the end of the one under way asks again.
+/// Never two at once.
 void qtAnteAuto::Rinnova() {
-  if (sospesa_ || filo_.joinable() || !editore_.AnteprimaDaRifare()) return;
+  if (sospesa_ || filo_.AlLavoro() || !editore_.AnteprimaDaRifare()) return;
   const std::optional<LavoroAnteprima> lavoro = editore_.RinnovaAnteprima();
-  if (lavoro) Inizia(*lavoro);
-}
-
-/// Where the system has no thread to give, the work is done here.
-void qtAnteAuto::Inizia(const LavoroAnteprima& lavoro) {
-  finito_ = false;
-  const auto lavora = [this, lavoro](const std::stop_token& smetti) {
-    fatto_ = lavoro.Esegui(smetti);
-    finito_ = true;
-    QMetaObject::invokeMethod(
-        this, [this] { Finisci(); }, Qt::QueuedConnection);
-  };
-  try {
-    filo_ = std::jthread(lavora);
-  } catch (const std::system_error&) {
-    editore_.Consegna(lavoro.Esegui(std::stop_token()));
-  }
-}
-
-/// Also called once more for one that was waited for already.
-void qtAnteAuto::Finisci() {
-  if (!filo_.joinable() || !finito_) return;
-  Ritira();
-  Segui();
-}
-
-/// Waits for the work, and hands in what has become of it.
-void qtAnteAuto::Ritira() {
-  filo_.join();
-  editore_.Consegna(std::exchange(fatto_, {}));
+  if (lavoro)
+    filo_.Comincia([lavoro = *lavoro](const std::stop_token& smetti) { return lavoro.Esegui(smetti); });
 }
 
 void qtAnteAuto::Segna() {
@@ -91,9 +67,7 @@ void qtAnteAuto::VaiAnte() {
 
 void qtAnteAuto::Sospendi() {
   sospesa_ = true;
-  if (!filo_.joinable()) return;
-  filo_.request_stop();
-  Ritira();
+  filo_.Aspetta();
 }
 
 void qtAnteAuto::Riprendi() {

@@ -4,9 +4,8 @@
 
 #include <QBasicTimer>
 #include <QObject>
-#include <atomic>
-#include <thread>
 
+#include "common/qtFilo.h"
 #include "editor/Editore.h"
 #include "output/ricAnte.h"
 
@@ -37,17 +36,12 @@ class qtAnteAuto final : public QObject {
 
  private:
   void Rinnova();
-  void Inizia(const LavoroAnteprima& lavoro);
-  void Finisci();
-  void Ritira();
 
   Editore& editore_;
   ricAnte& pannello_;
   QBasicTimer attesa_;
   bool sospesa_ = false;
-  LavoroAnteprima::Fatto fatto_;
-  std::atomic<bool> finito_ = false;
-  std::jthread filo_;  // last: it uses the others
+  qtFilo<LavoroAnteprima::Fatto> filo_;
 };
 
 }  // namespace parvik

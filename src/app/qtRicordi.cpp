@@ -19,6 +19,7 @@ void qtRicordi::Riprendi() {
 
 /// Where its title can be reached, whatever screens there are now.
 void qtRicordi::RiponiFinestra() {
+  finestra_.restoreState(ricordo_.Pannelli);
   if (ricordo_.Finestra.isEmpty()) return;
   finestra_.resize(EntroLoSchermo(finestra_, ricordo_.Finestra.size()));
   if (const auto posto = PostoSuSchermo(finestra_, ricordo_.Finestra.topLeft())) finestra_.move(*posto);
@@ -62,6 +63,7 @@ void qtRicordi::Scrivi() {
 void qtRicordi::Salva() {
   if (!ricordo_.Scelte[Preferenza::Ricorda]) return;
   ricordo_.Massimizzata = finestra_.isMaximized();
+  ricordo_.Pannelli = finestra_.saveState();
   ricordo_.Finestra =
       ricordo_.Massimizzata ? finestra_.normalGeometry() : QRect(finestra_.pos(), finestra_.size());
   Scrivi();

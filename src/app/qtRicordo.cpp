@@ -16,10 +16,12 @@ constexpr std::array<const char*, NumPreferenze> Nomi = {  // in their order
     "Mostra/BarraStato",
     "Mostra/Righello",
     "Mostra/FlagVeri",
+    "Mostra/Problemi",
     "Ricorda"};
 constexpr const char* Ingrandimento = "Testo/Ingrandimento";
 constexpr const char* Posto = "Finestra/Posto";
 constexpr const char* Massimizzata = "Finestra/Massimizzata";
+constexpr const char* Pannelli = "Finestra/Pannelli";
 constexpr const char* Modelli = "Recenti";
 constexpr const char* File = "File";
 constexpr const char* Tipo = "Tipo";
@@ -112,6 +114,7 @@ Ricordo LeggiDa(const fs::path& file) {
   ricordo.Ingrandimento = da.value(Ingrandimento).toInt();
   ricordo.Finestra = da.value(Posto).toRect();
   ricordo.Massimizzata = da.value(Massimizzata).toBool();
+  ricordo.Pannelli = da.value(Pannelli).toByteArray();
   ricordo.Modelli = LeggiModelli(da);
   ricordo.Fogli = LeggiFogli(da);
   return ricordo;
@@ -147,6 +150,7 @@ void qtRicordo::Scrivi(const Ricordo& ricordo) {
   in.setValue(Ingrandimento, ricordo.Ingrandimento);
   if (!ricordo.Finestra.isNull()) in.setValue(Posto, ricordo.Finestra);
   in.setValue(Massimizzata, ricordo.Massimizzata);
+  if (!ricordo.Pannelli.isEmpty()) in.setValue(Pannelli, ricordo.Pannelli);
   ScriviModelli(in, ricordo.Modelli);
   ScriviFogli(in, ricordo.Fogli);
   in.sync();

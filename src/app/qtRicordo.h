@@ -2,6 +2,7 @@
 // (docs/impostazioni.md).
 #pragma once
 
+#include <QByteArray>
 #include <QRect>
 #include <filesystem>
 #include <optional>
@@ -19,6 +20,7 @@ struct Ricordo {
   int Ingrandimento = 0;  // of the texts, in steps
   QRect Finestra;         // its place with the frame, its size without; null when not known
   bool Massimizzata = false;
+  QByteArray Pannelli;  // where those about the sections stand; as the toolkit tells it
   Recenti Modelli;
   parvik::Fogli Fogli;
 

@@ -184,7 +184,8 @@ TestiBarra Editore::Barra(const TestoAnteprima& mostrato, const std::optional<Mi
                    .Codice = codice ? tipo_->DescriviInFrase(attiva, ContenutoDi(testo, *codice)) : "",
                    .Aggiornata = AnteprimaAggiornata(),
                    .Corsa = AnteVisibile() ? CorsaDi(mostrato) : std::nullopt,
-                   .Foglio = foglio});
+                   .Foglio = foglio,
+                   .Problemi = DettiProblemi()});
 }
 
 std::optional<std::int16_t> Editore::ContaRighe(Sezione sezione) {
@@ -219,6 +220,7 @@ void Editore::ImpostaFoglio(const Foglio& foglio) {
 void Editore::Commuta(Preferenza quale) {
   scelte_.Imposta(quale, !scelte_[quale]);
   if (quale == Preferenza::FlagVeri) CambiatiFlag();
+  if (quale == Preferenza::Problemi) DimenticaProblemi();
   vista_.Aggiorna();
 }
 
@@ -261,6 +263,7 @@ void Editore::TornaSenzaTipo() {
   CambiatiFlag();
   settaFlagSpuntata_ = false;
   conto_.Nascondi();
+  DimenticaProblemi();
   vista_.RicaricaFlagStampe();
   vista_.Aggiorna();
 }

@@ -22,6 +22,7 @@
 #include "editor/Inserimento.h"
 #include "editor/Menu.h"
 #include "editor/Preferenze.h"
+#include "editor/Problemi.h"
 #include "editor/Resa.h"
 #include "editor/ResaAutomatica.h"
 #include "editor/StatoBarra.h"
@@ -134,6 +135,27 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   /// What has become of that run. In every state.
   void Consegna(LavoroAnteprima::Fatto fatto) { automatica_.Consegna(std::move(fatto)); }
 
+  // What is wrong with the template (EditoreProblemi.cpp).
+
+  /// Whether it is to be shown.
+  bool ProblemiVisibili() const { return TipoScelto() && scelte_[Preferenza::Problemi]; }
+  const Problemi& Trovati() const { return problemi_; }
+  /// How many there are, in words; "" while nothing is told. UTF-8.
+  std::string DettiProblemi() const;
+  /// In every state.
+  void ImpostaPaginaVerifica(const PaginaVerifica& pagina) { problemi_.ImpostaPagina(pagina); }
+  /// Whether it is to be looked for anew. In every state.
+  bool VerificaDaRifare() const { return ProblemiVisibili() && problemi_.DaRifare(Tipo()); }
+  /// Looks for it, or gives the check that is to be made on a thread. Only when it is to be looked for.
+  std::optional<LavoroVerifica> RinnovaVerifica();
+  /// What has become of that check. In every state.
+  void Consegna(LavoroVerifica::Fatto fatto);
+  /// Puts the caret where a finding is; nothing where that is not certain.
+  void RaggiungiProblema(std::size_t quale);
+  /// Mends those of the findings that have one right answer, in one step. Tells which were not, because
+  /// something else would print.
+  void CorreggiProblemi(std::span<const std::size_t> quali);
+
   /// The section that now has the focus; it must be in use.
   void AttivaSezione(Sezione sezione);
 
@@ -190,6 +212,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
  private:
   const TipoDoc& Tipo() const { return tipo_->Tipo(); }
   void ApplicaTipoDoc();
+  void DimenticaProblemi();
 
   void ImpostaTitolo(std::string titolo) override { titolo_ = std::move(titolo); }
   void SpegniAnteprima() override;
@@ -221,6 +244,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   Preferenze scelte_;
   Guide guide_;
   Fogli fogli_;
+  Problemi problemi_{documento_, catalogo_};
   Documento::Ascolto ascolto_;
 };
 

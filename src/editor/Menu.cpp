@@ -42,17 +42,20 @@ constexpr std::array Voci = {
     VoceMenu{"mnuAnnulla",    Voce,       Comando::Annulla,       "&Annulla",                "Ctrl+Z",       DaAnnullare, false},
     VoceMenu{"mnuRipeti",     Voce,       Comando::Ripeti,        "&Ripeti",                 "Ctrl+Y",       DaRipetere,  false},
     VoceMenu{"sep6",          Separatore, {},                     "",                        "",             Sempre,      false},
+    VoceMenu{"mnuVerifica",   Voce,       Comando::Verifica,      "&Verifica modello",       "F8",           ConTipo,     false},
+    VoceMenu{"sep7",          Separatore, {},                     "",                        "",             Sempre,      false},
     VoceMenu{"mnuAnteAuto",   Voce,       Comando::AnteAuto,      "Anteprima automati&ca",   "",             ConTipo,     true},
     VoceMenu{"mnuMisura",     Voce,       Comando::Misura,        "Campi a &misura",         "F7",           ConTipo,     true},
     VoceMenu{"mnuVaiAnte",    Voce,       Comando::VaiAnte,       "Mostra nell'ante&prima",  "F6",           ConTipo,     false},
-    VoceMenu{"sep7",          Separatore, {},                     "",                        "",             Sempre,      false},
+    VoceMenu{"sep8",          Separatore, {},                     "",                        "",             Sempre,      false},
     VoceMenu{"mnuMostra",     Sottomenu,  {},                     "M&ostra",                 "",             Sempre,      false},
     VoceMenu{"mnuBarraStato", Voce,       Comando::BarraStato,    "Barra di s&tato",         "",             Sempre,      true},
     VoceMenu{"mnuRighello",   Voce,       Comando::Righello,      "&Righello",               "",             Sempre,      true},
+    VoceMenu{"mnuProblemi",   Voce,       Comando::Problemi,      "&Problemi",               "",             Sempre,      true},
     VoceMenu{"mnuFoglio",     Voce,       Comando::Foglio,        "&Foglio...",              "",             ConTipo,     false},
     VoceMenu{"mnuFlagVeri",   Voce,       Comando::FlagVeri,      "Flag tutti &veri",        "",             Sempre,      true},
     VoceMenu{"",              Fine,       {},                     "",                        "",             Sempre,      false},
-    VoceMenu{"sep8",          Separatore, {},                     "",                        "",             Sempre,      false},
+    VoceMenu{"sep9",          Separatore, {},                     "",                        "",             Sempre,      false},
     VoceMenu{"mnuRicorda",    Voce,       Comando::Ricorda,       "Ricorda tra una sessione e l'a&ltra", "", Sempre,      true},
 };
 // clang-format on
@@ -108,6 +111,8 @@ std::optional<Preferenza> PreferenzaDi(Comando comando) {
       return Preferenza::Righello;
     case Comando::FlagVeri:
       return Preferenza::FlagVeri;
+    case Comando::Problemi:
+      return Preferenza::Problemi;
     case Comando::Ricorda:
       return Preferenza::Ricorda;
     default:

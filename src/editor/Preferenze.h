@@ -12,9 +12,10 @@ enum class Preferenza {
   BarraStato,  // the status bar shows
   Righello,    // the rulers show
   FlagVeri,    // codes are measured as if all print flags were true
+  Problemi,    // what is wrong with the template shows
   Ricorda,     // switches and places are kept from one session to the next
 };
-inline constexpr std::size_t NumPreferenze = 6;
+inline constexpr std::size_t NumPreferenze = 7;
 
 class Preferenze {
  public:
@@ -24,7 +25,8 @@ class Preferenze {
   bool operator==(const Preferenze&) const = default;
 
  private:
-  std::array<bool, NumPreferenze> accese_ = {false, false, true, false, false, false};  // in their order
+  std::array<bool, NumPreferenze> accese_ = {false, false, true, false,
+                                             false, false, false};  // in their order
 };
 
 }  // namespace parvik

@@ -59,6 +59,14 @@ std::string ContenutoDi(const TestoSezione& testo, const Selezione& codice) {
   return testo.Byte({.Inizio = codice.Inizio + 1, .Lunghezza = codice.Lunghezza - 2});
 }
 
+std::string ContoProblemi(std::size_t errori, std::size_t avvisi) {
+  if (errori + avvisi == 0) return "Nessun problema";
+  std::string soloAvvisi = Quanti(avvisi, "avviso", "avvisi");
+  if (errori == 0) return soloAvvisi;
+  std::string soloErrori = Quanti(errori, "errore", "errori");
+  return avvisi == 0 ? soloErrori : soloErrori + ", " + soloAvvisi;
+}
+
 TestiBarra PerBarra(const DatiBarra& dati) {
   const TestoSezione& testo = dati.Modello.Testo(dati.Dove.Dove);
   const Selezione scelta = dati.Dove.Dentro.Selezionato();
@@ -70,6 +78,7 @@ TestiBarra PerBarra(const DatiBarra& dati) {
   if (dati.Corsa) barra.Pagine = Righe(*dati.Corsa);
   if (dati.Corsa && dati.Foglio) barra.Pagine += ": " + Fogli(*dati.Corsa, *dati.Foglio);
   if (dati.Corsa && !dati.Aggiornata) barra.Aggiornata = "Anteprima non aggiornata";
+  barra.Problemi = dati.Problemi;
   return barra;
 }
 

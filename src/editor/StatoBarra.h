@@ -31,6 +31,7 @@ struct DatiBarra {
   bool Aggiornata = true;                        // the preview is that of the texts and flags
   std::optional<CorsaMostrata> Corsa = {};       // nullopt while none shows
   std::optional<MisuraFoglio> Foglio = {};       // nullopt without a sheet
+  std::string Problemi = {};                     // how many there are
 };
 
 /// The bar's texts, in their order, UTF-8; "" where there is nothing to say.
@@ -41,9 +42,13 @@ struct TestiBarra {
   std::string Percorso;
   std::string Aggiornata;
   std::string Pagine;
+  std::string Problemi;
 
   bool operator==(const TestiBarra&) const = default;
 };
+
+/// "2 errori, 1 avviso"; "Nessun problema".
+std::string ContoProblemi(std::size_t errori, std::size_t avvisi);
 
 TestiBarra PerBarra(const DatiBarra& dati);
 

@@ -84,6 +84,8 @@ class Vista : public VistaAnteprima, public VistaStampa, public VistaSezioni {
   virtual void CambiatoTesto() = 0;
   /// Codes may print another width, or begin or cease to show, without any change of text.
   virtual void CambiataMisura() = 0;
+  /// What is wrong with the template was looked for anew, or is no longer told.
+  virtual void CambiatiProblemi() = 0;
   /// The print flags were loaded anew, set to false or discarded.
   virtual void RicaricaFlagStampe() = 0;
 };

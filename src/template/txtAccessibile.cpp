@@ -114,12 +114,12 @@ void txtAccessibile::scrollToSubstring(int inizio, int fine) {
   Editor().ensureCursorVisible();
 }
 
+/// One look for the whole text, for the colours of codes are decoration, but for what is wrong.
 QString txtAccessibile::attributes(int posizione, int* inizio, int* fine) const {
-  // One look for the whole text: the colours of codes are decoration.
   const bool dentro = posizione >= 0 && posizione <= characterCount();
   *inizio = dentro ? 0 : -1;
   *fine = dentro ? characterCount() : -1;
-  return {};
+  return dentro && Editor().Errata(posizione, *inizio, *fine) ? "invalid:true;" : QString();
 }
 
 void txtAccessibile::deleteText(int inizio, int fine) {

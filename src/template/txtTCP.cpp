@@ -114,6 +114,7 @@ void txtTCP::focusInEvent(QFocusEvent* evento) {
 
 void txtTCP::CursoreMosso() {
   if (!specchio_->AlLavoro()) documento_.InterrompiBattitura();
+  if (onde_) DescriviOndeAlCursore();
   if (misura_) return TieniFuoriDaiCampi();
   SegnaCodiciAlCursore();
 }

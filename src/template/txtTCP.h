@@ -17,6 +17,7 @@
 #include "template/txtFette.h"
 #include "template/txtGesti.h"
 #include "template/txtMisura.h"
+#include "template/txtOnde.h"
 #include "template/txtPunti.h"
 #include "template/txtSpecchio.h"
 
@@ -59,6 +60,15 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   righello* Righello() const { return righello_; }
   /// Codes may print something else than they did, although the text is the same.
   void Rimisura();
+
+  /// Draws wavy lines under what is wrong, or no longer: an empty function. It is asked whenever they are
+  /// drawn or told.
+  void MostraOnde(LettoreOnde onde);
+  /// What it says is other than it was.
+  void RidisegnaOnde();
+  /// Whether something is wrong at a position of the toolkit's text. The stretch from `inizio` to `fine` is
+  /// narrowed to the part around it of which the same can be said.
+  bool Errata(int posizione, int& inizio, int& fine) const;
 
   // Edits that come from neither keyboard nor mouse, under the same rules.
 
@@ -109,7 +119,13 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   bool Esclude(QEvent& evento) const;
   void SegnaCodiciAlCursore();
 
+  // txtTCPOnde.cpp
+  std::vector<OndaTesto> OndeIn(const Selezione& parte) const;
+  void DisegnaLeOnde(const QRect& parte);
+  void DescriviOndeAlCursore();
+
   // txtTCPMisura.cpp
+  void DisegnaMisurata(const QRect& parte);
   void Ricolora();
   void CambiatoCarattere();
   void RidisegnaRigaDelCursore();
@@ -138,6 +154,7 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   txtSpecchio* specchio_ = nullptr;
   qtColori* colori_ = nullptr;
   Descrizione descrizione_;
+  LettoreOnde onde_;
   txtGesti gesti_;
   std::unique_ptr<txtMisura> misura_;  // while the section is shown to measure
   txtFette* fette_ = nullptr;          // made when it first was

@@ -71,14 +71,22 @@ void txtTCP::CambiatoCarattere() {
 
 /// Not the base class's: it would draw the selection over the codes' own characters, which have no room.
 void txtTCP::paintEvent(QPaintEvent* evento) {
-  if (!AMisura()) return QPlainTextEdit::paintEvent(evento);
+  if (AMisura()) {
+    DisegnaMisurata(evento->rect());
+  } else {
+    QPlainTextEdit::paintEvent(evento);
+  }
+  if (onde_) DisegnaLeOnde(evento->rect());
+}
+
+void txtTCP::DisegnaMisurata(const QRect& parte) {
   QPainter pittore(viewport());
   const int cursore = getPaintContext().cursorPosition;  // -1 while it does not show
   QPointF dove = contentOffset();
-  for (QTextBlock riga = firstVisibleBlock(); riga.isValid() && dove.y() <= evento->rect().bottom();
+  for (QTextBlock riga = firstVisibleBlock(); riga.isValid() && dove.y() <= parte.bottom();
        riga = riga.next()) {
     const qreal altezza = blockBoundingRect(riga).height();
-    if (dove.y() + altezza >= evento->rect().top()) misura_->Disegna(pittore, riga, dove, *colori_);
+    if (dove.y() + altezza >= parte.top()) misura_->Disegna(pittore, riga, dove, *colori_);
     const int composto =
         riga.layout()->preeditAreaText().isEmpty() ? -1 : riga.layout()->preeditAreaPosition();
     const int nellaRiga = cursore < -1 ? composto - (cursore + 2) : cursore - riga.position();

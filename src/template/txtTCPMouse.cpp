@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QStringList>
 #include <QToolTip>
 #include <utility>
 
@@ -50,10 +51,16 @@ bool txtTCP::viewportEvent(QEvent* evento) {
 }
 
 bool txtTCP::MostraDescrizione(QPoint punto, QPoint globale) {
-  const auto codice = descrizione_ ? CodiceA(punto) : std::nullopt;
-  if (!codice) return false;
-  const std::string testo = comandi_.Testo().Byte(*codice);
-  QToolTip::showText(globale, ComeTestoSemplice(descrizione_(ContenutoDi(testo))), viewport());
+  QStringList detti;
+  const auto codice = CodiceA(punto);
+  const auto byte = codice ? std::nullopt : Punti().ByteA(punto);
+  if (codice && descrizione_) detti += descrizione_(ContenutoDi(comandi_.Testo().Byte(*codice)));
+  if (codice || byte) {
+    for (const OndaTesto& onda : OndeIn(codice ? *codice : Selezione{.Inizio = *byte, .Lunghezza = 1}))
+      detti += onda.Detto;
+  }
+  if (detti.isEmpty()) return false;
+  QToolTip::showText(globale, ComeTestoSemplice(detti.join(u'\n')), viewport());
   return true;
 }
 

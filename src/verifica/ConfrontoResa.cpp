@@ -35,12 +35,23 @@ ResaDaConfrontare::ResaDaConfrontare(std::string_view byte, const Catalogo& cata
   const Esito<ImmagineLetta> letta = LeggiImmagine(
       byte, formato, formato == Formato::TreSezioni ? ImpostazioniPredefinite() : ImpostazioniCorpo());
   if (!letta) throw std::bad_alloc();
+  Rendi({letta->Testi[0], letta->Testi[1], letta->Testi[2]}, letta->Corpo, catalogo, tipo);
+}
+
+ResaDaConfrontare::ResaDaConfrontare(const std::array<std::string_view, MaxSezioni>& testi,
+                                     const ImpostazioniCorpo& corpo, const Catalogo& catalogo,
+                                     const TipoDoc& tipo) {
+  Rendi(testi, corpo, catalogo, tipo);
+}
+
+void ResaDaConfrontare::Rendi(const std::array<std::string_view, MaxSezioni>& testi,
+                              const ImpostazioniCorpo& corpo, const Catalogo& catalogo, const TipoDoc& tipo) {
   FlagPerStampe flag;
   static_cast<void>(flag.Carica(catalogo, tipo));  // nothing is mended where its lines are wrong
-  const DatiStampa dati{.Testi = {letta->Testi[0], letta->Testi[1], letta->Testi[2]},
+  const DatiStampa dati{.Testi = testi,
                         .NumSezioni = tipo.NumSezioni,
-                        .RigheCorpo = letta->Corpo.RigheCorpo,
-                        .LineeCorpo = letta->Corpo.LineeCorpo,
+                        .RigheCorpo = corpo.RigheCorpo,
+                        .LineeCorpo = corpo.LineeCorpo,
                         .Flag = flag};
   viste_[0] = Rendi(dati);
   for (std::size_t riga = 0; riga < flag.Righe().size(); ++riga) flag.SettaFlag(riga, true);

@@ -12,6 +12,7 @@
 #include "output/FlagPerStampe.h"
 #include "output/GeneraStampa.h"
 #include "output/MettiStili.h"
+#include "template/Marcatore.h"
 
 namespace parvik {
 
@@ -20,6 +21,9 @@ class ResaDaConfrontare {
  public:
   /// `byte` is a file. Of what prints very long the beginning is kept. Throws what memory gives up with.
   ResaDaConfrontare(std::string_view byte, const Catalogo& catalogo, const TipoDoc& tipo);
+  /// Of the texts of sections.
+  ResaDaConfrontare(const std::array<std::string_view, MaxSezioni>& testi, const ImpostazioniCorpo& corpo,
+                    const Catalogo& catalogo, const TipoDoc& tipo);
 
   bool Uguale(const ResaDaConfrontare& altra) const { return viste_ == altra.viste_; }
 
@@ -33,6 +37,8 @@ class ResaDaConfrontare {
     bool operator==(const Vista&) const = default;
   };
 
+  void Rendi(const std::array<std::string_view, MaxSezioni>& testi, const ImpostazioniCorpo& corpo,
+             const Catalogo& catalogo, const TipoDoc& tipo);
   static Vista Rendi(const DatiStampa& dati);
 
   std::array<Vista, 2> viste_;

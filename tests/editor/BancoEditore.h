@@ -49,6 +49,7 @@ class VistaFinta final : public Vista {
   Cursore CursoreIn(Sezione sezione) const override { return Cursori[Indice(sezione)]; }
   void ImpostaCursore(Sezione sezione, Cursore cursore) override { Cursori[Indice(sezione)] = cursore; }
   void Raggiungi(const CursoreSezione& cursore) override { Raggiunti.push_back(cursore); }
+  void CambiatiProblemi() override { ++CambiamentiProblemi; }
   void RicaricaFlagStampe() override { ++RicaricheFlag; }
 
   std::array<Cursore, MaxSezioni> Cursori;
@@ -56,6 +57,7 @@ class VistaFinta final : public Vista {
   int Aggiornamenti = 0;
   int CambiamentiTesto = 0;
   int CambiamentiMisura = 0;
+  int CambiamentiProblemi = 0;
   int RicaricheFlag = 0;
   std::vector<std::string> Anteprime;
   std::vector<std::string> Completate;

@@ -63,16 +63,19 @@ TEST(VociMenu, AreTheWholeTreeInTheOrderOfTheScreen) {
       "  mnuAnnulla &Annulla Ctrl+Z",
       "  mnuRipeti &Ripeti Ctrl+Y",
       "  sep6",
+      "  mnuVerifica &Verifica modello F8",
+      "  sep7",
       "  mnuAnteAuto Anteprima automati&ca",
       "  mnuMisura Campi a &misura F7",
       "  mnuVaiAnte Mostra nell'ante&prima F6",
-      "  sep7",
+      "  sep8",
       "  mnuMostra M&ostra",
       "    mnuBarraStato Barra di s&tato",
       "    mnuRighello &Righello",
+      "    mnuProblemi &Problemi",
       "    mnuFoglio &Foglio...",
       "    mnuFlagVeri Flag tutti &veri",
-      "  sep8",
+      "  sep9",
       "  mnuRicorda Ricorda tra una sessione e l'a&ltra",
   };
   EXPECT_EQ(atteso, Elenco());
@@ -85,9 +88,9 @@ TEST(VociMenu, AreSeparatorsExactlyWhereTheNameSaysSo) {
 }
 
 TEST(VociMenu, ShowACheckMarkForWhatIsShownAndHidden) {
-  const std::set<std::string> conSpunta = {"mnuAnte",     "mnuRighe",    "mnuSettaFlag",
-                                           "mnuAnteAuto", "mnuMisura",   "mnuBarraStato",
-                                           "mnuRighello", "mnuFlagVeri", "mnuRicorda"};
+  const std::set<std::string> conSpunta = {"mnuAnte",     "mnuRighe",      "mnuSettaFlag", "mnuAnteAuto",
+                                           "mnuMisura",   "mnuBarraStato", "mnuRighello",  "mnuFlagVeri",
+                                           "mnuProblemi", "mnuRicorda"};
   for (const VoceMenu& voce : VociMenu())
     EXPECT_EQ(conSpunta.contains(voce.Nome), voce.ConSpunta) << voce.Nome;
 }
@@ -107,7 +110,7 @@ TEST(Abilitata, LeavesOnlyTheChoiceOfATypeTheAboutBoxAndTheExitWithoutAType) {
   EXPECT_EQ((Nomi{"mnuAnte",     "mnuApri",   "mnuComando",   "mnuCostante",  "mnuFlag",    "mnuLingua",
                   "mnuNuovo",    "mnuPagina", "mnuSalva",     "mnuSalvaNome", "mnuStampa",  "mnuStile",
                   "mnuVar",      "mnuRighe",  "mnuSettaFlag", "mnuTool",      "mnuAnnulla", "mnuRipeti",
-                  "mnuAnteAuto", "mnuMisura", "mnuFoglio",    "mnuVaiAnte"}),
+                  "mnuAnteAuto", "mnuMisura", "mnuFoglio",    "mnuVerifica",  "mnuVaiAnte"}),
             Disabilitate({.TipoScelto = false, .TreSezioni = false}));
 }
 

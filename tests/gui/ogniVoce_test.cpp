@@ -188,6 +188,20 @@ void VaiNellAnteprima(Finestra& finestra, const char* nome) {
   EXPECT_GT(finestra.Anteprima().verticalScrollBar()->value(), 100);
 }
 
+void ApreIlPannello(Finestra& finestra, const char* nome) {
+  Scegli(finestra, nome);
+  EXPECT_TRUE(Trova<QWidget>(*finestra, "pnlProblemi")->isVisible());
+}
+
+void MostraENascondeIlPannello(Finestra& finestra, const char* nome) {
+  finestra.Scegli(1);
+  for (const bool visibile : {true, false}) {
+    Scegli(finestra, nome);
+    EXPECT_EQ(Trova<QWidget>(*finestra, "pnlProblemi")->isVisible(), visibile);
+    EXPECT_EQ(finestra.Azione(nome).isChecked(), visibile);
+  }
+}
+
 /// There is a settings file as long as it is checked.
 void Ricorda(Finestra& finestra, const char* nome) {
   finestra.Scegli(1);
@@ -233,6 +247,8 @@ const std::vector<Voce>& Voci() {
       {"mnuVaiAnte", VaiNellAnteprima},
       {"mnuBarraStato", NascondeEMostra("barStato")},
       {"mnuRighello", MostraRighello},
+      {"mnuVerifica", ApreIlPannello},
+      {"mnuProblemi", MostraENascondeIlPannello},
       {"mnuFoglio", Apre("frmFoglio: Foglio")},
       {"mnuFlagVeri", MisuraConFlagVeri},
       {"mnuRicorda", Ricorda},

@@ -1,0 +1,60 @@
+// The section editor's wavy lines: what is wrong, for the eye, the mouse and assistive technologies.
+#include <QPainter>
+#include <QStringList>
+#include <QTextBlock>
+#include <algorithm>
+#include <utility>
+
+#include "template/txtTCP.h"
+
+namespace parvik {
+
+void txtTCP::MostraOnde(LettoreOnde onde) {
+  if (!onde && !onde_) return;
+  onde_ = std::move(onde);
+  RidisegnaOnde();
+}
+
+void txtTCP::RidisegnaOnde() {
+  DescriviOndeAlCursore();
+  viewport()->update();
+}
+
+std::vector<OndaTesto> txtTCP::OndeIn(const Selezione& parte) const {
+  return onde_ ? onde_(parte) : std::vector<OndaTesto>();
+}
+
+void txtTCP::DisegnaLeOnde(const QRect& parte) {
+  QPainter pittore(viewport());
+  QPointF dove = contentOffset();
+  for (QTextBlock riga = firstVisibleBlock(); riga.isValid() && dove.y() <= parte.bottom();
+       riga = riga.next()) {
+    DisegnaOnde(pittore, riga, dove, onde_, *specchio_, palette());
+    dove.ry() += blockBoundingRect(riga).height();
+  }
+}
+
+/// What is wrong at the caret is what assistive technologies read of the section besides its text.
+void txtTCP::DescriviOndeAlCursore() {
+  QStringList detti;
+  for (const OndaTesto& onda : OndeIn({.Inizio = CursoreAttuale().Posto, .Lunghezza = 1}))
+    detti += onda.Detto;
+  const QString detto = detti.join(u'\n');
+  if (detto != accessibleDescription()) setAccessibleDescription(detto);
+}
+
+bool txtTCP::Errata(int posizione, int& inizio, int& fine) const {
+  bool errata = false;
+  for (const OndaTesto& onda : OndeIn({.Inizio = 0, .Lunghezza = comandi_.Testo().Dimensione() + 1})) {
+    const int sinistra = specchio_->InTesto(onda.Parte.Inizio);
+    const int destra = specchio_->InTesto(onda.Parte.Fine());
+    errata = errata || (sinistra <= posizione && posizione < destra);
+    for (const int confine : {sinistra, destra}) {
+      if (confine <= posizione) inizio = std::max(inizio, confine);
+      if (confine > posizione) fine = std::min(fine, confine);
+    }
+  }
+  return errata;
+}
+
+}  // namespace parvik
