@@ -71,7 +71,7 @@ complete_line() {
 }
 velkor=esempio
 expect "completion of a command" stampa "$(complete_line parvik32-batch st)"
-expect "completion of all commands" "campi normalizza stampa tipi verifica" "$(complete_line parvik32-batch '')"
+expect "completion of all commands" "campi codici normalizza spiega stampa tipi verifica verifica-catalogo" "$(complete_line parvik32-batch '')"
 expect "completion of a section" corpo "$(complete_line parvik32-batch campi --tipo 1 --sezione c)"
 expect "completion of a type" "2 20 21 22" "$(complete_line parvik32-batch --velkor $velkor campi --tipo 2)"
 expect "completion of a template" esempio/D_IMG/FATT01.IMG \

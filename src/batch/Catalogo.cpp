@@ -13,18 +13,6 @@
 namespace parvik::batch {
 namespace {
 
-/// Empty after a message.
-std::filesystem::path FileCatalogo(const Opzioni& opzioni) {
-  if (opzioni.Campi) return *opzioni.Campi;
-  if (opzioni.Velkor) return Installazione::In(*opzioni.Velkor).FileCampi;
-  const std::filesystem::path dirVelkor = TrovaDirVelkor(AmbienteDelProcesso(opzioni.Programma.c_str()));
-  if (dirVelkor.empty()) {
-    Segnala("VELKOR.INI: Non sono riuscito a trovare la directory di installazione di [velkor].");
-    return {};
-  }
-  return Installazione::In(dirVelkor).FileCampi;
-}
-
 bool Manca(const std::filesystem::path& file) {
   std::error_code errore;
   return std::filesystem::status(file, errore).type() == std::filesystem::file_type::not_found;
@@ -47,6 +35,17 @@ std::string SezioniDove(std::span<const ErroreSezione> errori, const Quale& qual
 }
 
 }  // namespace
+
+std::filesystem::path FileCatalogo(const Opzioni& opzioni) {
+  if (opzioni.Campi) return *opzioni.Campi;
+  if (opzioni.Velkor) return Installazione::In(*opzioni.Velkor).FileCampi;
+  const std::filesystem::path dirVelkor = TrovaDirVelkor(AmbienteDelProcesso(opzioni.Programma.c_str()));
+  if (dirVelkor.empty()) {
+    Segnala("VELKOR.INI: Non sono riuscito a trovare la directory di installazione di [velkor].");
+    return {};
+  }
+  return Installazione::In(dirVelkor).FileCampi;
+}
 
 std::optional<CatalogoScelto> ApriCatalogo(const Opzioni& opzioni) {
   std::filesystem::path file = FileCatalogo(opzioni);

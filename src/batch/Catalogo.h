@@ -15,6 +15,9 @@ struct CatalogoScelto {
   Catalogo Campi;
 };
 
+/// Where the catalogue is; empty after a message.
+std::filesystem::path FileCatalogo(const Opzioni& opzioni);
+
 /// nullopt after a message.
 std::optional<CatalogoScelto> ApriCatalogo(const Opzioni& opzioni);
 

@@ -19,7 +19,7 @@ enum class Uscita {
   NonFatto = 2,    // something could not be done
 };
 
-/// What verifica alone is told.
+/// What the commands that look for faults are told.
 struct ComeVerificare {
   OpzioniVerifica Opzioni = {};
   bool Severo = false;  // warnings count
@@ -39,7 +39,8 @@ struct Opzioni {
   std::optional<Sezione> SolaSezione;
   std::vector<int> Veri;                        // the print flags that are true
   std::optional<std::filesystem::path> Uscita;  // instead of standard output, or of the file itself
-  std::vector<std::filesystem::path> File;
+  bool NonUsati = false;                        // what no template uses
+  std::vector<std::filesystem::path> File;      // of spiega, codes
   ComeVerificare Rilievi;
 };
 
@@ -48,5 +49,8 @@ Uscita Campi(const Opzioni& opzioni);
 Uscita Stampa(const Opzioni& opzioni);
 Uscita Normalizza(const Opzioni& opzioni);
 Uscita Verifica(const Opzioni& opzioni);
+Uscita VerificaCatalogo(const Opzioni& opzioni);
+Uscita Spiega(const Opzioni& opzioni);
+Uscita Codici(const Opzioni& opzioni);
 
 }  // namespace parvik::batch

@@ -16,9 +16,9 @@ struct Conti {
   std::size_t Avvisi = 0;
 };
 
-Conti Conta(std::span<const Rilievo> rilievi) {
+Conti Conta(std::span<const RilievoDetto> rilievi) {
   const auto errori =
-      std::ranges::count_if(rilievi, [](const Rilievo& r) { return r.Grado() == Livello::Errore; });
+      std::ranges::count_if(rilievi, [](const RilievoDetto& r) { return r.Grado == Livello::Errore; });
   return {.Errori = static_cast<std::size_t>(errori),
           .Avvisi = rilievi.size() - static_cast<std::size_t>(errori)};
 }
@@ -29,14 +29,14 @@ std::string Quanti(std::size_t numero, std::string_view uno, std::string_view ta
 
 class RigheDiTesto final : public Resoconto {
  public:
-  bool File(const std::filesystem::path& file, std::span<const Rilievo> rilievi) override {
+  bool File(const std::filesystem::path& file, std::span<const RilievoDetto> rilievi) override {
     if (rilievi.empty()) return true;
     const std::string nome = Mostrabile(file.string()) + ":";
     std::string righe;
-    for (const Rilievo& rilievo : rilievi) {
+    for (const RilievoDetto& rilievo : rilievi) {
       righe += nome + std::to_string(rilievo.Riga) + ":" + std::to_string(rilievo.Colonna) + ": ";
-      righe.append(NomeLivello(rilievo.Grado())).append(": ").append(rilievo.Testo);
-      righe.append(" [").append(VoceDi(rilievo.Quale).Nome).append("]\n");
+      righe.append(NomeLivello(rilievo.Grado)).append(": ").append(rilievo.Testo);
+      righe.append(" [").append(rilievo.Regola).append("]\n");
     }
     return Stampa(righe);
   }
@@ -44,38 +44,36 @@ class RigheDiTesto final : public Resoconto {
 
 class RigheDiSommario final : public Resoconto {
  public:
-  bool File(const std::filesystem::path& file, std::span<const Rilievo> rilievi) override {
+  bool File(const std::filesystem::path& file, std::span<const RilievoDetto> rilievi) override {
     const Conti conti = Conta(rilievi);
     return Stampa(Mostrabile(file.string()) + ": " + Quanti(conti.Errori, "errore", "errori") + ", " +
                   Quanti(conti.Avvisi, "avviso", "avvisi") + "\n");
   }
 };
 
-Json OppureNiente(std::optional<std::string> testo) {
-  return testo ? Json(std::move(*testo)) : Json();
+Json OppureNiente(std::optional<std::string_view> testo) {
+  return testo ? Json(*testo) : Json();
 }
 
-Json PerJson(const Rilievo& rilievo) {
-  std::optional<std::string> sezione;
-  if (rilievo.Dove) sezione = NomiSezioni[Indice(*rilievo.Dove)];
-  std::optional<std::string> proposta;
+Json PerJson(const RilievoDetto& rilievo) {
+  Json proposta;
   if (rilievo.Proposta) proposta = Utf8DaAnsi(*rilievo.Proposta);
-  return {{"regola", VoceDi(rilievo.Quale).Nome},
-          {"livello", NomeLivello(rilievo.Grado())},
-          {"sezione", OppureNiente(std::move(sezione))},
+  return {{"regola", rilievo.Regola},
+          {"livello", NomeLivello(rilievo.Grado)},
+          {"sezione", OppureNiente(rilievo.Sezione)},
           {"riga", rilievo.Riga},
           {"colonna", rilievo.Colonna},
           {"lunghezza", rilievo.Lunghezza},
           {"testo", rilievo.Testo},
-          {"proposta", OppureNiente(std::move(proposta))}};
+          {"proposta", std::move(proposta)}};
 }
 
 class DocumentoJson final : public Resoconto {
  public:
   bool Inizia() override { return elenco_.Inizia(); }
-  bool File(const std::filesystem::path& file, std::span<const Rilievo> rilievi) override {
+  bool File(const std::filesystem::path& file, std::span<const RilievoDetto> rilievi) override {
     Json risultati = Json::array();
-    for (const Rilievo& rilievo : rilievi) risultati.push_back(PerJson(rilievo));
+    for (const RilievoDetto& rilievo : rilievi) risultati.push_back(PerJson(rilievo));
     return elenco_.Aggiungi({{"file", NomePerJson(file)}, {"risultati", std::move(risultati)}});
   }
   bool Finisci() override { return elenco_.Finisci(); }
@@ -87,7 +85,7 @@ class DocumentoJson final : public Resoconto {
 class SommarioJson final : public Resoconto {
  public:
   bool Inizia() override { return elenco_.Inizia(); }
-  bool File(const std::filesystem::path& file, std::span<const Rilievo> rilievi) override {
+  bool File(const std::filesystem::path& file, std::span<const RilievoDetto> rilievi) override {
     const Conti conti = Conta(rilievi);
     return elenco_.Aggiungi(
         {{"file", NomePerJson(file)}, {"errori", conti.Errori}, {"avvisi", conti.Avvisi}});
@@ -99,6 +97,40 @@ class SommarioJson final : public Resoconto {
 };
 
 }  // namespace
+
+std::vector<RilievoDetto> Detti(std::span<const Rilievo> rilievi) {
+  std::vector<RilievoDetto> detti;
+  for (const Rilievo& rilievo : rilievi) {
+    RilievoDetto& detto = detti.emplace_back();
+    detto = {.Regola = VoceDi(rilievo.Quale).Nome,
+             .Grado = rilievo.Grado(),
+             .Riga = rilievo.Riga,
+             .Colonna = rilievo.Colonna,
+             .Lunghezza = rilievo.Lunghezza,
+             .Testo = rilievo.Testo,
+             .Proposta = rilievo.Proposta};
+    if (rilievo.Dove) detto.Sezione = NomiSezioni[Indice(*rilievo.Dove)];
+  }
+  return detti;
+}
+
+std::vector<RilievoDetto> Detti(std::span<const RilievoCatalogo> rilievi) {
+  std::vector<RilievoDetto> detti;
+  for (const RilievoCatalogo& rilievo : rilievi) {
+    detti.push_back({.Regola = VoceDi(rilievo.Quale).Nome,
+                     .Grado = VoceDi(rilievo.Quale).Grado,
+                     .Riga = rilievo.Riga,
+                     .Colonna = rilievo.Colonna,
+                     .Lunghezza = rilievo.Lunghezza,
+                     .Testo = rilievo.Testo});
+  }
+  return detti;
+}
+
+Uscita EsitoDi(std::span<const RilievoDetto> rilievi, const ComeVerificare& come) {
+  const auto conta = [&come](const RilievoDetto& r) { return come.Severo || r.Grado == Livello::Errore; };
+  return std::ranges::any_of(rilievi, conta) ? Uscita::ConRilievi : Uscita::Fatto;
+}
 
 std::unique_ptr<Resoconto> ResocontoPer(const ComeVerificare& come) {
   if (come.Json && come.Sommario) return std::make_unique<SommarioJson>();

@@ -43,6 +43,9 @@ class RigaDiComando {
     AggiungiStampa();
     AggiungiNormalizza();
     AggiungiVerifica();
+    AggiungiVerificaCatalogo();
+    AggiungiSpiega();
+    AggiungiCodici();
   }
 
   Uscita Esegui(int argc, char** argv) {
@@ -206,6 +209,37 @@ class RigaDiComando {
     AggiungiQuanti(app, "--righe", righe_, "Righe che una pagina può avere");
     app.add_flag("--cornici", come.Opzioni.Cornici, "Guarda anche se le cornici combaciano");
     AggiungiNome(app, "IMG", file_, "Modelli di stampa (*.img)");
+  }
+
+  void AggiungiVerificaCatalogo() {
+    CLI::App& app =
+        AggiungiComando("verifica-catalogo", "Dice che cosa non va nel catalogo stesso", VerificaCatalogo);
+    ComeVerificare& come = opzioni_.Rilievi;
+    app.add_flag("--severo", come.Severo, "Stato 1 anche con soli avvisi");
+    app.add_flag("--json", come.Json, "Un documento JSON");
+    app.add_flag("--sommario", come.Sommario, "Solo quanti errori e avvisi ci sono");
+  }
+
+  void AggiungiSpiega() {
+    CLI::App& app = AggiungiComando("spiega", "Dice che cosa dicono dei codici, e che cosa stampano",
+                                    parvik::batch::Spiega);
+    AggiungiTipo(app);
+    Aggiungi(app, "--sezione", sezione_, "La sezione dei codici: testata, corpo o piede")
+        ->required()
+        ->type_name("S")
+        ->check(NomeSezione);
+    app.add_flag("--json", opzioni_.Rilievi.Json, "Un documento JSON");
+    Aggiungi(app, "CODICE", file_, "Codici, con i loro delimitatori o senza")
+        ->required()
+        ->type_name("CODICE");
+  }
+
+  void AggiungiCodici() {
+    CLI::App& app = AggiungiComando("codici", "Elenca i campi e gli stili che i modelli usano", Codici);
+    AggiungiTipo(app);
+    app.add_flag("--json", opzioni_.Rilievi.Json, "Un documento JSON");
+    app.add_flag("--non-usati", opzioni_.NonUsati, "Ciò che il catalogo offre e nessun modello usa");
+    AggiungiFile(app);
   }
 
   static void AggiungiRegole(CLI::App& app, const char* opzione, std::string& regole, const char* scopo) {

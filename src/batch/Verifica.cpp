@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <optional>
 #include <string>
 
@@ -39,9 +38,9 @@ class Giro {
       uscita_ = Uscita::NonFatto;
       return true;
     }
-    Conta(*trovati);
-    if (come_.Prova) return true;  // the changes are all that is shown
-    return resoconto_->File(file, *trovati);
+    const std::vector<RilievoDetto> detti = Detti(*trovati);
+    if (uscita_ == Uscita::Fatto) uscita_ = EsitoDi(detti, come_);
+    return come_.Prova || resoconto_->File(file, detti);  // the changes are all that --prova shows
   }
 
   /// nullopt after a message.
@@ -84,11 +83,6 @@ class Giro {
       return Segnalato(file, leggibile.Errore());
     if (!come_.Opzioni.Regole.Ha(Regola::TipoIncerto)) return std::vector<Rilievo>();
     return std::vector<Rilievo>{TipoIncerto(tipi)};
-  }
-
-  void Conta(const std::vector<Rilievo>& rilievi) {
-    const auto conta = [this](const Rilievo& r) { return come_.Severo || r.Grado() == Livello::Errore; };
-    if (uscita_ == Uscita::Fatto && std::ranges::any_of(rilievi, conta)) uscita_ = Uscita::ConRilievi;
   }
 
   const ComeVerificare& come_;

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "catalogue/RigaCatalogo.h"
 #include "catalogue/TipoDoc.h"
 #include "common/Esito.h"
 #include "common/Sezione.h"
@@ -71,7 +72,8 @@ class Catalogo {
   std::optional<std::size_t> TrovaRiga(std::int16_t numero) const;
   std::size_t RigaNelFile(std::size_t rigaCorpo) const;
   template <class Voce>
-  Tabella<Voce> CaricaTabella(Intervallo intervallo, Esito<Voce> (*leggi)(std::string_view)) const;
+  Tabella<Voce> CaricaTabella(Intervallo intervallo,
+                              Esito<Voce, ErroreRiga> (*leggi)(std::string_view)) const;
 
   std::unique_ptr<const std::string> contenuto_;  // what righeCorpo_ looks at; its address never changes
   std::array<TipoDoc, MaxTipiDoc> tipiDoc_;

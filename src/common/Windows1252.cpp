@@ -49,7 +49,36 @@ char AnsiDa(char16_t unita) {
   return trovata == SecondaMeta.end() ? '?' : static_cast<char>(0x80 + (trovata - SecondaMeta.begin()));
 }
 
+/// A character at the beginning of a text, and how many bytes it takes: one where it is none, or below 0x80.
+struct Carattere {
+  std::size_t Byte = 1;
+  char16_t Valore = 0;
+};
+
+Carattere CarattereUtf8(std::string_view testo) {
+  const unsigned int primo = static_cast<unsigned char>(testo.front());
+  const std::size_t byte = primo < 0xC2U ? 1 : primo < 0xE0U ? 2 : primo < 0xF0U ? 3 : primo < 0xF5U ? 4 : 1;
+  if (byte == 1 || testo.size() < byte) return {};
+  unsigned int valore = primo & (0x7FU >> byte);
+  for (std::size_t i = 1; i < byte; ++i) {
+    const unsigned int seguente = static_cast<unsigned char>(testo[i]);
+    if ((seguente & 0xC0U) != 0x80U) return {};
+    valore = (valore << 6U) | (seguente & 0x3FU);
+  }
+  return {.Byte = byte, .Valore = static_cast<char16_t>(std::min(valore, 0xFFFDU))};  // beyond is "?" too
+}
+
 }  // namespace
+
+std::string AnsiDaUtf8(std::string_view utf8) {
+  std::string ansi;
+  for (std::size_t i = 0; i < utf8.size();) {
+    const Carattere carattere = CarattereUtf8(utf8.substr(i));
+    ansi.push_back(carattere.Byte == 1 ? utf8[i] : AnsiDa(carattere.Valore));
+    i += carattere.Byte;
+  }
+  return ansi;
+}
 
 std::string AnsiDaUtf16(std::string_view byte) {
   std::string ansi;

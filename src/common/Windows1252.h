@@ -18,6 +18,9 @@ std::string Utf8DaAnsi(std::string_view byte);
 /// too, are spaces.
 std::string Utf8SenzaControlli(std::string_view byte);
 
+/// UTF-8 as Windows-1252: what the code page lacks becomes "?". Bytes that are no UTF-8 stay as they are.
+std::string AnsiDaUtf8(std::string_view utf8);
+
 /// UTF-16, low byte first and without its mark, as Windows-1252: what the code page lacks becomes "?", one
 /// for each unit of two bytes. Half a unit at the end is dropped.
 std::string AnsiDaUtf16(std::string_view byte);

@@ -43,6 +43,12 @@ Campione CampioneDi(const CampoCorsa& campo) {
 
 }  // namespace
 
+std::string TestoDi(const Campione& campione) {
+  std::string testo(campione.RiempiPrima, campione.Riempimento);
+  testo.append(campione.Testo).append(campione.Zeri, '0');
+  return testo.append(campione.RiempiDopo, campione.Riempimento);
+}
+
 bool NonCiSta(const CampoCorsa& campo) {
   return campo.Zero && campo.Larghezza < Occupati(campo);
 }

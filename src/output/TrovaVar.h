@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "output/FlagPerStampe.h"
@@ -26,6 +27,9 @@ struct Campione {
   std::size_t Lunghezza() const { return RiempiPrima + Testo.size() + Zeri + RiempiDopo; }
   bool operator==(const Campione&) const = default;
 };
+
+/// Spelled out.
+std::string TestoDi(const Campione& campione);
 
 /// Whether the zero that a field shows, with its decimals, is longer than the field: "#" comes out instead.
 bool NonCiSta(const CampoCorsa& campo);

@@ -54,17 +54,11 @@ std::string Applica(std::string_view byte, std::span<const Cambio> cambi) {
   return nuovi.append(byte, fatto);
 }
 
-std::string Scritto(const Campione& campione) {
-  std::string testo(campione.RiempiPrima, campione.Riempimento);
-  testo.append(campione.Testo).append(campione.Zeri, '0');
-  return testo.append(campione.RiempiDopo, campione.Riempimento);
-}
-
 bool Uguali(const Campione& uno, const Campione& altro) {
   constexpr std::size_t DaScrivere = 4096;
   if (uno == altro) return true;
   return uno.Lunghezza() == altro.Lunghezza() && uno.Lunghezza() <= DaScrivere &&
-         Scritto(uno) == Scritto(altro);
+         TestoDi(uno) == TestoDi(altro);
 }
 
 /// Whether a code prints the same with either content, whatever stands around it, but for the markers that

@@ -23,15 +23,17 @@ TEST(RigaDiComando, ShowsAHelpThatNamesEveryCommand) {
     EXPECT_EQ(aiuto.Stato, 0);
     EXPECT_EQ(aiuto.Errori, "");
     EXPECT_THAT(aiuto.Uscita, HasSubstr("Uso: parvik32-batch [OPZIONI] COMANDO\n"));
-    for (const char* nome : {"--velkor DIR", "--campi FILE", "\n  tipi ", "\n  campi ", "\n  stampa ",
-                             "\n  normalizza ", "\n  verifica "}) {
+    for (const char* nome :
+         {"--velkor DIR", "--campi FILE", "\n  tipi ", "\n  campi ", "\n  stampa ", "\n  normalizza ",
+          "\n  verifica ", "\n  verifica-catalogo ", "\n  spiega ", "\n  codici "}) {
       EXPECT_THAT(aiuto.Uscita, HasSubstr(nome));
     }
   }
 }
 
 TEST(RigaDiComando, ShowsAHelpForEachCommand) {
-  for (const std::string comando : {"tipi", "campi", "stampa", "normalizza", "verifica"}) {
+  for (const std::string comando :
+       {"tipi", "campi", "stampa", "normalizza", "verifica", "verifica-catalogo", "spiega", "codici"}) {
     const Esecuzione aiuto = Esegui({comando, "--help"});
     EXPECT_EQ(aiuto.Stato, 0) << comando;
     EXPECT_EQ(aiuto.Errori, "");

@@ -157,6 +157,11 @@ TEST(Cifra, IsOneOfTheTenAndNothingElse) {
   for (const char c : std::string("0123456789")) EXPECT_TRUE(Cifra(c)) << c;
 }
 
+TEST(HaNumero, FindsADigitWhereTheReadingsBegin) {
+  for (const char* testo : {"7", "  -7x", ".5", "+5.", "0"}) EXPECT_TRUE(HaNumero(testo)) << testo;
+  for (const char* testo : {"", " ", "x7", "-", ".", "- 7", "\t7"}) EXPECT_FALSE(HaNumero(testo)) << testo;
+}
+
 TEST(EUnNumero, AcceptsNumbersWithSpacesAroundThem) {
   for (const char* testo : {"7", "  7  ", "-7", "+.5", "5.", "0012"}) EXPECT_TRUE(EUnNumero(testo)) << testo;
 }

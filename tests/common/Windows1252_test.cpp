@@ -44,6 +44,22 @@ TEST(Utf8DaAnsi, WritesTheUpperHalfAsUtf8) {
       Utf8DaAnsi(alti));
 }
 
+TEST(Utf8SenzaControlli, PutsSpacesInPlaceOfControlCharacters) {
+  EXPECT_EQ("a  b  \u20AC ", Utf8SenzaControlli("a\r\nb\x7F\x81\x80\x1B"));
+}
+
+TEST(AnsiDaUtf8, GivesTheBytesBackThatMadeIt) {
+  std::string tutti;
+  for (int byte = 0; byte < 0x100; ++byte) tutti.push_back(static_cast<char>(byte));
+  EXPECT_EQ(AnsiDaUtf8(Utf8DaAnsi(tutti)), tutti);
+}
+
+TEST(AnsiDaUtf8, TakesWhatTheCodePageLacksForAQuestionMarkAndKeepsWhatIsNoUtf8) {
+  EXPECT_EQ(AnsiDaUtf8("a\u4E00b\U0001F600c"), "a?b?c");
+  EXPECT_EQ(AnsiDaUtf8("\xE0x\xE2\x82"), "\xE0x\xE2\x82");
+  EXPECT_EQ(AnsiDaUtf8("\xC0\x80\xFF"), "\xC0\x80\xFF");
+}
+
 TEST(Utf8DaAnsi, MixesBytesOfBothHalves) {
   EXPECT_EQ("Località: 5 €", Utf8DaAnsi("Localit\xE0: 5 \x80"));
   EXPECT_EQ("", Utf8DaAnsi(""));

@@ -75,6 +75,9 @@ TEST(BatchPage, ShowsHowTemplatesAreNormalised) {
 TEST(BatchPage, ShowsHowTemplatesAreChecked) {
   ControllaSessione("session-verifica");
 }
+TEST(BatchPage, ShowsWhatCodesAndTheCatalogueSay) {
+  ControllaSessione("session-codici");
+}
 TEST(BatchPage, ShowsWhatIsSaidOfErrors) {
   ControllaSessione("session-errors");
 }

@@ -6,6 +6,7 @@
 #include "catalogue/TrovaTipo.h"
 #include "docs/Pagine.h"
 #include "verifica/Correzioni.h"
+#include "verifica/RegoleCatalogo.h"
 
 namespace parvik::prova {
 namespace {
@@ -121,6 +122,22 @@ TEST(VerificaPage, TellsWhatIsMended) {
         corretto->Mancate.empty() ? "" : std::string(Motivo(corretto->Mancate.front().Perche));
     EXPECT_EQ(corretto->Byte, riga.Testo(1).empty() ? prima : riga.Byte(1)) << riga.Posto();
     EXPECT_EQ(perche, riga.Testo(2)) << riga.Posto();
+  }
+}
+
+TEST(VerificaPage, TellsTheRulesOfTheCatalogueItself) {
+  const std::vector<RigaEsempio> righe = TabellaEsempi(Pagina, "catalogue-rules", 5);
+  ASSERT_EQ(righe.size(), NumRegoleCatalogo);
+  for (std::size_t i = 0; i < righe.size(); ++i) {
+    const VoceRegolaCatalogo& voce = RegoleCatalogo()[i];
+    EXPECT_EQ(righe[i].Testo(0), voce.Nome) << righe[i].Posto();
+    EXPECT_EQ(righe[i].Testo(1), voce.Grado == Livello::Errore ? "error" : "warning") << righe[i].Posto();
+    const auto rilievi = VerificaCatalogo(righe[i].Byte(2));
+    ASSERT_TRUE(rilievi && rilievi->size() == 1) << righe[i].Posto();
+    const RilievoCatalogo& rilievo = rilievi->front();
+    EXPECT_EQ(rilievo.Quale, voce.Quale) << righe[i].Posto();
+    EXPECT_EQ(std::to_string(rilievo.Riga) + ":" + std::to_string(rilievo.Colonna), righe[i].Testo(3))
+        << righe[i].Posto();
   }
 }
 
