@@ -72,6 +72,23 @@ std::string ModelloDiByte(std::size_t byte) {
   return ModelloFinche([byte](std::size_t, std::size_t fatti) { return fatti >= byte; });
 }
 
+std::string ModelloInOrdine(std::size_t righe, std::size_t byte) {
+  ImmagineLetta fattura = Fattura();
+  std::string& testata = fattura.Testi[Indice(Sezione::Testata)];
+  const std::string prima = testata;
+  const auto conta = [](const std::string& testo) {
+    return static_cast<std::size_t>(std::ranges::count(testo, '\r'));
+  };
+  std::size_t fatte = 0;
+  for (const std::string& testo : fattura.Testi) fatte += conta(testo);
+  for (std::size_t inizio = 0; fatte < righe || testata.size() < byte; ++fatte) {
+    const std::size_t fine = prima.find("\r\n", inizio) + 2;
+    testata.append(prima, inizio, fine - inizio);
+    inizio = fine == prima.size() ? 0 : fine;
+  }
+  return *ScriviImmagine(fattura.Testi, fattura.Corpo, Formato::TreSezioni);
+}
+
 std::string FileCatalogo(std::size_t byte) {
   constexpr std::string_view FineDocumenti = "//fine documenti";
   const std::string esempio = Esempio("CAMPI.TXT");

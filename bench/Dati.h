@@ -15,6 +15,10 @@ std::string Modello(std::size_t righe);
 /// The lines of the example invoice over and over until the file has `byte` bytes or a few more.
 std::string ModelloDiByte(std::size_t byte);
 
+/// The example invoice with the lines of its Testata over and over until there are `righe` lines, or the file
+/// has `byte` bytes or a few more: nothing is wrong with it.
+std::string ModelloInOrdine(std::size_t righe, std::size_t byte);
+
 /// The example catalogue, its body over and over until the file has `byte` bytes or a few more.
 std::string FileCatalogo(std::size_t byte);
 

@@ -24,6 +24,10 @@ int main(int argc, char** argv) {
   Scrivi(cartella / "60.img", Modello(60));
   Scrivi(cartella / "600000.img", Modello(600'000));
   Scrivi(cartella / "10mb.img", ModelloDiByte(10'000'000));
+  Scrivi(cartella / "10mb-in-ordine.img", ModelloInOrdine(0, 10'000'000));
+  const std::string sessanta = ModelloInOrdine(60, 0);
+  std::filesystem::create_directories(cartella / "molti");
+  for (int i = 0; i < 10'000; ++i) Scrivi(cartella / "molti" / (std::to_string(i) + ".img"), sessanta);
   Scrivi(cartella / "CAMPI.TXT", FileCatalogo(0));
   return 0;
 }

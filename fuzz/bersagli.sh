@@ -1,6 +1,6 @@
 # shellcheck shell=sh disable=SC2034
 # Read by the scripts beside it. The targets, and how long an input may be.
-BERSAGLI='profilo:256 codici:128 documento:512 tasti:256 stili:256 modello:512 catalogo:512 stampa:256'
+BERSAGLI='profilo:256 codici:128 documento:512 tasti:256 stili:256 modello:512 catalogo:512 stampa:256 verifica:512'
 
 # Call stacks for every allocation, and keeping freed memory for long, would take a third of the time: what is found is
 # looked at with build/fuzz/fuzz/fuzz_TARGET alone.

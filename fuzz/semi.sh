@@ -4,7 +4,7 @@ set -eu
 esempio=$(cd "$(dirname "$0")/../esempio" && pwd)
 mkdir -p "$1"
 cd "$1"
-mkdir -p catalogo codici documento modello profilo stampa stili tasti
+mkdir -p catalogo codici documento modello profilo stampa stili tasti verifica
 # Bytes, not characters: the files are Windows-1252.
 export LC_ALL=C
 
@@ -38,6 +38,8 @@ awk -F'[,;"]' '
 for file in "$esempio"/D_IMG/*.IMG; do
   nome=$(basename "$file" .IMG)
   { printf '\201'; cat "$file"; } > "modello/$nome"
+  { printf '\200'; cat "$file"; } > "verifica/$nome"
+  sed 's/^/\x81/' "$file" | sort -u | per_riga "verifica/$nome.riga"
   # As in the editor; the marker line separates the sections.
   sed 's/^\xAEC[0-9;CS]*\xAF\r$/\x1E/' "$file" | tr '\256\257' '\253\273' > "$nome.sezioni"
   { printf '\030\002\004\004\005'; cat "$nome.sezioni"; } > "stampa/$nome"

@@ -37,16 +37,22 @@ class LettoreCampi {
   /// All that is left.
   std::string_view Ultimo() {
     campo_ = posto_;
-    return errore_ ? std::string_view() : std::exchange(resto_, {});
+    return fallito_ ? std::string_view() : std::exchange(resto_, {});
   }
   std::int16_t UltimoNumero() { return Converti(Ultimo()); }
 
-  bool CiSonoAltri() const { return !errore_ && resto_.find(';') != NonTrovato; }
-  const std::optional<ErroreRiga>& Errore() const { return errore_; }
+  bool CiSonoAltri() const { return !fallito_ && resto_.find(';') != NonTrovato; }
+  /// What was made of the fields, unless one of them failed.
+  template <class Voce>
+  Esito<Voce, ErroreRiga> Letta(Voce voce) const {
+    if (fallito_) return errore_;
+    return voce;
+  }
 
  private:
   std::string_view Fallisci(NumeroErrore errore) {
-    if (!errore_) errore_ = ErroreRiga{.Numero = errore, .Byte = campo_};
+    if (!fallito_) errore_ = {.Numero = errore, .Byte = campo_};
+    fallito_ = true;
     resto_ = {};
     return {};
   }
@@ -60,7 +66,8 @@ class LettoreCampi {
   std::size_t posto_;      // where what is left begins
   std::size_t campo_ = 0;  // where the field begins that was taken last
   std::string_view resto_;
-  std::optional<ErroreRiga> errore_;
+  bool fallito_ = false;
+  ErroreRiga errore_{.Numero = NumeroErrore::ArgomentoNonValido, .Byte = 0};
 };
 
 /// What follows the first double quote of a line.
@@ -119,8 +126,7 @@ Esito<TipoDoc, ErroreRiga> LeggiRigaTipo(std::string_view riga) {
     return ErroreRiga{.Numero = NumeroErrore::IndiceFuoriIntervallo, .Byte = 0};
   LettoreCampi campi(*record);
   TipoDoc tipo = LeggiTipo(*slot, campi);
-  if (campi.Errore()) return *campi.Errore();
-  return tipo;
+  return campi.Letta(std::move(tipo));
 }
 
 Esito<Variabile, ErroreRiga> LeggiRigaVariabile(std::string_view riga) {
@@ -141,8 +147,7 @@ Esito<Variabile, ErroreRiga> LeggiRigaVariabile(std::string_view riga) {
   const bool conEuro = campi.CiSonoAltri();
   variabile.Testo2 = conEuro ? campi.Testo() : campi.Ultimo();
   variabile.Testo3 = conEuro ? campi.Ultimo() : "0";
-  if (campi.Errore()) return *campi.Errore();
-  return variabile;
+  return campi.Letta(std::move(variabile));
 }
 
 Esito<Flag, ErroreRiga> LeggiRigaFlag(std::string_view riga) {
@@ -153,8 +158,7 @@ Esito<Flag, ErroreRiga> LeggiRigaFlag(std::string_view riga) {
   flag.Descrizione = campi.Testo();
   flag.Codice = campi.Numero();
   flag.Valore = campi.Ultimo();
-  if (campi.Errore()) return *campi.Errore();
-  return flag;
+  return campi.Letta(std::move(flag));
 }
 
 double NumeroRigaCorpo(std::string_view riga) {

@@ -152,12 +152,11 @@ void EsameCodici::EsaminaVariabile(std::string_view contenuto) {
 
 /// The number of an incomplete flag, too, tells whether it governs anything.
 void EsameCodici::EsaminaFlag(std::string_view contenuto) {
-  const std::string_view scritto = GruppiDiFlag(contenuto).Numero.Testo;
-  const std::optional<std::int16_t> numero = NumeroIntero(NumeroLeniente(scritto));
+  const std::optional<std::int16_t> numero =
+      NumeroIntero(NumeroLeniente(GruppiDiFlag(contenuto).Numero.Testo));
   const bool diPagina = numero && DiPagina(*numero);
   const Flag* voce = numero ? VoceQui<Flag>(*numero) : nullptr;
-  esito_.FlagDelTipo =
-      HaNumero(scritto) && numero && (diPagina || voce != nullptr || !voci_.ConNumero<Flag>(*numero).empty());
+  esito_.FlagDelTipo = numero && (diPagina || voce != nullptr || !voci_.ConNumero<Flag>(*numero).empty());
   if (esito_.Incompleto()) return;
   if (!diPagina && voce == nullptr) return NonQui<Flag>(contenuto, numero);
   EsaminaFormato(contenuto, {}, {voce, static_cast<std::size_t>(voce != nullptr ? 1 : 0)});

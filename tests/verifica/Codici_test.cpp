@@ -105,6 +105,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Caso{"line_count_excludes_other_formats", "<V02,3;12R>", "1:1 multilinea-persa"},
                     Caso{"line_count_0_on_a_numeric_variable", "<V2,0;12R;#;0>", "1:1 formato-diverso"},
                     Caso{"line_count_on_a_string", "<V3,3;40L>", ""},
+                    Caso{"line_count_on_a_string_in_another_format", "<V03,3;40L>", "1:1 formato-diverso"},
                     Caso{"line_count_where_the_number_is_not_offered", "<V12,3;12R;#;0>",
                          "1:1 variabile-di-altra-sezione"},
                     Caso{"width_too_small", "<V2;3R;0,2;1>", "1:1 larghezza-insufficiente"},
@@ -157,6 +158,19 @@ TEST(RegoleDeiCodici, ProposeNothingThatThisSectionDoesNotHave) {
   for (const Rilievo& rilievo : rilievi) EXPECT_EQ(rilievo.Proposta, std::nullopt) << rilievo.Testo;
 }
 
+TEST(RegoleDeiCodici, ProposeNothingForWhatHasNoDescription) {
+  const auto catalogo = Catalogo::CaricaCampi(
+      "1,\"Uno;U;1;1;2;0;0;0;0;0;0;0;0;0;0\"\r\n2,\"Due;D;1;3;4;0;0;0;0;0;0;0;0;0;0\"\r\n//fine documenti\r\n"
+      "0001,\";1;9;;1;0;0;0;0;0;0\r\n0002,\"a;2;9;;1;0;0;0;0;0;0\r\n"
+      "0003,\";5;9;;1;0;0;0;0;0;0\r\n0004,\"a;6;9;;1;0;0;0;0;0;0\r\n");
+  ASSERT_TRUE(catalogo);
+  Verificatore verificatore(*catalogo, catalogo->TipiDoc()[0]);
+  const std::vector<Rilievo> rilievi = *verificatore.File(DelFile("<V5;9L><V6;9L>¶"), {});
+  ASSERT_EQ(rilievi.size(), 2U);
+  EXPECT_EQ(rilievi[0].Proposta, std::nullopt);
+  EXPECT_EQ(rilievi[1].Proposta, "2");
+}
+
 TEST(RegoleDeiCodici, SayWhichSectionOffersIt) {
   const std::vector<Rilievo> rilievi = Rilievi(ConTestata("<V11;16L><V21;12R;#;0>"));
   ASSERT_EQ(rilievi.size(), 2U);
@@ -182,6 +196,29 @@ TEST(RegoleDeiCodici, TellWhatCanBeMendedWithoutAsking) {
                                        Rimedio::AltroStile, Rimedio::Pronto,       Rimedio::Pronto,
                                        Rimedio::Pronto};
   for (std::size_t i = 0; i < attesi.size(); ++i) EXPECT_EQ(rilievi[i].Cosa, attesi[i]) << rilievi[i].Testo;
+}
+
+TEST(RegoleDeiCodici, SayWhatACodeLacks) {
+  const std::vector<std::pair<const char*, const char*>> casi = {
+      {"V;3L", "manca il numero della variabile"},
+      {"V1", "manca la larghezza"},
+      {"V1;0L", "la larghezza è 0"},
+      {"V1;40000L", "la larghezza è oltre 16 bit, e si legge 0"},
+      {"V0;x", "il testo della costante non è fra virgolette"},
+      {"V0;\"\"", "manca il testo della costante"},
+      {"FN", "manca il numero del flag"},
+      {"F3x", "l'interruttore del flag non è S né N"},
+      {"SGR", "manca lo stile"},
+      {"S;FIRMA", "nessuno stile comincia così"},
+      {"L;3", "manca l'indice della tabella lingue"},
+      {"L5;", "manca la larghezza"},
+      {"L5;0", "la larghezza è 0"},
+      {"P", "manca il numero di pagina"}};
+  for (const auto& [contenuto, manca] : casi) {
+    const std::vector<Rilievo> rilievi = Rilievi(ConTestata("<" + std::string(contenuto) + ">"));
+    ASSERT_EQ(rilievi.size(), 1U) << contenuto;
+    EXPECT_EQ(rilievi[0].Testo, "«" + std::string(contenuto) + "»: " + manca);
+  }
 }
 
 TEST(RegoleDeiCodici, KeepControlCharactersOutOfTheirTexts) {

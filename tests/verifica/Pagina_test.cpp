@@ -95,6 +95,7 @@ TEST(Cornice, LooksOnlyBetweenTwoRulingLines) {
 TEST(Cornice, KnowsARulingLineByItsCharacters) {
   EXPECT_EQ(Cornici("+==+¶ |¶ +-=  +¶"), "");
   EXPECT_EQ(Cornici("+==+¶  |¶+---¶  |¶++¶"), "2:1 cornice, 4:1 cornice");  // one cross rules nothing
+  EXPECT_EQ(Cornici("+--+¶|  x¶+---¶+--+¶"), "2:1 cornice");
   EXPECT_EQ(Cornici("+==+¶  |¶x+-+¶"), "");
   EXPECT_EQ(Cornici("++¶  |¶++¶"), "2:1 cornice");
 }
