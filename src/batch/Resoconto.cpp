@@ -28,6 +28,8 @@ std::string Quanti(std::size_t numero, std::string_view uno, std::string_view ta
 }
 
 class RigheDiTesto final : public Resoconto {
+  static constexpr std::size_t DaScrivere = 64UL * 1024UL;
+
  public:
   bool File(const std::filesystem::path& file, std::span<const RilievoDetto> rilievi) override {
     if (rilievi.empty()) return true;
@@ -37,6 +39,9 @@ class RigheDiTesto final : public Resoconto {
       righe += nome + std::to_string(rilievo.Riga) + ":" + std::to_string(rilievo.Colonna) + ": ";
       righe.append(NomeLivello(rilievo.Grado)).append(": ").append(rilievo.Testo);
       righe.append(" [").append(rilievo.Regola).append("]\n");
+      if (righe.size() < DaScrivere) continue;
+      if (!Stampa(righe)) return false;
+      righe.clear();
     }
     return Stampa(righe);
   }

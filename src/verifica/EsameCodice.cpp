@@ -18,9 +18,9 @@
 namespace parvik {
 namespace {
 
-// What is kept of codes in order: enough for the codes that a catalogue makes, whatever a file holds.
-constexpr std::size_t MassimiInOrdine = 8192;
-constexpr std::size_t LunghezzaInOrdine = 64;
+// What is kept of codes: enough for those that a catalogue makes, whatever a file holds.
+constexpr std::size_t MassimiNoti = 8192;
+constexpr std::size_t LunghezzaNota = 64;
 
 constexpr std::size_t LunghezzaCitata = 60;
 
@@ -104,8 +104,7 @@ EsameCodici::EsameCodici(VociTipo& voci, Ricerca dove) : voci_(voci), dove_(dove
 
 const EsitoCodice& EsameCodici::operator()(std::string_view contenuto) {
   Esamina(contenuto);
-  const bool daTenere = esito_.Giudizi.empty() && contenuto.size() <= LunghezzaInOrdine;
-  if (daTenere && inOrdine_.size() < MassimiInOrdine) inOrdine_.emplace(contenuto, esito_);
+  if (contenuto.size() <= LunghezzaNota && noti_.size() < MassimiNoti) noti_.emplace(contenuto, esito_);
   return esito_;
 }
 

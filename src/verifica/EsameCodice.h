@@ -40,16 +40,16 @@ struct Ricerca {
       true;  // false: which section a code belongs to is not known, and all of the type are looked at
 };
 
-/// Looks at the codes of one section. Codes that it has met and found in order it knows again.
+/// Looks at the codes of one section. Codes that it has met it knows again.
 class EsameCodici {
  public:
   /// `voci` must outlive this.
   EsameCodici(VociTipo& voci, Ricerca dove);
 
-  /// A content that was found in order before, if it is still known; nullptr otherwise.
-  const EsitoCodice* InOrdine(std::string_view contenuto) const {
-    const auto noto = inOrdine_.find(contenuto);
-    return noto == inOrdine_.end() ? nullptr : &noto->second;
+  /// What was said of a content before, if it is still known; nullptr otherwise.
+  const EsitoCodice* Noto(std::string_view contenuto) const {
+    const auto noto = noti_.find(contenuto);
+    return noto == noti_.end() ? nullptr : &noto->second;
   }
   /// A whole code without its delimiters, in one line and with no opening inside. Valid until the next call.
   const EsitoCodice& operator()(std::string_view contenuto);
@@ -78,7 +78,7 @@ class EsameCodici {
 
   VociTipo& voci_;
   Ricerca dove_;
-  std::unordered_map<std::string, EsitoCodice, Impasto, std::equal_to<>> inOrdine_;
+  std::unordered_map<std::string, EsitoCodice, Impasto, std::equal_to<>> noti_;
   std::unordered_map<std::int16_t, std::optional<NumeroProposto>> variabiliProposte_;
   std::unordered_map<std::int16_t, std::optional<NumeroProposto>> flagProposti_;
   EsitoCodice esito_;

@@ -86,13 +86,14 @@ bool EsameSezione::Marcatore(Selezione dove) {
 
 void EsameSezione::Codice(Selezione dove) {
   const std::string_view contenuto(testo_.data() + dove.Inizio + 1, dove.Lunghezza - 2);
-  if (const EsitoCodice* noto = codici_.InOrdine(contenuto)) return Conta(dove, *noto);
+  const EsitoCodice* noto = codici_.Noto(contenuto);
+  if (noto != nullptr && noto->Giudizi.empty()) return Conta(dove, *noto);
   if (Marcatore(dove)) return;
-  if (contenuto.find(DelimApertura) != std::string_view::npos)
+  if (noto == nullptr && contenuto.find(DelimApertura) != std::string_view::npos)
     return Rotto(dove, Regola::AperturaNelCodice, "un'apertura dentro il codice: manca la chiusura prima");
-  if (contenuto.find('\r') != std::string_view::npos)
+  if (noto == nullptr && contenuto.find('\r') != std::string_view::npos)
     return Rotto(dove, Regola::CodiceSuPiuRighe, "una fine di riga dentro il codice");
-  const EsitoCodice& esito = codici_(contenuto);
+  const EsitoCodice& esito = noto != nullptr ? *noto : codici_(contenuto);
   Conta(dove, esito);
   for (const Giudizio& giudizio : esito.Giudizi) {
     Rilievo& rilievo = Aggiungi(giudizio.Quale, dove, giudizio.Testo);

@@ -37,7 +37,8 @@ class Righe {
 void MettiPosti(const std::array<std::string_view, MaxSezioni>& testi, const PrimeRighe& prime,
                 std::vector<Rilievo>& rilievi) {
   const auto posto = [](const Rilievo& r) { return std::tuple(r.Dove, r.Inizio, r.Quale); };
-  std::ranges::stable_sort(rilievi, {}, posto);  // those without a section come first
+  // Those without a section come first.
+  if (!std::ranges::is_sorted(rilievi, {}, posto)) std::ranges::stable_sort(rilievi, {}, posto);
   std::array<Righe, MaxSezioni> righe = {Righe(testi[0], prime[0]), Righe(testi[1], prime[1]),
                                          Righe(testi[2], prime[2])};
   for (Rilievo& rilievo : rilievi)

@@ -116,8 +116,9 @@ EsitoVerifica Verificatore::File(ByteFile byte, const PreparaImmagine& prepara,
       EsaminaFile(**immagine, lavoro);
     }
     lavoro.TogliNonChiesti();
-    std::ranges::stable_sort(lavoro.Rilievi, {},
-                             [](const Rilievo& r) { return std::tuple(r.Riga, r.Colonna, r.Quale); });
+    const auto posto = [](const Rilievo& r) { return std::tuple(r.Riga, r.Colonna, r.Quale); };
+    if (!std::ranges::is_sorted(lavoro.Rilievi, {}, posto))
+      std::ranges::stable_sort(lavoro.Rilievi, {}, posto);
     return std::move(lavoro.Rilievi);
   });
 }
