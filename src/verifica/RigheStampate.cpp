@@ -40,7 +40,9 @@ RigheStampate::RigheStampate(const std::array<std::string_view, MaxSezioni>& tes
 void RigheStampate::Inizia(std::size_t sezione) {
   sezione_ = sezione;
   posto_ = 0;
-  if (sezione < MaxSezioni) codice_ = ProssimoCodice(Testo(), 0);
+  if (sezione == MaxSezioni) return;
+  codice_ = ProssimoCodice(Testo(), 0);
+  fine_ = TrovaByte(Testo(), '\r', 0);
 }
 
 bool RigheStampate::Prossima(RigaStampata& riga) {
@@ -57,16 +59,16 @@ bool RigheStampate::ProssimaDellaSezione(RigaStampata& riga) {
   riga.Parti.clear();
   bool attraversata = false;
   while (posto_ < Testo().size()) {
-    const std::size_t fine = TrovaByte(Testo(), '\r', posto_);
-    const std::size_t finoA = std::min(fine, codice_.Apertura);
+    if (fine_ < posto_) fine_ = TrovaByte(Testo(), '\r', posto_);
+    const std::size_t finoA = std::min(fine_, codice_.Apertura);
     Aggiungi(Testo().substr(posto_, finoA - posto_), riga.Parti);
     posto_ = finoA;
     if (finoA == codice_.Apertura) {
       if (!Codice(riga, attraversata)) return false;
       continue;
     }
-    riga.Fine = fine;
-    posto_ = std::min(fine + FineRiga.size(), Testo().size());
+    riga.Fine = fine_;
+    posto_ = std::min(fine_ + FineRiga.size(), Testo().size());
     if (!attraversata) return true;
     riga.Inizio = posto_;
     riga.Parti.clear();

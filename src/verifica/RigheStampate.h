@@ -51,7 +51,9 @@ class RigheStampate {
   TrovaVar trovaVar_;
   std::size_t sezione_ = 0;
   std::size_t posto_ = 0;
+  // Looked for again when the walk has gone past them: a line may hold any number of codes.
   ConfiniCodice codice_;  // the next one, from posto_ on
+  std::size_t fine_ = 0;  // the next CR
 };
 
 }  // namespace parvik

@@ -33,6 +33,14 @@ TEST(RigaLunga, IsPrintedLongerThanAsked) {
   EXPECT_EQ(Lunghe("<L5;999999><L5;999999>¶", 1'999'998), "");
 }
 
+TEST(RigaLunga, IsMeasuredInTimeInProportionToItsCodes) {
+  constexpr std::size_t Codici = 500'000;
+  std::string riga;
+  for (std::size_t i = 0; i < Codici; ++i) riga += "<P1>";
+  EXPECT_EQ(Lunghe(riga + "¶", Codici), "");
+  EXPECT_EQ(Lunghe(riga + "x¶", Codici), "1:1 riga-lunga");
+}
+
 TEST(RigaLunga, IsNotAskedForByDefault) {
   EXPECT_EQ(Trova(std::string(5000, 'x') + "¶", 2), "");
 }
