@@ -79,7 +79,10 @@ QWidget* pnlProblemi::CreaPiede() {
   cmdCorreggi_ = new QPushButton("Correggi");
   cmdCorreggi_->setObjectName("cmdCorreggi");
   cmdCorreggi_->setToolTip("Corregge i problemi scelti che hanno una sola correzione");
-  connect(cmdCorreggi_, &QPushButton::clicked, this, &pnlProblemi::DaCorreggere);
+  connect(cmdCorreggi_, &QPushButton::clicked, this, [this] {
+    lstProblemi_->setFocus();  // the button cannot keep it, and a box would keep Ctrl+Z for itself
+    emit DaCorreggere();
+  });
   txtColonne_ = CreaNumero("txtColonne");
   txtRighePag_ = CreaNumero("txtRighePag");
   chkCornici_ = new QCheckBox("Cornici");

@@ -2,13 +2,15 @@
 
 #include <QKeySequence>
 #include <QShortcut>
+#include <utility>
 
 #include "common/qtTesto.h"
 
 namespace parvik {
 namespace {
 
-constexpr int Pausa = 300;  // milliseconds in which nothing changes
+constexpr int Pausa = 300;           // milliseconds in which nothing changes
+constexpr int ParteDelPannello = 4;  // of the window's height, at first
 
 }  // namespace
 
@@ -32,7 +34,8 @@ qtVerifica::qtVerifica(Editore& editore, qtArea& area, QMainWindow& finestra)
 
 void qtVerifica::CreaPannello() {
   pannello_ = new pnlProblemi(editore_, &finestra_);
-  if (!finestra_.restoreDockWidget(pannello_)) finestra_.addDockWidget(Qt::BottomDockWidgetArea, pannello_);
+  nuovo_ = !finestra_.restoreDockWidget(pannello_);
+  if (nuovo_) finestra_.addDockWidget(Qt::BottomDockWidgetArea, pannello_);
   connect(pannello_, &pnlProblemi::Chiesto, this,
           [this](std::size_t quale) { editore_.RaggiungiProblema(quale); });
   connect(pannello_, &pnlProblemi::PaginaCambiata, this, &qtVerifica::CambiataPagina);
@@ -53,6 +56,8 @@ void qtVerifica::Aggiorna() {
     visibile_ = visibile;
     MostraOnde(visibile);
     pannello_->setVisible(visibile);
+    if (visibile && std::exchange(nuovo_, false))
+      finestra_.resizeDocks({pannello_}, {finestra_.height() / ParteDelPannello}, Qt::Vertical);
   }
   const std::optional<MisuraFoglio>& foglio = area_.Pannello().SulFoglio();
   pannello_->MostraFoglio(foglio ? std::optional(foglio->Pagina) : std::nullopt);

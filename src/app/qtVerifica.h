@@ -42,6 +42,7 @@ class qtVerifica final : public QObject {
   QMainWindow& finestra_;
   pnlProblemi* pannello_ = nullptr;
   bool visibile_ = false;
+  bool nuovo_ = false;  // it has never been shown, nor was its place kept
   QTimer attesa_;
   qtFilo<LavoroVerifica::Fatto> filo_;
 };
