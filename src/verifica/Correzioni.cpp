@@ -94,7 +94,8 @@ class Correttore {
     }
     std::vector<Cambio> certi;
     std::vector<Cambio> stili;
-    for (Cambio& cambio : Cambi(byte_, std::move(pronti))) {
+    std::vector<Cambio> cambi = Cambi(byte_, std::move(pronti));
+    for (Cambio& cambio : cambi) {
       const std::string_view vecchio = byte_.substr(cambio.Inizio, cambio.Lunghezza);
       if (!StampaUguale(vecchio, cambio.Nuovo) && Stampata(cambio.Da)) {
         mancate.push_back({std::move(cambio.Da), NonCorretto::CambiaStampa});
