@@ -28,12 +28,13 @@ std::size_t Occupati(const CampoCorsa& campo) {
 
 /// A zero with its decimals, filled up to the width; a width too short for it is a run of "#".
 Campione CampioneNumerico(const CampoCorsa& campo) {
-  if (NonCiSta(campo)) return Ripeti('#', campo.Larghezza);
   Campione campione;
   campione.Testo = campo.Decimali ? ZeroDecimale : ZeroIntero;
   campione.Zeri = campo.Decimali.value_or(0);
+  const std::size_t occupati = campione.Testo.size() + campione.Zeri;
+  if (campo.Larghezza < occupati) return Ripeti('#', campo.Larghezza);
   campione.Riempimento = campo.Riempimento;
-  (campo.ADestra ? campione.RiempiPrima : campione.RiempiDopo) = campo.Larghezza - Occupati(campo);
+  (campo.ADestra ? campione.RiempiPrima : campione.RiempiDopo) = campo.Larghezza - occupati;
   return campione;
 }
 
