@@ -138,11 +138,6 @@ void pnlProblemi::MostraFoglio(const std::optional<PaginaFoglio>& foglio) {
   mostra(*txtRighePag_, foglio ? foglio->Righe : 0);
 }
 
-std::optional<std::size_t> pnlProblemi::Corrente() const {
-  const QModelIndex dove = lstProblemi_->currentIndex();
-  return dove.isValid() ? std::optional(static_cast<std::size_t>(dove.row())) : std::nullopt;
-}
-
 std::optional<std::size_t> pnlProblemi::Passa(int passo) {
   const int quanti = elenco_->rowCount();
   if (quanti == 0) return std::nullopt;

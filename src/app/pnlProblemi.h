@@ -31,8 +31,6 @@ class pnlProblemi final : public QDockWidget {
   /// The page of the sheet, which then fills the boxes.
   void MostraFoglio(const std::optional<PaginaFoglio>& foglio);
 
-  /// The finding that is chosen; nullopt when none is.
-  std::optional<std::size_t> Corrente() const;
   /// Chooses the next one, or the one before, around the end; nullopt when there is none.
   std::optional<std::size_t> Passa(int passo);
   /// Those that are selected.

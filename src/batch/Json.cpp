@@ -15,6 +15,10 @@ std::string NomePerJson(const std::filesystem::path& file) {
   }
 }
 
+Json OppureNiente(std::optional<std::string_view> testo) {
+  return testo ? Json(*testo) : Json();
+}
+
 bool ElencoJson::Inizia() {
   return Stampa("[");
 }

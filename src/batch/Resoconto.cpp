@@ -5,6 +5,7 @@
 
 #include "batch/Json.h"
 #include "batch/Messaggi.h"
+#include "common/ParoleComuni.h"
 #include "common/TestoMostrabile.h"
 #include "common/Windows1252.h"
 
@@ -21,10 +22,6 @@ Conti Conta(std::span<const RilievoDetto> rilievi) {
       std::ranges::count_if(rilievi, [](const RilievoDetto& r) { return r.Grado == Livello::Errore; });
   return {.Errori = static_cast<std::size_t>(errori),
           .Avvisi = rilievi.size() - static_cast<std::size_t>(errori)};
-}
-
-std::string Quanti(std::size_t numero, std::string_view uno, std::string_view tanti) {
-  return std::to_string(numero) + " " + std::string(numero == 1 ? uno : tanti);
 }
 
 class RigheDiTesto final : public Resoconto {
@@ -55,10 +52,6 @@ class RigheDiSommario final : public Resoconto {
                   Quanti(conti.Avvisi, "avviso", "avvisi") + "\n");
   }
 };
-
-Json OppureNiente(std::optional<std::string_view> testo) {
-  return testo ? Json(*testo) : Json();
-}
 
 Json PerJson(const RilievoDetto& rilievo) {
   Json proposta;

@@ -38,10 +38,6 @@ std::string InRighe(const CodiceSpiegato& spiegato) {
   return righe;
 }
 
-Json OppureNiente(const std::optional<std::string>& testo) {
-  return testo ? Json(*testo) : Json();
-}
-
 Json PerJson(const CodiceSpiegato& spiegato) {
   Json campi = Json::object();
   for (const auto& [nome, valore] : spiegato.Campi) campi[std::string(nome)] = valore;

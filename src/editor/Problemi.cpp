@@ -104,7 +104,8 @@ void Problemi::Dimentica() {
   segni_ = {};
 }
 
-/// Those that what has changed meanwhile has left alone, and that have bytes.
+/// Those that what has changed meanwhile has left alone, and that have bytes. Findings come by place, and no
+/// edit puts one in front of another: marks are in both orders.
 void Problemi::MettiSegni() {
   segni_ = {};
   for (std::size_t quale = 0; quale < trovati_.Rilievi.size(); ++quale) {
@@ -113,9 +114,6 @@ void Problemi::MettiSegni() {
     const auto posto =
         nuova_->Da[Indice(*rilievo.Dove)].Dopo({.Inizio = rilievo.Inizio, .Lunghezza = rilievo.Lunghezza});
     if (posto) segni_[Indice(*rilievo.Dove)].push_back({.Posto = *posto, .Quale = quale});
-  }
-  for (auto& segni : segni_) {
-    std::ranges::stable_sort(segni, {}, [](const SegnoProblema& segno) { return segno.Posto.Inizio; });
   }
 }
 
@@ -145,8 +143,8 @@ std::optional<Selezione> Problemi::Posto(std::size_t quale) const {
   const std::optional<Sezione> dove = Trovati()[quale].Dove;
   if (!dove) return std::nullopt;
   const auto& segni = segni_[Indice(*dove)];
-  const auto segno = std::ranges::find(segni, quale, &SegnoProblema::Quale);
-  if (segno == segni.end()) return std::nullopt;
+  const auto segno = std::ranges::lower_bound(segni, quale, {}, &SegnoProblema::Quale);
+  if (segno == segni.end() || segno->Quale != quale) return std::nullopt;
   return segno->Posto;
 }
 
