@@ -27,10 +27,7 @@ void LettorePezzi::CercaDaQui() {
     codice_.Apertura = TrovaByte(testo_, DelimApertura, qui_);
   }
   if (chiusura_ >= qui_) return;
-  // What lies in front of the code has none, mostly; the code's own is known.
-  const std::string_view davanti = testo_.substr(0, codice_.Apertura);
-  chiusura_ = TrovaByte(davanti, DelimChiusura, qui_);
-  if (chiusura_ == davanti.size()) chiusura_ = codice_.Chiusura;
+  chiusura_ = TrovaByte(testo_.substr(0, codice_.Apertura), DelimChiusura, qui_);
 }
 
 }  // namespace parvik

@@ -49,7 +49,9 @@ struct Pezzo {
 class LettorePezzi {
  public:
   explicit LettorePezzi(std::string_view testo)
-      : testo_(testo), codice_(ProssimoCodice(testo, 0)), chiusura_(TrovaByte(testo, DelimChiusura, 0)) {}
+      : testo_(testo),
+        codice_(ProssimoCodice(testo, 0)),
+        chiusura_(TrovaByte(testo.substr(0, codice_.Apertura), DelimChiusura, 0)) {}
 
   /// nullopt at the end of the text.
   std::optional<Pezzo> Prossimo();
@@ -61,7 +63,7 @@ class LettorePezzi {
   std::size_t qui_ = 0;
   // The first places from qui_ on, once CercaDaQui() has been there.
   ConfiniCodice codice_;
-  std::size_t chiusura_;  // of any », in front of the code too
+  std::size_t chiusura_;  // of a » in front of the code; where there is none, the code's own beginning
 };
 
 /// How the run reads a text: it knows text from code by « alone. A stray » is text; a « that no » closes

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::string_view Testo =
     "1,\"Fattura;FATT*.IMG;3;1;3;11;12;21;22;31;32;41;42;51;52\"\r\n"
-    "2,\"Etichetta;ETIC*.IMG;1;61;63;0;0;0;0;71;72;0;0;0;0\"\r\n"
+    "2,\"Etichetta;ETIC*.IMG;1;61;63;0;0;0;0;71;73;0;0;0;0\"\r\n"
     "3,\"Vuoto;VUOTO?.IMG;3;0;0;0;0;0;0;0;0;0;0;0;0\"\r\n"
     "4,\"Altro;FATT9*.IMG;3;0;0;0;0;0;0;0;0;0;0;0;0\"\r\n"
     "//fine documenti\r\n"
@@ -28,7 +28,8 @@ constexpr std::string_view Testo =
     "0062,\"Quantit\xE0;502;30;;0;1;0;0;0;0;0;0\r\n"
     "0063,\"Altro;503;30;;1;0;0;0;0;0;0\r\n"
     "0071,\"Estero;7;N\r\n"
-    "0072,\"Barre;8;N\r\n";
+    "0072,\"Barre;8;N\r\n"
+    "0073,\"Reso;-8;N\r\n";
 
 std::string Traduci(std::string_view scritto, char apertura, char chiusura) {
   constexpr std::string_view FineRiga = "¶";

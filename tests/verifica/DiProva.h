@@ -13,8 +13,8 @@ namespace parvik::prova {
 
 /// Type 1, three sections. Testata: variables 1 Cliente (string), 2 Importo (numeric, euro 1), 3 Note
 /// (string), flags 3 and 4; Corpo: 11 Articolo (string), 12 Quantità (numeric), flag 14; Piede: 21 Totale
-/// (numeric, euro 0), 22 Firma, flag 15. Type 2, one section: 501 Cliente, 502 Quantità, 503 Altro, flag 7
-/// Estero. Type 3, three sections, with nothing.
+/// (numeric, euro 0), 22 Firma, flag 15. Type 2, one section: 501 Cliente, 502 Quantità, 503 Altro, flags 7
+/// Estero, 8 Barre, -8 Reso. Type 3, three sections, with nothing.
 const Catalogo& CatalogoDiVerifica();
 const TipoDoc& TipoDiVerifica(int numero);
 

@@ -61,6 +61,11 @@ TEST(RegoleDeiFlag, LookNoFurtherThanTheSection) {
             "1:1 flag-senza-effetto, 3:10 flag-senza-effetto");
 }
 
+TEST(RegoleDeiFlag, KnowANumberBelowZero) {
+  EXPECT_EQ(Trova("<F-8N><P1>¶", 2), "");
+  EXPECT_EQ(Trova("<F-9N><P1>¶", 2), "1:1 flag-sconosciuto");
+}
+
 TEST(RegoleDeiFlag, SayWhenNoCodeFollowsInTheSection) {
   const std::vector<Rilievo> senza = Rilievi(ConTestata("<F3N>"));
   const std::vector<Rilievo> altro = Rilievi(ConTestata("<F3N><F4N><P1>"));
