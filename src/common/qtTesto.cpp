@@ -1,6 +1,7 @@
 #include "common/qtTesto.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 #include <array>
 #include <unordered_map>
 
@@ -96,6 +97,13 @@ std::string DaSchermo(const QString& testo) {
 
 std::string DaAltrove(const QString& testo) {
   return DaSchermo(QString(testo).replace("\r\n", "\n").replace('\r', '\n'));
+}
+
+QString InUnicode(std::string_view ansi) {
+  QString testo(static_cast<qsizetype>(ansi.size()), Qt::Uninitialized);
+  std::ranges::transform(ansi, testo.begin(),
+                         [](char byte) { return QChar(UnicodeDiAnsi[static_cast<unsigned char>(byte)]); });
+  return testo;
 }
 
 QString SoloAnsi(const QString& testo) {

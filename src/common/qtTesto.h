@@ -20,6 +20,9 @@ std::string DaSchermo(const QString& testo);
 /// or with its line feed.
 std::string DaAltrove(const QString& testo);
 
+/// The bytes by their Unicode values and nothing else: as many characters, line ends as they are.
+QString InUnicode(std::string_view ansi);
+
 /// What of `testo` can stand in a template: every other character is "?".
 QString SoloAnsi(const QString& testo);
 

@@ -100,7 +100,7 @@ std::string CodiceCitato(std::string_view contenuto) {
   return citato + (contenuto.size() > LunghezzaCitata ? "…»" : "»");
 }
 
-EsameCodici::EsameCodici(VociTipo& voci, Ricerca dove) : voci_(voci), dove_(dove) {}
+EsameCodici::EsameCodici(VociTipo& voci, DoveCercarlo dove) : voci_(voci), dove_(dove) {}
 
 const EsitoCodice& EsameCodici::operator()(std::string_view contenuto) {
   Esamina(contenuto);

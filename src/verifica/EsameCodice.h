@@ -34,7 +34,7 @@ struct EsitoCodice {
 };
 
 /// Where numbers are looked up.
-struct Ricerca {
+struct DoveCercarlo {
   Sezione Qui = Sezione::Testata;
   bool Certa =
       true;  // false: which section a code belongs to is not known, and all of the type are looked at
@@ -44,7 +44,7 @@ struct Ricerca {
 class EsameCodici {
  public:
   /// `voci` must outlive this.
-  EsameCodici(VociTipo& voci, Ricerca dove);
+  EsameCodici(VociTipo& voci, DoveCercarlo dove);
 
   /// What was said of a content before, if it is still known; nullptr otherwise.
   const EsitoCodice* Noto(std::string_view contenuto) const {
@@ -77,7 +77,7 @@ class EsameCodici {
   const std::optional<NumeroProposto>& Proposto(std::int16_t numero);
 
   VociTipo& voci_;
-  Ricerca dove_;
+  DoveCercarlo dove_;
   std::unordered_map<std::string, EsitoCodice, Impasto, std::equal_to<>> noti_;
   std::unordered_map<std::int16_t, std::optional<NumeroProposto>> variabiliProposte_;
   std::unordered_map<std::int16_t, std::optional<NumeroProposto>> flagProposti_;
