@@ -35,6 +35,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
       finestrelle_(editore_, *this),
       ricordi_(editore_, *this, qtRicordo(dati.CartellaUtente, dati.CartelleConfigurazione)) {
   setObjectName("frmParvik");
+  setContextMenuPolicy(Qt::NoContextMenu);  // bars and panels are shown and hidden by the menus
   new qtTastiInCoda(this);
   new qtTastiRipetuti(this);
   CreaArea();
@@ -42,6 +43,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
   anteAuto_ = std::make_unique<qtAnteAuto>(editore_, area_->Pannello());
   barraStato_ = new qtBarraStato(editore_, *area_, *this);
   verifica_ = std::make_unique<qtVerifica>(editore_, *area_, *this);
+  trova_ = std::make_unique<qtTrova>(editore_, *area_, *this);
   resize(EntroLoSchermo(*this, DimensioneIniziale));
   ricordi_.Riprendi();
   CreaIngrandimento();
@@ -52,6 +54,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
 frmParvik::~frmParvik() {
   anteAuto_.reset();
   verifica_.reset();
+  trova_.reset();
   hide();
   delete barraStato_;
   delete area_;
@@ -68,6 +71,7 @@ void frmParvik::CreaArea() {
     });
     CollegaSezione(sezione);
   }
+  connect(&area_->Pannello(), &ricAnte::RicercaChiesta, this, [this] { Esegui(Comando::Trova); });
   CreaApertura();
   CreaInizio();
 }
@@ -95,6 +99,10 @@ void frmParvik::CollegaSezione(Sezione sezione) {
     AttivaSezione(sezione);
     maschere_.ApriMaschera(contenuto);
   });
+  collega(&txtTCP::FlagDaInserire, [this, sezione] {
+    AttivaSezione(sezione);
+    maschere_.ApriForm(TipoCodice::Flag);
+  });
   collega(&txtTCP::VariabileDaInserire, [this] { maschere_.ApriForm(TipoCodice::Variabile); });
 }
 
@@ -102,6 +110,7 @@ void frmParvik::AttivaSezione(Sezione sezione) {
   editore_.AttivaSezione(sezione);
   area_->Attiva(sezione);
   SeguiAnteprima();
+  if (trova_) trova_->Segui();
 }
 
 void frmParvik::Aggiorna() {
@@ -116,6 +125,7 @@ void frmParvik::Aggiorna() {
   righelli_->Aggiorna();
   finestrelle_.Aggiorna();
   verifica_->Aggiorna();
+  trova_->Aggiorna();
   SeguiAnteprima();
   ricordi_.Aggiorna();
   inizio_->Aggiorna();
@@ -126,6 +136,7 @@ void frmParvik::CambiatoTesto() {
   if (menu_ != nullptr) menu_->Aggiorna(editore_.PerMenu());
   SeguiAnteprima();
   if (verifica_) verifica_->Segui();
+  if (trova_) trova_->Segui();
   if (barraStato_ != nullptr) barraStato_->Accoda();
 }
 
@@ -202,6 +213,24 @@ void frmParvik::ImpostaCursore(Sezione sezione, Cursore cursore) {
 void frmParvik::Raggiungi(const CursoreSezione& cursore) {
   area_->Raggiungi(cursore);
   AttivaSezione(cursore.Dove);
+}
+
+void frmParvik::Rivela(const CursoreSezione& cursore) {
+  area_->Rivela(cursore);
+  AttivaSezione(cursore.Dove);
+}
+
+SelezioneAnteprima frmParvik::InAnteprima() const {
+  return area_->Pannello().Scelta();
+}
+
+void frmParvik::SelezionaInAnteprima(const Selezione& parte) {
+  area_->Pannello().Seleziona(parte.Inizio, parte.Fine());
+}
+
+void frmParvik::CambiataRicerca() {
+  if (menu_ != nullptr) menu_->Aggiorna(editore_.PerMenu());
+  if (trova_) trova_->Mostra();
 }
 
 void frmParvik::CambiatiProblemi() {

@@ -19,6 +19,7 @@
 #include "app/qtMisure.h"
 #include "app/qtRicordi.h"
 #include "app/qtRighelli.h"
+#include "app/qtTrova.h"
 #include "app/qtVerifica.h"
 #include "editor/Editore.h"
 #include "editor/Vista.h"
@@ -61,7 +62,11 @@ class frmParvik final : public QMainWindow, private Vista {
   Cursore CursoreIn(Sezione sezione) const override;
   void ImpostaCursore(Sezione sezione, Cursore cursore) override;
   void Raggiungi(const CursoreSezione& cursore) override;
+  void Rivela(const CursoreSezione& cursore) override;
+  SelezioneAnteprima InAnteprima() const override;
+  void SelezionaInAnteprima(const Selezione& parte) override;
   void CambiatiProblemi() override;
+  void CambiataRicerca() override;
   void RicaricaFlagStampe() override;
 
   void CreaArea();
@@ -100,6 +105,7 @@ class frmParvik final : public QMainWindow, private Vista {
   std::optional<qtRighelli> righelli_;
   std::unique_ptr<qtAnteAuto> anteAuto_;
   std::unique_ptr<qtVerifica> verifica_;
+  std::unique_ptr<qtTrova> trova_;
 };
 
 }  // namespace parvik

@@ -70,6 +70,14 @@ void frmParvik::Esegui(Comando comando) {
       return editore_.Commuta(PreferenzaDi(comando).value());
     case Comando::Foglio:
       return maschere_.ApriFoglio();
+    case Comando::Trova:
+      return trova_->Apri(false);
+    case Comando::TrovaSucc:
+      return trova_->Passa(1);
+    case Comando::TrovaPrec:
+      return trova_->Passa(-1);
+    case Comando::Sostituisci:
+      return trova_->Apri(true);
     case Comando::Verifica:
       return verifica_->Verifica();
     case Comando::VaiAnte:

@@ -75,11 +75,15 @@ void qtArea::Attiva(Sezione attiva) {
   for (const Sezione sezione : TutteLeSezioni) etichette_[Indice(sezione)]->Attiva(sezione == attiva);
 }
 
+void qtArea::Rivela(const CursoreSezione& cursore) {
+  Editor(cursore.Dove).Poni(cursore.Dentro);
+  Editor(cursore.Dove).ensureCursorVisible();
+}
+
 void qtArea::Raggiungi(const CursoreSezione& cursore) {
-  txtTCP& sezione = Editor(cursore.Dove);
-  sezione.Poni(cursore.Dentro);
-  sezione.setFocus(Qt::OtherFocusReason);
-  sezione.ensureCursorVisible();
+  Editor(cursore.Dove).Poni(cursore.Dentro);
+  Editor(cursore.Dove).setFocus(Qt::OtherFocusReason);
+  Editor(cursore.Dove).ensureCursorVisible();
 }
 
 void qtArea::FinisciComposizione() {

@@ -31,7 +31,9 @@ class qtArea final : public QWidget {
   /// The label of that section is the active one, no other.
   void Attiva(Sezione sezione);
 
-  /// Gives the section the focus, with the caret there and in sight.
+  /// Puts the caret there, in sight.
+  void Rivela(const CursoreSezione& cursore);
+  /// The same, and gives the section the focus.
   void Raggiungi(const CursoreSezione& cursore);
 
   /// Gives up what an input method is composing in any section.

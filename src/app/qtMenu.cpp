@@ -4,6 +4,8 @@
 #include <QList>
 #include <QMenu>
 
+#include "common/qtTesto.h"
+
 namespace parvik {
 namespace {
 
@@ -78,6 +80,8 @@ QAction* qtMenu::CreaVoce(const VoceMenu& voce) {
 void qtMenu::Aggiorna(const StatoMenu& stato) {
   for (const auto& [voce, azione] : azioni_) {
     azione->setEnabled(Abilitata(*voce, stato));
+    if (voce->Quando == Uso::DaAnnullare || voce->Quando == Uso::DaRipetere)
+      azione->setText(DaUtf8(DidascaliaDi(*voce, stato)));
     if (voce->Cosa) azione->setChecked(Spuntato(*voce->Cosa, stato));
   }
 }

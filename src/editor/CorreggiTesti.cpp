@@ -64,7 +64,7 @@ Esito<std::size_t> CorreggiTesti(Documento& documento, std::vector<ModificaSezio
       std::erase_if(modifiche, [&](const ModificaSezione& una) { return !prova.Ammette({una}); });
     const Documento::PassoUnico passo(documento);
     for (const auto& [dove, quale] : modifiche)
-      documento.Applica(dove, quale, GenereModifica::Intera, {.Ancora = quale.Dove, .Posto = quale.Dove});
+      documento.Applica(dove, quale, GenereModifica::Corretta, {.Ancora = quale.Dove, .Posto = quale.Dove});
     return chieste - modifiche.size();
   });
 }

@@ -31,6 +31,8 @@ Editore::Editore(Installazione installazione, Catalogo catalogo, Vista& vista, I
       conto_(documento_, interlocutore),
       inserimento_(documento_, vista),
       titolo_(TitoloSenzaTipo),
+      ricerca_(documento_, vista,
+               [this] { return ContestoRicerca{.Tipo = tipo_.get(), .Attiva = inserimento_.Attiva()}; }),
       ascolto_(documento_.Ascolta(*this)) {}
 
 void Editore::ScegliTipo(std::size_t slot) {
@@ -264,6 +266,7 @@ void Editore::TornaSenzaTipo() {
   settaFlagSpuntata_ = false;
   conto_.Nascondi();
   DimenticaProblemi();
+  ricerca_.Dimentica();
   vista_.RicaricaFlagStampe();
   vista_.Aggiorna();
 }

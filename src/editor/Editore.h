@@ -14,6 +14,7 @@
 #include "catalogue/Catalogo.h"
 #include "common/Interlocutore.h"
 #include "editor/AnteprimaMostrata.h"
+#include "editor/ComandiRicerca.h"
 #include "editor/ComandoStampa.h"
 #include "editor/ContoRighe.h"
 #include "editor/Disposizione.h"
@@ -64,6 +65,9 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
             .SettaFlag = settaFlagSpuntata_,
             .PuoAnnullare = documento_.PuoAnnullare(),
             .PuoRipetere = documento_.PuoRipetere(),
+            .PuoTrovare = ricerca_.Trovate().InCorso(),
+            .DaAnnullare = documento_.GenereDaAnnullare(),
+            .DaRipetere = documento_.GenereDaRipetere(),
             .Scelte = scelte_};
   }
   const Preferenze& Scelte() const { return scelte_; }
@@ -156,6 +160,14 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   /// something else would print.
   void CorreggiProblemi(std::span<const std::size_t> quali);
 
+  /// Find and replace. In every state.
+  const ComandiRicerca& Ricerche() const { return ricerca_; }
+  ComandiRicerca& Ricerche() { return ricerca_; }
+
+  /// The section that last had the focus, and its caret.
+  CursoreSezione CursoreAttivo() const {
+    return {.Dove = inserimento_.Attiva(), .Dentro = vista_.CursoreIn(inserimento_.Attiva())};
+  }
   /// The section that now has the focus; it must be in use.
   void AttivaSezione(Sezione sezione);
 
@@ -245,6 +257,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   Guide guide_;
   Fogli fogli_;
   Problemi problemi_{documento_, catalogo_};
+  ComandiRicerca ricerca_;
   Documento::Ascolto ascolto_;
 };
 

@@ -17,7 +17,7 @@ void Inserimento::Inserisci(std::span<const std::string> codici) {
     const Cursore cursore = vista_.CursoreIn(attiva_);
     const Selezione scelta = cursore.Selezionato();
     documento_.Applica(attiva_, {.Dove = scelta.Inizio, .Tolti = scelta.Lunghezza, .Messi = codice},
-                       GenereModifica::Intera, cursore);
+                       GenereModifica::Codice, cursore);
   }
 }
 

@@ -42,6 +42,11 @@ constexpr std::array Voci = {
     VoceMenu{"mnuAnnulla",    Voce,       Comando::Annulla,       "&Annulla",                "Ctrl+Z",       DaAnnullare, false},
     VoceMenu{"mnuRipeti",     Voce,       Comando::Ripeti,        "&Ripeti",                 "Ctrl+Y",       DaRipetere,  false},
     VoceMenu{"sep6",          Separatore, {},                     "",                        "",             Sempre,      false},
+    VoceMenu{"mnuTrova",      Voce,       Comando::Trova,         "&Trova...",               "Ctrl+F",       ConTipo,     false},
+    VoceMenu{"mnuTrovaSucc",  Voce,       Comando::TrovaSucc,     "Trova s&uccessivo",       "F3",           DaTrovare,   false},
+    VoceMenu{"mnuTrovaPrec",  Voce,       Comando::TrovaPrec,     "Trova prece&dente",       "Shift+F3",     DaTrovare,   false},
+    VoceMenu{"mnuSostituisci", Voce,      Comando::Sostituisci,   "&Sostituisci...",         "Ctrl+H",       ConTipo,     false},
+    VoceMenu{"sep10",         Separatore, {},                     "",                        "",             Sempre,      false},
     VoceMenu{"mnuVerifica",   Voce,       Comando::Verifica,      "&Verifica modello",       "F8",           ConTipo,     false},
     VoceMenu{"sep7",          Separatore, {},                     "",                        "",             Sempre,      false},
     VoceMenu{"mnuAnteAuto",   Voce,       Comando::AnteAuto,      "Anteprima automati&ca",   "",             ConTipo,     true},
@@ -89,6 +94,8 @@ bool Abilitata(const VoceMenu& voce, const StatoMenu& stato) {
       return stato.TipoScelto && stato.PuoAnnullare;
     case DaRipetere:
       return stato.TipoScelto && stato.PuoRipetere;
+    case DaTrovare:
+      return stato.TipoScelto && stato.PuoTrovare;
     default:
       return true;
   }
@@ -97,6 +104,15 @@ bool Abilitata(const VoceMenu& voce, const StatoMenu& stato) {
 bool Abilitato(Comando comando, const StatoMenu& stato) {
   return std::ranges::any_of(
       Voci, [&](const VoceMenu& voce) { return voce.Cosa == comando && Abilitata(voce, stato); });
+}
+
+std::string DidascaliaDi(const VoceMenu& voce, const StatoMenu& stato) {
+  std::string didascalia = voce.Didascalia;
+  if (voce.Quando != DaAnnullare && voce.Quando != DaRipetere) return didascalia;
+  const std::string_view nome =
+      NomeModifica(voce.Quando == DaAnnullare ? stato.DaAnnullare : stato.DaRipetere);
+  if (!nome.empty()) didascalia.append(" ").append(nome);
+  return didascalia;
 }
 
 std::optional<Preferenza> PreferenzaDi(Comando comando) {

@@ -3,8 +3,10 @@
 
 #include <optional>
 #include <span>
+#include <string>
 
 #include "editor/Preferenze.h"
+#include "template/RegistroModifiche.h"
 
 namespace parvik {
 
@@ -24,6 +26,7 @@ enum class Uso {
   TreSezioni,   // only while one with three sections is chosen
   DaAnnullare,  // only while there is a change to take back
   DaRipetere,   // only while there is one to do again
+  DaTrovare,    // only while something is looked for
 };
 
 /// What an entry does, in the order of the screen.
@@ -48,6 +51,10 @@ enum class Comando {
   SettaFlag,
   Annulla,
   Ripeti,
+  Trova,
+  TrovaSucc,
+  TrovaPrec,
+  Sostituisci,
   Verifica,
   AnteAuto,
   Misura,
@@ -85,11 +92,17 @@ struct StatoMenu {
   bool SettaFlag = false;
   bool PuoAnnullare = false;
   bool PuoRipetere = false;
+  bool PuoTrovare = false;
+  GenereModifica DaAnnullare = GenereModifica::Intera;  // the step that would be undone
+  GenereModifica DaRipetere = GenereModifica::Intera;
   Preferenze Scelte = {};
 };
 
 bool Abilitata(const VoceMenu& voce, const StatoMenu& stato);
 bool Abilitato(Comando comando, const StatoMenu& stato);
+
+/// An entry's caption now, UTF-8, with its access key: undo and redo say what they would undo and redo.
+std::string DidascaliaDi(const VoceMenu& voce, const StatoMenu& stato);
 
 /// Whether the command's check mark is there; false of those that have none.
 bool Spuntato(Comando comando, const StatoMenu& stato);

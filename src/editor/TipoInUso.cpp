@@ -41,31 +41,32 @@ void TipoInUso::CaricaFlagStampe(FlagPerStampe& flag) {
 }
 
 std::string TipoInUso::Descrivi(Sezione sezione, std::string_view contenuto) {
-  const Tabelle& tabelle = TabelleDi(sezione);
+  const TabelleSezione& tabelle = *Tabelle(sezione);
   return DescriviCodice(contenuto, tabelle.Variabili, tabelle.Flag);
 }
 
 std::string TipoInUso::TestoCampo(Sezione sezione, std::string_view contenuto, const PostoCampo& posto) {
-  return parvik::TestoCampo(contenuto, posto, TabelleDi(sezione).Variabili);
+  return parvik::TestoCampo(contenuto, posto, Tabelle(sezione)->Variabili);
 }
 
 std::optional<std::string> TipoInUso::ConLarghezza(Sezione sezione, std::string_view contenuto,
                                                    std::int16_t larghezza) {
-  return parvik::ConLarghezza(contenuto, larghezza, TabelleDi(sezione).Variabili);
+  return parvik::ConLarghezza(contenuto, larghezza, Tabelle(sezione)->Variabili);
 }
 
 std::string TipoInUso::DescriviInFrase(Sezione sezione, std::string_view contenuto) {
-  const Tabelle& tabelle = TabelleDi(sezione);
+  const TabelleSezione& tabelle = *Tabelle(sezione);
   return parvik::DescriviInFrase(contenuto, tabelle.Variabili, tabelle.Flag);
 }
 
-const TipoInUso::Tabelle& TipoInUso::TabelleDi(Sezione sezione) {
-  std::optional<Tabelle>& tabelle = tabelle_[Indice(sezione)];
+const std::shared_ptr<const TabelleSezione>& TipoInUso::Tabelle(Sezione sezione) {
+  std::shared_ptr<const TabelleSezione>& tabelle = tabelle_[Indice(sezione)];
   if (!tabelle) {
-    tabelle = Tabelle{.Variabili = catalogo_.LeggiVariabili(tipo_, sezione).Voci,
-                      .Flag = catalogo_.CaricaFlag(tipo_, sezione).Voci};
+    tabelle = std::make_shared<const TabelleSezione>(
+        TabelleSezione{.Variabili = catalogo_.LeggiVariabili(tipo_, sezione).Voci,
+                       .Flag = catalogo_.CaricaFlag(tipo_, sezione).Voci});
   }
-  return *tabelle;
+  return tabelle;
 }
 
 }  // namespace parvik

@@ -3,17 +3,27 @@
 #pragma once
 
 #include <array>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "catalogue/Catalogo.h"
+#include "cerca/SensoCodice.h"
 #include "common/Interlocutore.h"
 #include "output/FlagPerStampe.h"
 #include "tokens/TestoCampo.h"
 
 namespace parvik {
+
+/// The entries of a section, whether or not the catalogue has something wrong in them.
+struct TabelleSezione {
+  std::vector<Variabile> Variabili;
+  std::vector<parvik::Flag> Flag;
+
+  VociDiSezione Voci() const { return {.Variabili = Variabili, .Flag = Flag}; }
+};
 
 class TipoInUso {
  public:
@@ -41,20 +51,16 @@ class TipoInUso {
   /// The same as a phrase.
   std::string DescriviInFrase(Sezione sezione, std::string_view contenuto);
 
- private:
-  /// What Descrivi reads.
-  struct Tabelle {
-    std::vector<Variabile> Variabili;
-    std::vector<parvik::Flag> Flag;
-  };
+  /// What all of these read.
+  const std::shared_ptr<const TabelleSezione>& Tabelle(Sezione sezione);
 
-  const Tabelle& TabelleDi(Sezione sezione);
+ private:
   void Segnala(NumeroErrore errore);
 
   const Catalogo& catalogo_;
   const TipoDoc& tipo_;
   Interlocutore& interlocutore_;
-  std::array<std::optional<Tabelle>, MaxSezioni> tabelle_;  // loaded when they are first asked for
+  std::array<std::shared_ptr<const TabelleSezione>, MaxSezioni> tabelle_;  // loaded when first asked for
 };
 
 }  // namespace parvik

@@ -12,6 +12,7 @@
 #include "output/Destinazione.h"
 #include "output/GeneraStampa.h"
 #include "output/Ricollocazione.h"
+#include "output/SelezioneAnteprima.h"
 #include "output/TestoAnteprima.h"
 #include "template/Documento.h"
 
@@ -34,6 +35,10 @@ class VistaAnteprima {
   /// shows stay with their text, which has gone where `dove` says.
   virtual void RinnovaAnteprima(std::shared_ptr<const TestoAnteprima> anteprima,
                                 const Ricollocazione& dove) = 0;
+  /// What the pane holds and what of it is selected.
+  virtual SelezioneAnteprima InAnteprima() const = 0;
+  /// Selects a part of it, in sight; the focus stays where it is.
+  virtual void SelezionaInAnteprima(const Selezione& parte) = 0;
   /// The preview was rendered anew, or that failed: what it shows, and whether that is up to date.
   virtual void CambiataAnteprima() = 0;
   /// Runs `lavoro` on a thread of its own while the window stays alive, and returns when it has ended. When
@@ -72,6 +77,8 @@ class VistaSezioni {
   virtual void ImpostaCursore(Sezione sezione, Cursore cursore) = 0;
   /// Gives the section the focus, with the caret in sight.
   virtual void Raggiungi(const CursoreSezione& cursore) = 0;
+  /// The same without the focus, which stays where it is: the section is the active one all the same.
+  virtual void Rivela(const CursoreSezione& cursore) = 0;
 };
 
 /// All of it.
@@ -86,6 +93,8 @@ class Vista : public VistaAnteprima, public VistaStampa, public VistaSezioni {
   virtual void CambiataMisura() = 0;
   /// What is wrong with the template was looked for anew, or is no longer told.
   virtual void CambiatiProblemi() = 0;
+  /// What is looked for was found elsewhere, or is no longer looked for.
+  virtual void CambiataRicerca() = 0;
   /// The print flags were loaded anew, set to false or discarded.
   virtual void RicaricaFlagStampe() = 0;
 };

@@ -123,6 +123,7 @@ void ricAnte::paintEvent(QPaintEvent* evento) {
   foglio_.DisegnaOltre(pittore, veduta, palette());
   luoghi_.Disegna(pittore, veduta, palette(), gruppo);
   veduta.Disegna(pittore, evento->rect(), Selezionato(), palette(), gruppo);
+  if (trovati_) DisegnaTrovati(pittore, veduta, trovati_, palette());
   foglio_.DisegnaBordi(pittore, veduta, palette());
   if (righello_ != nullptr && righello_->isVisible()) {
     righello_->DisegnaGuide(pittore);

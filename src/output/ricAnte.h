@@ -80,6 +80,8 @@ class ricAnte final : public QAbstractScrollArea {
 
   /// Marks these places of the content, until it is another one. Whether they are others than before.
   bool MostraSegni(SegniAnteprima segni);
+  /// Marks what was found, or no longer: an empty function. It is asked whenever they are drawn.
+  void MostraTrovati(LettoreTrovati trovati);
   /// Scrolls to a mark, where none shows.
   void RivelaSegni();
 
@@ -88,6 +90,8 @@ class ricAnte final : public QAbstractScrollArea {
   void CursoreMosso();
   /// The content is another one, or longer.
   void Mostrata();
+  /// One wants to find something here.
+  void RicercaChiesta();
   /// The text that a byte of the content comes from is asked for.
   void OrigineChiesta(std::size_t byte);
 
@@ -127,6 +131,7 @@ class ricAnte final : public QAbstractScrollArea {
 
   SelezioneAnteprima scelta_;  // what is shown, too
   ricLuoghi luoghi_;
+  LettoreTrovati trovati_;
   ricFoglio foglio_;
   std::optional<Celle> celle_;
   qreal rapporto_ = 0;  // the device's pixel ratio and resolution that the cells were made for

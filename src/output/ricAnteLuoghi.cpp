@@ -35,6 +35,11 @@ bool ricAnte::MostraSegni(SegniAnteprima segni) {
   return true;
 }
 
+void ricAnte::MostraTrovati(LettoreTrovati trovati) {
+  trovati_ = std::move(trovati);
+  viewport()->update();
+}
+
 void ricAnte::AggiornaSegni() {
   for (const QRectF& fondo : luoghi_.Rettangoli(Veduta())) viewport()->update(fondo.toAlignedRect());
 }

@@ -1,7 +1,6 @@
 // The keyboard and the menu of the preview pane.
 #include <QAction>
 #include <QContextMenuEvent>
-#include <QCoreApplication>
 #include <QIcon>
 #include <QKeyEvent>
 #include <QMenu>
@@ -11,6 +10,7 @@
 
 #include "output/ricAnte.h"
 #include "output/ricAppunti.h"
+#include "template/txtMenu.h"
 
 namespace parvik {
 namespace {
@@ -40,12 +40,6 @@ const Tasto* TastoDi(const QKeyEvent& evento) {
   const auto tasto = std::ranges::find_if(
       Tasti, [&evento](const Tasto& t) { return evento.matches(t.Muove) || evento.matches(t.Seleziona); });
   return tasto == Tasti.end() ? nullptr : tasto;
-}
-
-/// The words that the toolkit's own text fields have.
-QString Voce(const char* testo, QKeySequence::StandardKey tasto) {
-  return QCoreApplication::translate("QWidgetTextControl", testo) + u'\t' +
-         QKeySequence(tasto).toString(QKeySequence::NativeText);
 }
 
 }  // namespace
@@ -117,19 +111,23 @@ void ricAnte::OffriSelezione() const {
 }
 
 void ricAnte::contextMenuEvent(QContextMenuEvent* evento) {
+  const bool daTastiera = evento->reason() == QContextMenuEvent::Keyboard;
+  const std::size_t byte = daTastiera ? Cursore() : CarattereA(evento->pos());
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
-  QAction* copia = menu->addAction(QIcon::fromTheme("edit-copy"), Voce("&Copy", QKeySequence::Copy), this,
-                                   &ricAnte::Copia);
-  copia->setObjectName("edit-copy");
-  copia->setEnabled(Selezionato().Lunghezza > 0);
+  const auto metti = [&](const char* nome, const QString& didascalia, bool possibile, auto azione) {
+    QAction* voce = menu->addAction(QIcon::fromTheme(nome), didascalia, this, azione);
+    voce->setObjectName(nome);
+    voce->setEnabled(possibile);
+  };
+  const bool piena = !Contenuto().Testo().empty();
+  metti("edit-copy", ConTasto("&Copia", QKeySequence::Copy), Selezionato().Lunghezza > 0, &ricAnte::Copia);
   menu->addSeparator();
-  QAction* tutto =
-      menu->addAction(QIcon::fromTheme("edit-select-all"), Voce("Select All", QKeySequence::SelectAll), this,
-                      &ricAnte::SelezionaTutto);
-  tutto->setObjectName("select-all");
-  tutto->setEnabled(!Contenuto().Testo().empty());
-  const bool daTastiera = evento->reason() == QContextMenuEvent::Keyboard;
+  metti("edit-select-all", ConTasto("&Seleziona tutto", QKeySequence::SelectAll), piena,
+        &ricAnte::SelezionaTutto);
+  metti("edit-find", ConTasto("&Trova", QKeySequence::Find), piena, &ricAnte::RicercaChiesta);
+  metti("go-jump", ConTasto("&Vai al testo", QKeySequence(Qt::Key_F4)), piena,
+        [this, byte] { emit OrigineChiesta(byte); });
   const QPoint alCursore = viewport()->mapToGlobal(RettangoloDi(Cursore()).bottomLeft());
   menu->popup(daTastiera ? alCursore : evento->globalPos());
 }

@@ -47,6 +47,14 @@ void ricLuoghi::Disegna(QPainter& pittore, const VedutaAnteprima& veduta, const 
   for (const QRectF& fondo : Rettangoli(veduta)) pittore.fillRect(fondo, colore);
 }
 
+void DisegnaTrovati(QPainter& pittore, const VedutaAnteprima& veduta, const LettoreTrovati& trovati,
+                    const QPalette& tavolozza) {
+  for (const std::size_t riga : veduta.Righe()) {
+    for (const PostoSegnato& posto : trovati(InVista(veduta, riga)))
+      DisegnaTrovato(pittore, Fondo(veduta, riga, posto.Parte), posto.Attuale, tavolozza);
+  }
+}
+
 std::optional<Selezione> ricLuoghi::DaRivelare(const VedutaAnteprima& veduta) const {
   const std::vector<std::size_t> righe = veduta.Righe();
   const QRectF finestra(QPointF(), QSizeF(veduta.Dimensione()));

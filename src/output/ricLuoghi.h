@@ -10,6 +10,7 @@
 
 #include "output/SegniAnteprima.h"
 #include "output/ricVeduta.h"
+#include "template/qtTrovati.h"
 
 namespace parvik {
 
@@ -31,5 +32,9 @@ class ricLuoghi {
  private:
   SegniAnteprima segni_;
 };
+
+/// Marks what of it shows was found, over the text.
+void DisegnaTrovati(QPainter& pittore, const VedutaAnteprima& veduta, const LettoreTrovati& trovati,
+                    const QPalette& tavolozza);
 
 }  // namespace parvik

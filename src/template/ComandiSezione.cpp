@@ -49,7 +49,7 @@ Selezione ComandiSezione::Accanto(TastoSezione tasto) const {
 void ComandiSezione::EseguiConsueta(TastoSezione tasto) {
   const Selezione scelta = Selezionato();
   if (tasto == TastoSezione::Spazio) return Cambia(scelta, " ", GenereModifica::Battuta);
-  if (scelta.Lunghezza > 0) return Cambia(scelta, {}, GenereModifica::Intera);
+  if (scelta.Lunghezza > 0) return Cambia(scelta, {}, GenereModifica::Eliminata);
   if (tasto == TastoSezione::Backspace || tasto == TastoSezione::Canc)
     Cambia(Accanto(tasto), {}, GenereModifica::Cancellata);
 }
@@ -62,11 +62,11 @@ bool ComandiSezione::LasciaTogliere(Selezione parte, Pressione pressione) {
 }
 
 void ComandiSezione::Togli(Selezione parte) {
-  Cambia(parte, {}, GenereModifica::Intera);
+  Cambia(parte, {}, GenereModifica::Eliminata);
 }
 
 void ComandiSezione::CambiaCodice(Selezione codice, std::string_view nuovo) {
-  Cambia(codice, nuovo, GenereModifica::Intera);
+  Cambia(codice, nuovo, GenereModifica::Larghezza);
 }
 
 void ComandiSezione::ApriCodice(Selezione codice) {
@@ -98,11 +98,11 @@ void ComandiSezione::Scrivi(std::string_view testo, Pressione pressione) {
 }
 
 void ComandiSezione::VaiACapo(Pressione pressione) {
-  Sostituisci(FineRiga, GenereModifica::Intera, pressione);
+  Sostituisci(FineRiga, GenereModifica::ACapo, pressione);
 }
 
 void ComandiSezione::Incolla(std::string_view testo) {
-  Sostituisci(testo, GenereModifica::Intera, Pressione::Prima);
+  Sostituisci(testo, GenereModifica::Incollata, Pressione::Prima);
 }
 
 void ComandiSezione::CancellaFinoAFineRiga(Pressione pressione) {
@@ -127,7 +127,7 @@ void ComandiSezione::Sposta(std::size_t posto) {
   if (!LasciaTogliere(via, Pressione::Prima)) return;
   const std::string testo = Testo().Byte(via);
   const Documento::PassoUnico passo(documento_);
-  Togli(via);
+  Cambia(via, {}, GenereModifica::Spostata);
   Deposita(posto > via.Inizio ? posto - via.Lunghezza : posto, testo);
 }
 

@@ -99,6 +99,9 @@ class Documento {
 
   bool PuoAnnullare() const { return registro_.PuoAnnullare(); }
   bool PuoRipetere() const { return registro_.PuoRipetere(); }
+  /// What the step is that would be undone, or done again; Intera where there is none.
+  GenereModifica GenereDaAnnullare() const { return registro_.GenereDaAnnullare(); }
+  GenereModifica GenereDaRipetere() const { return registro_.GenereDaRipetere(); }
   /// Both: one step, the last of all sections; where the caret belongs now. There must be a step.
   CursoreSezione Annulla();
   CursoreSezione Ripeti();

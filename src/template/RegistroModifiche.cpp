@@ -20,6 +20,34 @@ void Unisci(Variazione& ultima, const Variazione& nuova) {
 
 }  // namespace
 
+std::string_view NomeModifica(GenereModifica genere) {
+  switch (genere) {
+    case GenereModifica::Battuta:
+      return "battitura";
+    case GenereModifica::Cancellata:
+      return "cancellazione";
+    case GenereModifica::Intera:
+      return "";
+    case GenereModifica::ACapo:
+      return "a capo";
+    case GenereModifica::Codice:
+      return "inserimento codice";
+    case GenereModifica::Incollata:
+      return "incolla";
+    case GenereModifica::Eliminata:
+      return "eliminazione";
+    case GenereModifica::Spostata:
+      return "spostamento";
+    case GenereModifica::Larghezza:
+      return "cambio larghezza";
+    case GenereModifica::Sostituita:
+      return "sostituzione";
+    case GenereModifica::Corretta:
+      return "correzione";
+  }
+  return "";
+}
+
 std::vector<ModificaSezione> Passo::Avanti() const {
   std::vector<ModificaSezione> modifiche;
   for (const Variazione& variazione : Variazioni) modifiche.push_back(variazione.Avanti());
@@ -35,7 +63,8 @@ std::vector<ModificaSezione> Passo::Indietro() const {
 
 /// Whether a change belongs to the run of typing, or of taking away, that the last step is.
 bool RegistroModifiche::Prosegue(const Variazione& variazione, GenereModifica genere) const {
-  if (interrotto_ || fatti_ == 0 || genere == GenereModifica::Intera) return false;
+  const bool fila = genere == GenereModifica::Battuta || genere == GenereModifica::Cancellata;
+  if (interrotto_ || fatti_ == 0 || !fila) return false;
   const Passo& passo = passi_[fatti_ - 1];
   const Variazione& ultima = passo.Variazioni.back();
   if (passo.Genere != genere || ultima.Dove != variazione.Dove) return false;

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "common/Sezione.h"
@@ -11,12 +12,24 @@
 
 namespace parvik {
 
-/// Why a text changes: what belongs to the same step as what came before.
+/// Why a text changes: what belongs to the same step as what came before, and what the step is called.
 enum class GenereModifica {
   Battuta,     // a typed character: goes on with those right in front of it
   Cancellata,  // a character taken away by a key: goes on with its neighbours
-  Intera,      // a step of its own: a paste, a line end, a code
+  // Steps of their own.
+  Intera,  // without a name
+  ACapo,
+  Codice,
+  Incollata,
+  Eliminata,
+  Spostata,
+  Larghezza,
+  Sostituita,
+  Corretta,
 };
+
+/// What a person is told of it, UTF-8: "inserimento codice"; "" where there is nothing to tell.
+std::string_view NomeModifica(GenereModifica genere);
 
 /// A change of one of the texts.
 struct ModificaSezione {
@@ -60,6 +73,13 @@ class RegistroModifiche {
 
   bool PuoAnnullare() const { return fatti_ > 0; }
   bool PuoRipetere() const { return fatti_ < passi_.size(); }
+  /// What the next one is to either side, also while it is being made; Intera where there is none.
+  GenereModifica GenereDaAnnullare() const {
+    return PuoAnnullare() ? passi_[fatti_ - 1].Genere : GenereModifica::Intera;
+  }
+  GenereModifica GenereDaRipetere() const {
+    return PuoRipetere() ? passi_[fatti_].Genere : GenereModifica::Intera;
+  }
   /// The step to be undone or redone now; there must be one. Valid until the next change.
   const Passo& DaAnnullare() const;
   const Passo& DaRipetere() const;

@@ -3,11 +3,10 @@
 #include <QPalette>
 #include <QPolygonF>
 #include <QTextBlock>
-#include <QTextLayout>
 #include <algorithm>
 
 #include "common/qtTinte.h"
-#include "template/txtSpecchio.h"
+#include "template/txtRigaDisposta.h"
 
 namespace parvik {
 namespace {
@@ -41,22 +40,16 @@ QPolygonF Onda(qreal sinistra, qreal destra, qreal basso) {
 
 void DisegnaOnde(QPainter& pittore, const QTextBlock& riga, QPointF dove, const LettoreOnde& onde,
                  const txtSpecchio& specchio, const QPalette& tavolozza) {
-  const TestoSezione& testo = specchio.Testo();
-  const auto numero = static_cast<std::size_t>(riga.blockNumber());
-  if (numero >= testo.Righe() || riga.layout()->lineCount() == 0) return;
-  const Selezione intera = testo.Riga(numero);
-  const QTextLine linea = riga.layout()->lineAt(0);
-  const qreal basso = dove.y() + linea.y() + linea.height() - 0.5;
-  const auto x = [&](std::size_t byte) {
-    const std::size_t colonna = std::clamp(byte, intera.Inizio, intera.Fine()) - intera.Inizio;
-    return dove.x() + linea.cursorToX(static_cast<int>(colonna));
-  };
+  const auto disposta = txtRigaDisposta::Di(riga, dove, specchio);
+  if (!disposta) return;
+  const qreal basso = disposta->Basso() - 0.5;
   pittore.save();
   pittore.setBrush(Qt::NoBrush);
   pittore.setRenderHint(QPainter::Antialiasing);
-  for (const OndaTesto& onda : onde({.Inizio = intera.Inizio, .Lunghezza = intera.Lunghezza + 1})) {
-    const qreal sinistra = x(onda.Parte.Inizio);
-    const qreal destra = std::max(x(onda.Parte.Fine()), sinistra + LarghezzaMinima);
+  const Selezione& byte = disposta->Byte();
+  for (const OndaTesto& onda : onde({.Inizio = byte.Inizio, .Lunghezza = byte.Lunghezza + 1})) {
+    const qreal sinistra = disposta->X(onda.Parte.Inizio);
+    const qreal destra = std::max(disposta->X(onda.Parte.Fine()), sinistra + LarghezzaMinima);
     pittore.setPen(Penna(onda.Errore, tavolozza));
     pittore.drawPolyline(Onda(sinistra, destra, basso));
   }

@@ -13,9 +13,11 @@
 #include "common/righello.h"
 #include "template/ComandiSezione.h"
 #include "template/qtColori.h"
+#include "template/qtTrovati.h"
 #include "template/txtBordo.h"
 #include "template/txtFette.h"
 #include "template/txtGesti.h"
+#include "template/txtMenu.h"
 #include "template/txtMisura.h"
 #include "template/txtOnde.h"
 #include "template/txtPunti.h"
@@ -66,6 +68,8 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   void MostraOnde(LettoreOnde onde);
   /// What it says is other than it was.
   void RidisegnaOnde();
+  /// Marks what was found, or no longer: an empty function. It is asked whenever they are drawn.
+  void MostraTrovati(LettoreTrovati trovati);
   /// Whether something is wrong at a position of the toolkit's text. The stretch from `inizio` to `fine` is
   /// narrowed to the part around it of which the same can be said.
   bool Errata(int posizione, int& inizio, int& fine) const;
@@ -87,6 +91,8 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   void CodiceDaAprire(const std::string& contenuto);
   /// A new variable is to be inserted. Handled before the signal returns.
   void VariabileDaInserire();
+  /// A new flag is to be inserted where the caret is.
+  void FlagDaInserire();
   /// The context menu asks for the document's last step.
   void DaAnnullare();
   void DaRipetere();
@@ -110,6 +116,8 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   void mouseDoubleClickEvent(QMouseEvent* evento) override;
   void contextMenuEvent(QContextMenuEvent* evento) override;
   void dropEvent(QDropEvent* evento) override;
+  StatoMenuSezione PerMenu(const std::optional<Selezione>& codice) const;
+  AzioniMenuSezione DalMenu(const std::optional<Selezione>& codice);
 
  private:
   void ApriDialogo(const std::string& contenuto) override { emit CodiceDaAprire(contenuto); }
@@ -121,7 +129,7 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
 
   // txtTCPOnde.cpp
   std::vector<OndaTesto> OndeIn(const Selezione& parte) const;
-  void DisegnaLeOnde(const QRect& parte);
+  void DisegnaSegni(const QRect& parte);
   void DescriviOndeAlCursore();
 
   // txtTCPMisura.cpp
@@ -155,6 +163,7 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   qtColori* colori_ = nullptr;
   Descrizione descrizione_;
   LettoreOnde onde_;
+  LettoreTrovati trovati_;
   txtGesti gesti_;
   std::unique_ptr<txtMisura> misura_;  // while the section is shown to measure
   txtFette* fette_ = nullptr;          // made when it first was

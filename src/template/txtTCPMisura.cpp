@@ -76,7 +76,7 @@ void txtTCP::paintEvent(QPaintEvent* evento) {
   } else {
     QPlainTextEdit::paintEvent(evento);
   }
-  if (onde_) DisegnaLeOnde(evento->rect());
+  if (onde_ || trovati_) DisegnaSegni(evento->rect());
 }
 
 void txtTCP::DisegnaMisurata(const QRect& parte) {

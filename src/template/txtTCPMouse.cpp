@@ -1,11 +1,9 @@
 // The section editor's mouse: codes under the pointer, words, dragging and dropping, the context menu.
-#include <QAction>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QHelpEvent>
-#include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QStringList>
@@ -28,16 +26,6 @@ QString ComeTestoSemplice(const QString& testo) {
 QClipboard* Selezioni() {
   QClipboard* appunti = QGuiApplication::clipboard();
   return appunti->supportsSelection() ? appunti : nullptr;
-}
-
-/// Lets an entry of the toolkit's context menu do something else.
-template <class Comando>
-void Ricollega(QMenu& menu, const char* nome, bool possibile, txtTCP* editor, Comando comando) {
-  auto* voce = menu.findChild<QAction*>(nome, Qt::FindDirectChildrenOnly);
-  if (voce == nullptr) return;
-  voce->disconnect();
-  voce->setEnabled(possibile);
-  QObject::connect(voce, &QAction::triggered, editor, comando);
 }
 
 }  // namespace
@@ -114,17 +102,53 @@ void txtTCP::OffriSelezione() {
     Selezioni()->setMimeData(createMimeDataFromSelection(), QClipboard::Selection);
 }
 
+/// Where the mouse is, or at the caret.
 void txtTCP::contextMenuEvent(QContextMenuEvent* evento) {
-  QMenu* menu = createStandardContextMenu(evento->pos());
-  const bool scelta = comandi_.Selezionato().Lunghezza > 0;
-  Ricollega(*menu, "edit-undo", documento_.PuoAnnullare(), this, &txtTCP::DaAnnullare);
-  Ricollega(*menu, "edit-redo", documento_.PuoRipetere(), this, &txtTCP::DaRipetere);
-  Ricollega(*menu, "edit-cut", scelta, this, [this] { Taglia(); });
-  Ricollega(*menu, "edit-delete", scelta, this, [this] { Elimina(); });
-  for (QAction* voce : menu->actions())
-    if (voce->menu() != nullptr) menu->removeAction(voce);  // characters that no template holds
-  menu->setAttribute(Qt::WA_DeleteOnClose);
-  menu->popup(evento->globalPos());
+  const bool daTastiera = evento->reason() == QContextMenuEvent::Keyboard;
+  const auto alCursore = CodiciAlCursore(comandi_.Testo(), CursoreAttuale().Posto);
+  const auto codice = !daTastiera         ? CodiceA(evento->pos())
+                      : alCursore.empty() ? std::nullopt
+                                          : std::optional(alCursore.back());
+  QMenu* menu = CreaMenuSezione(PerMenu(codice), DalMenu(codice), this);
+  menu->popup(daTastiera ? viewport()->mapToGlobal(cursorRect().bottomLeft()) : evento->globalPos());
+}
+
+StatoMenuSezione txtTCP::PerMenu(const std::optional<Selezione>& codice) const {
+  StatoMenuSezione stato{.Annulla = DaUtf8(NomeModifica(documento_.GenereDaAnnullare())),
+                         .Ripeti = DaUtf8(NomeModifica(documento_.GenereDaRipetere())),
+                         .PuoAnnullare = documento_.PuoAnnullare(),
+                         .PuoRipetere = documento_.PuoRipetere(),
+                         .Scelto = comandi_.Selezionato().Lunghezza > 0,
+                         .PuoIncollare = canPaste(),
+                         .Vuota = comandi_.Testo().Dimensione() == 0};
+  if (!codice) return stato;
+  const std::string contenuto(ContenutoDi(comandi_.Testo().Byte(*codice)));
+  stato.Codice = descrizione_ ? descrizione_(contenuto) : QString();
+  stato.SiApre = Riconosci(contenuto) != TipoCodice::Sconosciuto;
+  return stato;
+}
+
+AzioniMenuSezione txtTCP::DalMenu(const std::optional<Selezione>& codice) {
+  AzioniMenuSezione azioni{.Annulla = [this] { emit DaAnnullare(); },
+                           .Ripeti = [this] { emit DaRipetere(); },
+                           .Taglia = [this] { Taglia(); },
+                           .Copia = [this] { copy(); },
+                           .Incolla = [this] { paste(); },
+                           .Elimina = [this] { Elimina(); },
+                           .SelezionaTutto = [this] { selectAll(); },
+                           .ApriCodice = {},
+                           .CopiaCodice = {},
+                           .FlagDavanti = {}};
+  if (!codice) return azioni;
+  azioni.ApriCodice = [this, codice = *codice] { comandi_.ApriCodice(codice); };
+  azioni.CopiaCodice = [testo = PerSchermo(comandi_.Testo().Byte(*codice))] {
+    QGuiApplication::clipboard()->setText(testo);
+  };
+  azioni.FlagDavanti = [this, davanti = codice->Inizio] {
+    Poni({.Ancora = davanti, .Posto = davanti});
+    emit FlagDaInserire();
+  };
+  return azioni;
 }
 
 void txtTCP::dropEvent(QDropEvent* evento) {

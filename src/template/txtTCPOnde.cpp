@@ -1,4 +1,5 @@
-// The section editor's wavy lines: what is wrong, for the eye, the mouse and assistive technologies.
+// What the section editor shows over its text: what is wrong, for the eye, the mouse and assistive
+// technologies, and what was found.
 #include <QPainter>
 #include <QStringList>
 #include <QTextBlock>
@@ -24,12 +25,18 @@ std::vector<OndaTesto> txtTCP::OndeIn(const Selezione& parte) const {
   return onde_ ? onde_(parte) : std::vector<OndaTesto>();
 }
 
-void txtTCP::DisegnaLeOnde(const QRect& parte) {
+void txtTCP::MostraTrovati(LettoreTrovati trovati) {
+  trovati_ = std::move(trovati);
+  viewport()->update();
+}
+
+void txtTCP::DisegnaSegni(const QRect& parte) {
   QPainter pittore(viewport());
   QPointF dove = contentOffset();
   for (QTextBlock riga = firstVisibleBlock(); riga.isValid() && dove.y() <= parte.bottom();
        riga = riga.next()) {
-    DisegnaOnde(pittore, riga, dove, onde_, *specchio_, palette());
+    if (trovati_) DisegnaTrovati(pittore, riga, dove, trovati_, *specchio_, palette());
+    if (onde_) DisegnaOnde(pittore, riga, dove, onde_, *specchio_, palette());
     dove.ry() += blockBoundingRect(riga).height();
   }
 }

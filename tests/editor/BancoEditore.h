@@ -49,11 +49,23 @@ class VistaFinta final : public Vista {
   Cursore CursoreIn(Sezione sezione) const override { return Cursori[Indice(sezione)]; }
   void ImpostaCursore(Sezione sezione, Cursore cursore) override { Cursori[Indice(sezione)] = cursore; }
   void Raggiungi(const CursoreSezione& cursore) override { Raggiunti.push_back(cursore); }
+  void Rivela(const CursoreSezione& cursore) override {
+    Rivelati.push_back(cursore);
+    Cursori[Indice(cursore.Dove)] = cursore.Dentro;
+  }
+  SelezioneAnteprima InAnteprima() const override { return NelPannello; }
+  void SelezionaInAnteprima(const Selezione& parte) override {
+    NelPannello.Seleziona(parte.Inizio, parte.Fine());
+  }
+  void CambiataRicerca() override { ++CambiamentiRicerca; }
   void CambiatiProblemi() override { ++CambiamentiProblemi; }
   void RicaricaFlagStampe() override { ++RicaricheFlag; }
 
   std::array<Cursore, MaxSezioni> Cursori;
   std::vector<CursoreSezione> Raggiunti;
+  std::vector<CursoreSezione> Rivelati;
+  SelezioneAnteprima NelPannello;
+  int CambiamentiRicerca = 0;
   int Aggiornamenti = 0;
   int CambiamentiTesto = 0;
   int CambiamentiMisura = 0;

@@ -63,6 +63,11 @@ TEST(VociMenu, AreTheWholeTreeInTheOrderOfTheScreen) {
       "  mnuAnnulla &Annulla Ctrl+Z",
       "  mnuRipeti &Ripeti Ctrl+Y",
       "  sep6",
+      "  mnuTrova &Trova... Ctrl+F",
+      "  mnuTrovaSucc Trova s&uccessivo F3",
+      "  mnuTrovaPrec Trova prece&dente Shift+F3",
+      "  mnuSostituisci &Sostituisci... Ctrl+H",
+      "  sep10",
       "  mnuVerifica &Verifica modello F8",
       "  sep7",
       "  mnuAnteAuto Anteprima automati&ca",
@@ -107,27 +112,28 @@ Nomi Disabilitate(const StatoMenu& stato) {
 }
 
 TEST(Abilitata, LeavesOnlyTheChoiceOfATypeTheAboutBoxAndTheExitWithoutAType) {
-  EXPECT_EQ((Nomi{"mnuAnte",     "mnuApri",   "mnuComando",   "mnuCostante",  "mnuFlag",    "mnuLingua",
-                  "mnuNuovo",    "mnuPagina", "mnuSalva",     "mnuSalvaNome", "mnuStampa",  "mnuStile",
-                  "mnuVar",      "mnuRighe",  "mnuSettaFlag", "mnuTool",      "mnuAnnulla", "mnuRipeti",
-                  "mnuAnteAuto", "mnuMisura", "mnuFoglio",    "mnuVerifica",  "mnuVaiAnte"}),
+  EXPECT_EQ((Nomi{"mnuAnte",      "mnuApri",      "mnuComando",    "mnuCostante",  "mnuFlag",    "mnuLingua",
+                  "mnuNuovo",     "mnuPagina",    "mnuSalva",      "mnuSalvaNome", "mnuStampa",  "mnuStile",
+                  "mnuVar",       "mnuRighe",     "mnuSettaFlag",  "mnuTool",      "mnuAnnulla", "mnuRipeti",
+                  "mnuAnteAuto",  "mnuMisura",    "mnuFoglio",     "mnuVerifica",  "mnuVaiAnte", "mnuTrova",
+                  "mnuTrovaSucc", "mnuTrovaPrec", "mnuSostituisci"}),
             Disabilitate({.TipoScelto = false, .TreSezioni = false}));
 }
 
 TEST(Abilitata, TakesAwayTheChoiceOfATypeWithATypeOfThreeSections) {
-  EXPECT_EQ((Nomi{"mnuScelta", "mnuAnnulla", "mnuRipeti"}),
+  EXPECT_EQ((Nomi{"mnuScelta", "mnuAnnulla", "mnuRipeti", "mnuTrovaSucc", "mnuTrovaPrec"}),
             Disabilitate({.TipoScelto = true, .TreSezioni = true}));
 }
 
 TEST(Abilitata, TakesAwayTheBodyCommandTooWithATypeOfOneSection) {
-  EXPECT_EQ((Nomi{"mnuScelta", "mnuComando", "mnuAnnulla", "mnuRipeti"}),
+  EXPECT_EQ((Nomi{"mnuScelta", "mnuComando", "mnuAnnulla", "mnuRipeti", "mnuTrovaSucc", "mnuTrovaPrec"}),
             Disabilitate({.TipoScelto = true, .TreSezioni = false}));
 }
 
 TEST(Abilitata, OffersUndoAndRedoWhileThereIsAStep) {
   EXPECT_EQ((Nomi{"mnuScelta", "mnuRipeti"}),
             Disabilitate({.TipoScelto = true, .TreSezioni = true, .PuoAnnullare = true}));
-  EXPECT_EQ((Nomi{"mnuScelta", "mnuAnnulla"}),
+  EXPECT_EQ((Nomi{"mnuScelta", "mnuAnnulla", "mnuTrovaSucc", "mnuTrovaPrec"}),
             Disabilitate({.TipoScelto = true, .TreSezioni = true, .PuoRipetere = true}));
 }
 

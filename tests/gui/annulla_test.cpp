@@ -192,6 +192,85 @@ TEST_F(Annulla, TheContextMenuUndoesInTheDocumentToo) {
   EXPECT_EQ(Testo(0), "uno\n");
 }
 
+TEST_F(Annulla, TellsWhatItWouldUndo) {
+  const auto didascalia = [this](const char* nome) { return finestra_.Azione(nome).text(); };
+  EXPECT_EQ(didascalia("mnuAnnulla"), "&Annulla");
+  Scrivi(0, "uno");
+  EXPECT_EQ(didascalia("mnuAnnulla"), "&Annulla battitura");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(didascalia("mnuAnnulla"), "&Annulla a capo");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backspace);
+  EXPECT_EQ(didascalia("mnuAnnulla"), "&Annulla cancellazione");
+  QApplication::clipboard()->setText("x");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(didascalia("mnuAnnulla"), "&Annulla incolla");
+  NelProssimoDialogo([](QDialog& dialogo) { Trova<QPushButton>(dialogo, "cmdOk")->click(); });
+  finestra_.Azione("mnuStile").trigger();
+  EXPECT_EQ(didascalia("mnuAnnulla"), "&Annulla inserimento codice");
+  EXPECT_EQ(didascalia("mnuRipeti"), "&Ripeti");
+  finestra_.Sezione(0).setFocus();
+  Premi(Qt::Key_Z);
+  EXPECT_EQ(didascalia("mnuRipeti"), "&Ripeti inserimento codice");
+  EXPECT_EQ(didascalia("mnuAnnulla"), "&Annulla incolla");
+}
+
+class MenuDellaSezione : public Annulla {
+ protected:
+  MenuDellaSezione() { finestra_.Sezione(0).setPlainText("ab «V4;30L»\n"); }
+
+  QMenu& Apri(int posto) {
+    QPlainTextEdit& sezione = finestra_.Sezione(0);
+    QTextCursor cursore = sezione.textCursor();
+    cursore.setPosition(posto);
+    const QPoint punto = sezione.cursorRect(cursore).center() + QPoint(2, 0);
+    QContextMenuEvent evento(QContextMenuEvent::Mouse, punto, sezione.viewport()->mapToGlobal(punto));
+    QApplication::sendEvent(sezione.viewport(), &evento);
+    QMenu* menu = MenuAperto();
+    if (menu == nullptr) qFatal("no menu");
+    return *menu;
+  }
+  static QStringList Voci(const QMenu& menu) {
+    QStringList voci;
+    for (const QAction* voce : menu.actions()) voci += voce->text().section('\t', 0, 0);
+    return voci;
+  }
+};
+
+TEST_F(MenuDellaSezione, SpeaksItalian) {
+  QMenu& menu = Apri(0);
+  EXPECT_EQ(Voci(menu), (QStringList{"&Annulla", "&Ripeti", "", "&Taglia", "&Copia", "&Incolla", "&Elimina",
+                                     "", "&Seleziona tutto"}));
+  EXPECT_FALSE(Trova<QAction>(menu, "edit-cut")->isEnabled());
+  Trova<QAction>(menu, "select-all")->trigger();
+  EXPECT_TRUE(finestra_.Sezione(0).textCursor().hasSelection());
+}
+
+TEST_F(MenuDellaSezione, SaysWhatACodeIsAndOpensIt) {
+  QMenu& menu = Apri(5);
+  const QStringList voci = Voci(menu);
+  EXPECT_EQ(voci.mid(9, 4), (QStringList{"", "A&pri codice", "C&opia codice", "&Flag davanti..."}));
+  EXPECT_TRUE(voci.last().startsWith("Variabile 4 ")) << voci.last().toStdString();
+  EXPECT_FALSE(menu.actions().last()->isEnabled());
+  Trova<QAction>(menu, "copiaCodice")->trigger();
+  EXPECT_EQ(QApplication::clipboard()->text(), "«V4;30L»");
+  std::string aperto;
+  NelProssimoDialogo([&aperto](QDialog& dialogo) {
+    aperto = dialogo.objectName().toStdString();
+    QTest::keyClick(&dialogo, Qt::Key_Escape);
+    dialogo.reject();
+  });
+  Trova<QAction>(menu, "apriCodice")->trigger();
+  EXPECT_EQ(aperto, "frmVar");
+}
+
+TEST_F(MenuDellaSezione, PutsAFlagInFrontOfACode) {
+  QMenu& menu = Apri(6);
+  NelProssimoDialogo([](QDialog& dialogo) { Trova<QPushButton>(dialogo, "cmdOk")->click(); });
+  Trova<QAction>(menu, "flagDavanti")->trigger();
+  const QString testo = finestra_.Sezione(0).toPlainText();
+  EXPECT_TRUE(testo.startsWith("ab «F") && testo.endsWith("»«V4;30L»\n")) << testo.toStdString();
+}
+
 TEST_F(Annulla, AnUndoDoesNotCountAsAKeyWhereThereIsNothingToUndo) {
   finestra_.Sezione(0).setFocus();
   Premi(Qt::Key_Z);

@@ -188,6 +188,20 @@ void VaiNellAnteprima(Finestra& finestra, const char* nome) {
   EXPECT_GT(finestra.Anteprima().verticalScrollBar()->value(), 100);
 }
 
+void ApreLaBarra(Finestra& finestra, const char* nome) {
+  Scegli(finestra, nome);
+  EXPECT_TRUE(Trova<QLineEdit>(*finestra, "txtCerca")->hasFocus());
+  EXPECT_EQ(Trova<QLineEdit>(*finestra, "txtSost")->isVisible(), nome == std::string("mnuSostituisci"));
+}
+
+void TrovaELoSeleziona(Finestra& finestra, const char* nome) {
+  finestra.Sezione(0).setPlainText("ab ab ab\n");
+  Scegli(finestra, "mnuTrova");
+  QTest::keyClicks(Trova<QLineEdit>(*finestra, "txtCerca"), "b");
+  Scegli(finestra, nome);
+  EXPECT_EQ(finestra.Sezione(0).textCursor().selectionStart(), nome == std::string("mnuTrovaSucc") ? 1 : 7);
+}
+
 void ApreIlPannello(Finestra& finestra, const char* nome) {
   Scegli(finestra, nome);
   EXPECT_TRUE(Trova<QWidget>(*finestra, "pnlProblemi")->isVisible());
@@ -247,6 +261,10 @@ const std::vector<Voce>& Voci() {
       {"mnuVaiAnte", VaiNellAnteprima},
       {"mnuBarraStato", NascondeEMostra("barStato")},
       {"mnuRighello", MostraRighello},
+      {"mnuTrova", ApreLaBarra},
+      {"mnuTrovaSucc", TrovaELoSeleziona},
+      {"mnuTrovaPrec", TrovaELoSeleziona},
+      {"mnuSostituisci", ApreLaBarra},
       {"mnuVerifica", ApreIlPannello},
       {"mnuProblemi", MostraENascondeIlPannello},
       {"mnuFoglio", Apre("frmFoglio: Foglio")},
