@@ -16,11 +16,15 @@ modifiche() {
   "$programmi/bench_modifiche" --benchmark_repetitions="${RIPETIZIONI:-15}" --benchmark_min_time=0.03 \
     --benchmark_enable_random_interleaving=true 2>"$programmi/modifiche.txt"
 }
+voci() {
+  "$programmi/bench_voci" --benchmark_repetitions="${RIPETIZIONI:-15}" --benchmark_min_time=0.03 \
+    --benchmark_enable_random_interleaving=true 2>"$programmi/voci.txt"
+}
 processi() {
   "$programmi/bench_dati" "$dati"
   "$programmi/bench_processi" build/release/velkor/PARVIK/parvik32-batch "$programmi" "$dati"
 }
-parti=(misure modifiche processi ./bench/avvio.sh ./bench/tasti.sh ./bench/anteprima.sh ./bench/ingombro.sh
+parti=(misure modifiche voci processi ./bench/avvio.sh ./bench/tasti.sh ./bench/anteprima.sh ./bench/ingombro.sh
   ./bench/installato.sh)
 
 macchina() {

@@ -17,6 +17,7 @@ constexpr std::array<const char*, NumPreferenze> Nomi = {  // in their order
     "Mostra/Righello",
     "Mostra/FlagVeri",
     "Mostra/Problemi",
+    "Mostra/PannelloCampi",
     "Ricorda"};
 constexpr const char* Ingrandimento = "Testo/Ingrandimento";
 constexpr const char* Posto = "Finestra/Posto";

@@ -28,7 +28,9 @@
 #include "editor/ResaAutomatica.h"
 #include "editor/StatoBarra.h"
 #include "editor/TipoInUso.h"
+#include "editor/UsiModello.h"
 #include "editor/Vista.h"
+#include "editor/VociInseribili.h"
 #include "output/CampiAMisura.h"
 #include "output/FlagPerStampe.h"
 #include "start/Installazione.h"
@@ -168,6 +170,24 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   CursoreSezione CursoreAttivo() const {
     return {.Dove = inserimento_.Attiva(), .Dentro = vista_.CursoreIn(inserimento_.Attiva())};
   }
+
+  // What can be inserted (EditoreCampi.cpp).
+
+  /// Whether its panel is to be shown.
+  bool CampiVisibili() const { return TipoScelto() && scelte_[Preferenza::PannelloCampi]; }
+  /// What the active section offers, with what was counted last. Valid until the next call.
+  const std::vector<VoceInseribile>& VociDaInserire();
+  /// All that is known of one of them: lines of UTF-8.
+  std::string Detta(const VoceInseribile& voce) const { return voci_.Detta(voce); }
+  /// Whether what the template uses is to be counted anew. In every state.
+  bool UsiDaContare() const { return TipoScelto() && voci_.DaContare(Tipo()); }
+  /// Counts it, or gives the count that is to be made on a thread. Only when it is to be counted.
+  std::optional<LavoroUsi> ContaUsi();
+  /// What has become of that count. In every state.
+  void Consegna(LavoroUsi::Fatto fatto) { voci_.Consegna(std::move(fatto)); }
+
+  /// The section that last had the focus, at first the Testata.
+  Sezione Attiva() const { return inserimento_.Attiva(); }
   /// The section that now has the focus; it must be in use.
   void AttivaSezione(Sezione sezione);
 
@@ -258,6 +278,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   Fogli fogli_;
   Problemi problemi_{documento_, catalogo_};
   ComandiRicerca ricerca_;
+  VociInseribili voci_{documento_, catalogo_};
   Documento::Ascolto ascolto_;
 };
 

@@ -7,15 +7,16 @@
 namespace parvik {
 
 enum class Preferenza {
-  AnteAuto,    // the preview follows the text
-  Misura,      // codes are drawn as wide as what they print
-  BarraStato,  // the status bar shows
-  Righello,    // the rulers show
-  FlagVeri,    // codes are measured as if all print flags were true
-  Problemi,    // what is wrong with the template shows
-  Ricorda,     // switches and places are kept from one session to the next
+  AnteAuto,       // the preview follows the text
+  Misura,         // codes are drawn as wide as what they print
+  BarraStato,     // the status bar shows
+  Righello,       // the rulers show
+  FlagVeri,       // codes are measured as if all print flags were true
+  Problemi,       // what is wrong with the template shows
+  PannelloCampi,  // what can be inserted shows
+  Ricorda,        // switches and places are kept from one session to the next
 };
-inline constexpr std::size_t NumPreferenze = 7;
+inline constexpr std::size_t NumPreferenze = 8;
 
 class Preferenze {
  public:
@@ -25,8 +26,8 @@ class Preferenze {
   bool operator==(const Preferenze&) const = default;
 
  private:
-  std::array<bool, NumPreferenze> accese_ = {false, false, true, false,
-                                             false, false, false};  // in their order
+  std::array<bool, NumPreferenze> accese_ = {false, false, true,  false,
+                                             false, false, false, false};  // in their order
 };
 
 }  // namespace parvik

@@ -1,7 +1,6 @@
 #include "tokens/DescriviCodice.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -24,10 +23,6 @@ namespace parvik {
 namespace {
 
 constexpr std::int16_t Acceso = 1;
-
-/// As the style dialog calls them, in the order of `Stile`.
-constexpr std::array<std::string_view, 5> NomiStile = {"Normale", "Grassetto", "Compresso",
-                                                       "Corsivo o Italico", "Sottolineato"};
 
 /// Words of the template or of the catalogue, without the spaces around them.
 std::string ParoleRifilate(std::string_view ansi) {

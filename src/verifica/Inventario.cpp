@@ -1,7 +1,6 @@
 #include "verifica/Inventario.h"
 
 #include <algorithm>
-#include <optional>
 
 #include "common/Delimitatori.h"
 #include "common/NumeroLeniente.h"
@@ -27,6 +26,21 @@ std::optional<Usato> ConNumero(GenereUsato genere, std::string_view scritto) {
   return Usato{.Genere = genere, .Numero = *numero, .Nome = std::to_string(*numero)};
 }
 
+template <class Voce>
+std::string DescrizioneIn(const VociTipo& voci, int numero) {
+  for (const Sezione sezione : voci.Sezioni()) {
+    const Voce* voce = voci.Di<Voce>(sezione).ConNumero(static_cast<std::int16_t>(numero));
+    if (voce != nullptr) return Utf8SenzaControlli(voce->Descrizione);
+  }
+  return {};
+}
+
+}  // namespace
+
+bool CodiceDaContare(std::string_view contenuto) {
+  return !Rotto(contenuto) && Mancanza(contenuto).empty();
+}
+
 std::optional<Usato> UsatoDa(std::string_view contenuto) {
   switch (Riconosci(contenuto)) {
     case TipoCodice::Variabile:
@@ -44,17 +58,6 @@ std::optional<Usato> UsatoDa(std::string_view contenuto) {
   }
 }
 
-template <class Voce>
-std::string DescrizioneIn(const VociTipo& voci, int numero) {
-  for (const Sezione sezione : voci.Sezioni()) {
-    const Voce* voce = voci.Di<Voce>(sezione).ConNumero(static_cast<std::int16_t>(numero));
-    if (voce != nullptr) return Utf8SenzaControlli(voce->Descrizione);
-  }
-  return {};
-}
-
-}  // namespace
-
 std::string_view NomeGenere(GenereUsato genere) {
   constexpr std::array<std::string_view, 4> Nomi = {"variabile", "flag", "lingua", "stile"};
   return Nomi[static_cast<std::size_t>(genere)];
@@ -71,7 +74,7 @@ void Inventario::Aggiungi(const std::array<std::string_view, MaxSezioni>& testi)
 }
 
 void Inventario::Conta(std::string_view contenuto) {
-  if (Rotto(contenuto) || !Mancanza(contenuto).empty()) return;
+  if (!CodiceDaContare(contenuto)) return;
   const std::optional<Usato> usato = UsatoDa(contenuto);
   if (!usato) return;
   Usi& usi = usati_[*usato];

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -30,6 +31,11 @@ struct Usato {
     return std::tie(Genere, Numero, Nome) < std::tie(altro.Genere, altro.Numero, altro.Nome);
   }
 };
+
+/// Whether a content counts: not if it is broken, or lacks something that its kind cannot do without.
+bool CodiceDaContare(std::string_view contenuto);
+/// What one that counts stands for; nullopt of the other kinds, and where nobody has its number.
+std::optional<Usato> UsatoDa(std::string_view contenuto);
 
 struct Usi {
   std::size_t Volte = 0;

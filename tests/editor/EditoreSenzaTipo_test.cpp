@@ -46,6 +46,8 @@ INSTANTIATE_TEST_SUITE_P(Comandi, EditoreSenzaTipo, testing::Values(
     Comando{"Annulla", [](Editore& e) { e.Annulla(); }}, Comando{"Ripeti", [](Editore& e) { e.Ripeti(); }},
     Comando{"VariabiliDaOffrire", &Editore::VariabiliDaOffrire},
     Comando{"FlagDaOffrire", &Editore::FlagDaOffrire},
+    Comando{"VociDaInserire", [](Editore& e) { e.VociDaInserire(); }},
+    Comando{"ContaUsi", [](Editore& e) { e.ContaUsi(); }},
     Comando{"Descrivi", [](Editore& e) { e.Descrivi(Sezione::Testata, "V1"); }},
     Comando{"ContaRighe", [](Editore& e) { e.ContaRighe(Sezione::Testata); }},
     Comando{"ImpostaCorpo", [](Editore& e) { e.ImpostaCorpo({}); }},
