@@ -44,6 +44,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
   barraStato_ = new qtBarraStato(editore_, *area_, *this);
   verifica_ = std::make_unique<qtVerifica>(editore_, *area_, *this);
   trova_ = std::make_unique<qtTrova>(editore_, *area_, *this);
+  inserimenti_ = std::make_unique<qtInserimenti>(editore_, maschere_, *area_, *this);
   resize(EntroLoSchermo(*this, DimensioneIniziale));
   ricordi_.Riprendi();
   CreaIngrandimento();
@@ -55,6 +56,7 @@ frmParvik::~frmParvik() {
   anteAuto_.reset();
   verifica_.reset();
   trova_.reset();
+  inserimenti_.reset();
   hide();
   delete barraStato_;
   delete area_;
@@ -109,6 +111,7 @@ void frmParvik::CollegaSezione(Sezione sezione) {
 void frmParvik::AttivaSezione(Sezione sezione) {
   editore_.AttivaSezione(sezione);
   area_->Attiva(sezione);
+  if (inserimenti_) inserimenti_->Rinnova();
   SeguiAnteprima();
   if (trova_) trova_->Segui();
 }
@@ -126,6 +129,7 @@ void frmParvik::Aggiorna() {
   finestrelle_.Aggiorna();
   verifica_->Aggiorna();
   trova_->Aggiorna();
+  inserimenti_->Aggiorna();
   SeguiAnteprima();
   ricordi_.Aggiorna();
   inizio_->Aggiorna();
@@ -137,6 +141,7 @@ void frmParvik::CambiatoTesto() {
   SeguiAnteprima();
   if (verifica_) verifica_->Segui();
   if (trova_) trova_->Segui();
+  if (inserimenti_) inserimenti_->Segui();
   if (barraStato_ != nullptr) barraStato_->Accoda();
 }
 

@@ -14,6 +14,7 @@
 #include "app/qtFinestrelle.h"
 #include "app/qtIngrandimento.h"
 #include "app/qtInizio.h"
+#include "app/qtInserimenti.h"
 #include "app/qtMaschere.h"
 #include "app/qtMenu.h"
 #include "app/qtMisure.h"
@@ -106,6 +107,7 @@ class frmParvik final : public QMainWindow, private Vista {
   std::unique_ptr<qtAnteAuto> anteAuto_;
   std::unique_ptr<qtVerifica> verifica_;
   std::unique_ptr<qtTrova> trova_;
+  std::unique_ptr<qtInserimenti> inserimenti_;
 };
 
 }  // namespace parvik

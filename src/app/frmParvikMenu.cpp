@@ -78,6 +78,10 @@ void frmParvik::Esegui(Comando comando) {
       return trova_->Passa(-1);
     case Comando::Sostituisci:
       return trova_->Apri(true);
+    case Comando::PannelloCampi:
+      return inserimenti_->CommutaPannello();
+    case Comando::Inserisci:
+      return inserimenti_->Scegli();
     case Comando::Verifica:
       return verifica_->Verifica();
     case Comando::VaiAnte:

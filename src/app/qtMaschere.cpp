@@ -12,9 +12,12 @@
 
 namespace parvik {
 
-void qtMaschere::ApriForm(TipoCodice genere) {
+void qtMaschere::ApriForm(TipoCodice genere, const std::string& contenuto) {
   editore_.PreparaInserimento();
-  if (const auto maschera = Crea(genere)) Esegui(*maschera);
+  const auto maschera = Crea(genere);
+  if (!maschera) return;
+  if (!contenuto.empty()) maschera->Mostra(contenuto);
+  Esegui(*maschera);
 }
 
 void qtMaschere::ApriMaschera(const std::string& contenuto) {

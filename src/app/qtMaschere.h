@@ -16,8 +16,9 @@ class qtMaschere {
   /// Both must outlive this. `finestra` is what the dialogs stand in front of.
   qtMaschere(Editore& editore, QWidget& finestra) : editore_(editore), finestra_(finestra) {}
 
-  /// A new code of that kind, from the menu or by a key.
-  void ApriForm(TipoCodice genere);
+  /// A new code of that kind, from the menu or by a key; the dialog begins as for the code that `contenuto`
+  /// is, if it is any.
+  void ApriForm(TipoCodice genere, const std::string& contenuto = {});
 
   /// An existing code, by its content; it is selected, and what the dialog gives takes its place. A code of
   /// unknown kind opens nothing.

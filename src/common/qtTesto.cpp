@@ -1,6 +1,7 @@
 #include "common/qtTesto.h"
 
 #include <QRegularExpression>
+#include <QTextDocument>
 #include <algorithm>
 #include <array>
 #include <unordered_map>
@@ -114,6 +115,11 @@ QString InUnaRiga(const QString& testo) {
   static const QRegularExpression fini(
       QStringLiteral("[\\r\\x{240D}][\\n\\x{240A}]|[\\n-\\r\\x{85}\\x{2028}\\x{2029}\\x{240A}-\\x{240D}]"));
   return QString(testo).replace(fini, " ");
+}
+
+QString PerSuggerimento(const QString& testo) {
+  if (!Qt::mightBeRichText(testo)) return testo;
+  return "<p>" + testo.toHtmlEscaped().replace('\n', "<br>") + "</p>";
 }
 
 QString DaUtf8(std::string_view utf8) {

@@ -30,6 +30,10 @@ QString SoloAnsi(const QString& testo);
 /// characters.
 QString InUnaRiga(const QString& testo);
 
+/// `testo` as a tooltip shows it as it stands: what it would take for mark-up is the catalogue's or the
+/// user's own text.
+QString PerSuggerimento(const QString& testo);
+
 /// UTF-8 texts of the core (messages, captions, paths), with CR LF as the toolkit's line end.
 QString DaUtf8(std::string_view utf8);
 

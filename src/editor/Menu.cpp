@@ -47,6 +47,7 @@ constexpr std::array Voci = {
     VoceMenu{"mnuTrovaPrec",  Voce,       Comando::TrovaPrec,     "Trova prece&dente",       "Shift+F3",     DaTrovare,   false},
     VoceMenu{"mnuSostituisci", Voce,      Comando::Sostituisci,   "&Sostituisci...",         "Ctrl+H",       ConTipo,     false},
     VoceMenu{"sep10",         Separatore, {},                     "",                        "",             Sempre,      false},
+    VoceMenu{"mnuInserisci",  Voce,       Comando::Inserisci,     "&Inserisci codice...",    "Ctrl+Space",   ConTipo,     false},
     VoceMenu{"mnuVerifica",   Voce,       Comando::Verifica,      "&Verifica modello",       "F8",           ConTipo,     false},
     VoceMenu{"sep7",          Separatore, {},                     "",                        "",             Sempre,      false},
     VoceMenu{"mnuAnteAuto",   Voce,       Comando::AnteAuto,      "Anteprima automati&ca",   "",             ConTipo,     true},
@@ -56,6 +57,7 @@ constexpr std::array Voci = {
     VoceMenu{"mnuMostra",     Sottomenu,  {},                     "M&ostra",                 "",             Sempre,      false},
     VoceMenu{"mnuBarraStato", Voce,       Comando::BarraStato,    "Barra di s&tato",         "",             Sempre,      true},
     VoceMenu{"mnuRighello",   Voce,       Comando::Righello,      "&Righello",               "",             Sempre,      true},
+    VoceMenu{"mnuPannelloCampi", Voce,    Comando::PannelloCampi, "Pannello &campi",         "Ctrl+Shift+V", Sempre,      true},
     VoceMenu{"mnuProblemi",   Voce,       Comando::Problemi,      "&Problemi",               "",             Sempre,      true},
     VoceMenu{"mnuFoglio",     Voce,       Comando::Foglio,        "&Foglio...",              "",             ConTipo,     false},
     VoceMenu{"mnuFlagVeri",   Voce,       Comando::FlagVeri,      "Flag tutti &veri",        "",             Sempre,      true},
@@ -127,6 +129,8 @@ std::optional<Preferenza> PreferenzaDi(Comando comando) {
       return Preferenza::Righello;
     case Comando::FlagVeri:
       return Preferenza::FlagVeri;
+    case Comando::PannelloCampi:
+      return Preferenza::PannelloCampi;
     case Comando::Problemi:
       return Preferenza::Problemi;
     case Comando::Ricorda:

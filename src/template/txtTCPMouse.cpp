@@ -17,11 +17,6 @@
 namespace parvik {
 namespace {
 
-/// What a tooltip would take for mark-up is the catalogue's or the user's own text.
-QString ComeTestoSemplice(const QString& testo) {
-  return Qt::mightBeRichText(testo) ? "<p>" + testo.toHtmlEscaped() + "</p>" : testo;
-}
-
 /// The clipboard of what is selected, where the system has one, and what the middle button brings.
 QClipboard* Selezioni() {
   QClipboard* appunti = QGuiApplication::clipboard();
@@ -48,7 +43,7 @@ bool txtTCP::MostraDescrizione(QPoint punto, QPoint globale) {
       detti += onda.Detto;
   }
   if (detti.isEmpty()) return false;
-  QToolTip::showText(globale, ComeTestoSemplice(detti.join(u'\n')), viewport());
+  QToolTip::showText(globale, PerSuggerimento(detti.join(u'\n')), viewport());
   return true;
 }
 

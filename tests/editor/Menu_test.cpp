@@ -68,6 +68,7 @@ TEST(VociMenu, AreTheWholeTreeInTheOrderOfTheScreen) {
       "  mnuTrovaPrec Trova prece&dente Shift+F3",
       "  mnuSostituisci &Sostituisci... Ctrl+H",
       "  sep10",
+      "  mnuInserisci &Inserisci codice... Ctrl+Space",
       "  mnuVerifica &Verifica modello F8",
       "  sep7",
       "  mnuAnteAuto Anteprima automati&ca",
@@ -77,6 +78,7 @@ TEST(VociMenu, AreTheWholeTreeInTheOrderOfTheScreen) {
       "  mnuMostra M&ostra",
       "    mnuBarraStato Barra di s&tato",
       "    mnuRighello &Righello",
+      "    mnuPannelloCampi Pannello &campi Ctrl+Shift+V",
       "    mnuProblemi &Problemi",
       "    mnuFoglio &Foglio...",
       "    mnuFlagVeri Flag tutti &veri",
@@ -93,9 +95,9 @@ TEST(VociMenu, AreSeparatorsExactlyWhereTheNameSaysSo) {
 }
 
 TEST(VociMenu, ShowACheckMarkForWhatIsShownAndHidden) {
-  const std::set<std::string> conSpunta = {"mnuAnte",     "mnuRighe",      "mnuSettaFlag", "mnuAnteAuto",
-                                           "mnuMisura",   "mnuBarraStato", "mnuRighello",  "mnuFlagVeri",
-                                           "mnuProblemi", "mnuRicorda"};
+  const std::set<std::string> conSpunta = {"mnuAnte",     "mnuRighe",         "mnuSettaFlag", "mnuAnteAuto",
+                                           "mnuMisura",   "mnuBarraStato",    "mnuRighello",  "mnuFlagVeri",
+                                           "mnuProblemi", "mnuPannelloCampi", "mnuRicorda"};
   for (const VoceMenu& voce : VociMenu())
     EXPECT_EQ(conSpunta.contains(voce.Nome), voce.ConSpunta) << voce.Nome;
 }
@@ -116,7 +118,7 @@ TEST(Abilitata, LeavesOnlyTheChoiceOfATypeTheAboutBoxAndTheExitWithoutAType) {
                   "mnuNuovo",     "mnuPagina",    "mnuSalva",      "mnuSalvaNome", "mnuStampa",  "mnuStile",
                   "mnuVar",       "mnuRighe",     "mnuSettaFlag",  "mnuTool",      "mnuAnnulla", "mnuRipeti",
                   "mnuAnteAuto",  "mnuMisura",    "mnuFoglio",     "mnuVerifica",  "mnuVaiAnte", "mnuTrova",
-                  "mnuTrovaSucc", "mnuTrovaPrec", "mnuSostituisci"}),
+                  "mnuTrovaSucc", "mnuTrovaPrec", "mnuSostituisci", "mnuInserisci"}),
             Disabilitate({.TipoScelto = false, .TreSezioni = false}));
 }
 

@@ -207,13 +207,21 @@ void ApreIlPannello(Finestra& finestra, const char* nome) {
   EXPECT_TRUE(Trova<QWidget>(*finestra, "pnlProblemi")->isVisible());
 }
 
-void MostraENascondeIlPannello(Finestra& finestra, const char* nome) {
-  finestra.Scegli(1);
-  for (const bool visibile : {true, false}) {
-    Scegli(finestra, nome);
-    EXPECT_EQ(Trova<QWidget>(*finestra, "pnlProblemi")->isVisible(), visibile);
-    EXPECT_EQ(finestra.Azione(nome).isChecked(), visibile);
-  }
+/// A panel that is not there at first, by its objectName.
+Effetto MostraENascondePannello(const char* pannello) {
+  return [pannello](Finestra& finestra, const char* nome) {
+    finestra.Scegli(1);
+    for (const bool visibile : {true, false}) {
+      Scegli(finestra, nome);
+      EXPECT_EQ(Trova<QWidget>(*finestra, pannello)->isVisible(), visibile);
+      EXPECT_EQ(finestra.Azione(nome).isChecked(), visibile);
+    }
+  };
+}
+
+void ApreIlRiquadro(Finestra& finestra, const char* nome) {
+  Scegli(finestra, nome);
+  EXPECT_TRUE(Trova<QWidget>(*finestra, "pnlInserisci")->isVisible());
 }
 
 /// There is a settings file as long as it is checked.
@@ -266,7 +274,9 @@ const std::vector<Voce>& Voci() {
       {"mnuTrovaPrec", TrovaELoSeleziona},
       {"mnuSostituisci", ApreLaBarra},
       {"mnuVerifica", ApreIlPannello},
-      {"mnuProblemi", MostraENascondeIlPannello},
+      {"mnuInserisci", ApreIlRiquadro},
+      {"mnuPannelloCampi", MostraENascondePannello("pnlCampi")},
+      {"mnuProblemi", MostraENascondePannello("pnlProblemi")},
       {"mnuFoglio", Apre("frmFoglio: Foglio")},
       {"mnuFlagVeri", MisuraConFlagVeri},
       {"mnuRicorda", Ricorda},
