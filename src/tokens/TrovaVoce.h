@@ -14,4 +14,12 @@ namespace parvik {
 std::optional<std::size_t> TrovaVoce(std::span<const std::string_view> voci, std::size_t selezionata,
                                      std::string_view cercato);
 
+/// The same by number, as the words of `cercato` say it (tokens/FiltraVoci.h): the first entry that has just
+/// that number, or else one that has it as a part.
+std::optional<std::size_t> TrovaNumero(std::span<const int> numeri, std::size_t selezionata,
+                                       std::string_view cercato);
+
+/// Whether one of the two searches could come to an entry.
+bool SiTrova(std::string_view descrizione, int numero, std::string_view cercato);
+
 }  // namespace parvik

@@ -78,6 +78,8 @@ void frmVar::PreparaCaselle() {
 void frmVar::Collega() {
   connect(ui_->lstVar, &QListWidget::currentRowChanged, this, &frmVar::CaricaVoce);
   connect(ui_->lstVar, &QListWidget::itemClicked, this, &frmVar::TogliAvviso);
+  connect(ui_->lstVar, &QListWidget::itemDoubleClicked, this, &QDialog::accept);
+  connect(ui_->txtTrova, &QLineEdit::textChanged, this, &frmVar::Restringi);
   connect(ui_->cmdTrova, &QPushButton::clicked, this, &frmVar::Cerca);
   connect(ui_->cmdFlag, &QPushButton::clicked, this, &frmVar::ScegliFlag);
   CollegaFormato();
@@ -230,6 +232,19 @@ void frmVar::MostraCampione() {
   ImpostaComeSta(*ui_->txtValCampo, PerSchermo(campione));
 }
 
+/// Shows the entries that a search could come to. Nothing is chosen by it: the selected one stays so, shown
+/// or not.
+void frmVar::Restringi() {
+  const QString testo = ui_->txtTrova->text();
+  const std::string cercato = DaSchermo(testo);
+  const bool possibile = SoloAnsi(testo) == testo;  // the catalogue can hold it
+  for (std::size_t i = 0; i < variabili_.size(); ++i) {
+    const Variabile& voce = variabili_[i];
+    const bool mostrata = possibile && (cercato.empty() || SiTrova(voce.Descrizione, voce.Intero1, cercato));
+    ui_->lstVar->setRowHidden(static_cast<int>(i), !mostrata);
+  }
+}
+
 void frmVar::Cerca() {
   if (ui_->txtTrova->text().isEmpty()) return;
   if (const auto voce = VoceCercata()) {
@@ -245,8 +260,13 @@ std::optional<std::size_t> frmVar::VoceCercata() const {
   const auto selezionata = VoceSelezionata();
   if (!selezionata || SoloAnsi(cercato) != cercato) return std::nullopt;  // the catalogue cannot hold it
   std::vector<std::string_view> voci;
-  for (const Variabile& variabile : variabili_) voci.push_back(variabile.Descrizione);
-  return TrovaVoce(voci, *selezionata, DaSchermo(cercato));
+  std::vector<int> numeri;
+  for (const Variabile& variabile : variabili_) {
+    voci.push_back(variabile.Descrizione);
+    numeri.push_back(variabile.Intero1);
+  }
+  const auto trovata = TrovaVoce(voci, *selezionata, DaSchermo(cercato));
+  return trovata ? trovata : TrovaNumero(numeri, *selezionata, DaSchermo(cercato));
 }
 
 void frmVar::ScegliFlag() {

@@ -54,6 +54,7 @@ class frmVar final : public frmCodice {
   void MostraCodice(const Variabile& variabile);
   void MostraCampione();
 
+  void Restringi();
   void Cerca();
   std::optional<std::size_t> VoceCercata() const;
   void ScegliFlag();

@@ -3,6 +3,7 @@
 #include <QMessageBox>
 
 #include "BancoFrmVar.h"
+#include "Maschera.h"
 
 namespace parvik {
 namespace {
@@ -68,6 +69,74 @@ TEST_F(FrmVar, AnEmptySearchDoesNothing) {
   Clicca("cmdTrova");
   EXPECT_EQ(Lista()->currentRow(), 0);
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+/// What the list shows.
+QStringList Mostrate(const QListWidget& lista) {
+  QStringList mostrate;
+  for (int i = 0; i < lista.count(); ++i)
+    if (!lista.isRowHidden(i)) mostrate += lista.item(i)->text();
+  return mostrate;
+}
+
+TEST_F(FrmVar, TheListNarrowsToWhatASearchCouldComeToAsOneTypes) {
+  const QStringList tutte = {"Cliente", "Imponibile", "Note", "Totale imponibile"};
+  EXPECT_EQ(Mostrate(*Lista()), tutte);
+  Scrivi("txtTrova", "IMP");
+  EXPECT_EQ(Mostrate(*Lista()), QStringList({"Imponibile", "Totale imponibile"}));
+  Scrivi("txtTrova", "25");
+  EXPECT_EQ(Mostrate(*Lista()), QStringList({"Imponibile"})) << "numbers count too";
+  Scrivi("txtTrova", "v12");
+  EXPECT_EQ(Mostrate(*Lista()), QStringList({"Cliente"}));
+  for (const char* niente : {"sconto", "Ω"}) {
+    Scrivi("txtTrova", niente);
+    EXPECT_EQ(Mostrate(*Lista()), QStringList());
+  }
+  Scrivi("txtTrova", "");
+  EXPECT_EQ(Mostrate(*Lista()), tutte);
+}
+
+TEST_F(FrmVar, NarrowingChoosesAndChangesNothing) {
+  Lista()->setCurrentRow(2);
+  Scrivi("txtLungh", "20");
+  Scrivi("txtTrova", "impon");
+  EXPECT_EQ(Lista()->currentRow(), 2) << "hidden, and still the selected one";
+  EXPECT_EQ(Codice(), "«V40,3;20L\".\"»");
+  Scrivi("txtTrova", "");
+  EXPECT_EQ(Lista()->currentRow(), 2);
+  EXPECT_EQ(prova::Conferma(dialogo_), prova::Codici{"\xAB"
+                                                     "V40,3;20L\".\""
+                                                     "\xBB"});
+}
+
+TEST_F(FrmVar, FromAHiddenEntryTheArrowsGoToAShownOne) {
+  Lista()->setCurrentRow(2);
+  Scrivi("txtTrova", "impon");
+  Lista()->setFocus();
+  QTest::keyClick(Lista(), Qt::Key_Down);
+  EXPECT_FALSE(Lista()->isRowHidden(Lista()->currentRow()));
+}
+
+TEST_F(FrmVar, WhatOnlyANumberAnswersIsFoundByIt) {
+  Scrivi("txtTrova", "8");
+  Clicca("cmdTrova");
+  EXPECT_EQ(Lista()->currentRow(), 3);
+  Scrivi("txtTrova", "V25");
+  Clicca("cmdTrova");
+  EXPECT_EQ(Lista()->currentRow(), 1);
+  Clicca("cmdTrova");
+  EXPECT_EQ(Lista()->currentRow(), 1) << "found again, without a message";
+}
+
+TEST_F(FrmVar, ADoubleClickOnAnEntryIsOk) {
+  const QPoint punto = Lista()->visualItemRect(Lista()->item(1)).center();
+  QTest::mouseClick(Lista()->viewport(), Qt::LeftButton, {}, punto);
+  EXPECT_TRUE(dialogo_.isVisible());
+  QTest::mouseDClick(Lista()->viewport(), Qt::LeftButton, {}, punto);
+  EXPECT_FALSE(dialogo_.isVisible());
+  EXPECT_EQ(dialogo_.Codici(), prova::Codici{"\xAB"
+                                             "V25;9R;#;0"
+                                             "\xBB"});
 }
 
 }  // namespace

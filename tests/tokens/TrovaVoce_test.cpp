@@ -98,5 +98,33 @@ TEST(TrovaVoce, LooksAtEveryEntryInTheOrderOfTheList) {
   }));
 }
 
+constexpr std::array Numeri = {10, 105, 5, 1050};
+
+TEST(TrovaNumero, PrefersTheVeryNumberToOneThatHasItAsAPart) {
+  EXPECT_EQ(TrovaNumero(Numeri, 0, "105"), 1U);
+  EXPECT_EQ(TrovaNumero(Numeri, 1, "105"), 1U) << "and not the next one, 1050";
+  EXPECT_EQ(TrovaNumero(Numeri, 0, "V5"), 2U);
+}
+
+TEST(TrovaNumero, GoesOnFromTheSelectedOneAroundTheEnd) {
+  EXPECT_EQ(TrovaNumero(Numeri, 0, "50"), 3U);
+  EXPECT_EQ(TrovaNumero(Numeri, 3, "0"), 0U);
+}
+
+TEST(TrovaNumero, FindsNothingByWordsThatAreNoNumber) {
+  for (const char* cercato : {"", " ", "cliente", "105 cliente", "7", "f105"})
+    EXPECT_EQ(TrovaNumero(Numeri, 0, cercato), std::nullopt) << cercato;
+  EXPECT_EQ(TrovaNumero({}, 0, "1"), std::nullopt);
+}
+
+TEST(SiTrova, IsWhatOneOfTheTwoSearchesCouldComeTo) {
+  EXPECT_TRUE(SiTrova("Ragione sociale", 15, "SOCIALE"));
+  EXPECT_TRUE(SiTrova("Ragione sociale", 15, "v15"));
+  EXPECT_TRUE(SiTrova("Ragione sociale", 15, " "));
+  EXPECT_FALSE(SiTrova("Sconto", 15, " "));
+  EXPECT_FALSE(SiTrova("Ragione sociale", 15, "sociale ragione"));
+  EXPECT_FALSE(SiTrova("Ragione sociale", 15, "16"));
+}
+
 }  // namespace
 }  // namespace parvik::prova
