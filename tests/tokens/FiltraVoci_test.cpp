@@ -59,6 +59,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Caso{"accent_too_many", "d\xE9scr", Merito::InizioDescrizione},
                     Caso{"inside_a_word", "scri", Merito::Altrove},
                     Caso{"one_beginning_one_inside", "articolo scri", Merito::Altrove},
+                    Caso{"one_inside_one_beginning", "scri articolo", Merito::Altrove},
                     Caso{"one_word_missing", "articolo cliente", std::nullopt},
                     Caso{"no_words", "  ", Merito::InizioDescrizione}),
     [](const auto& caso) { return std::string(caso.param.Nome); });
