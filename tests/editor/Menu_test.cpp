@@ -114,10 +114,10 @@ Nomi Disabilitate(const StatoMenu& stato) {
 }
 
 TEST(Abilitata, LeavesOnlyTheChoiceOfATypeTheAboutBoxAndTheExitWithoutAType) {
-  EXPECT_EQ((Nomi{"mnuAnte",      "mnuApri",      "mnuComando",    "mnuCostante",  "mnuFlag",    "mnuLingua",
-                  "mnuNuovo",     "mnuPagina",    "mnuSalva",      "mnuSalvaNome", "mnuStampa",  "mnuStile",
-                  "mnuVar",       "mnuRighe",     "mnuSettaFlag",  "mnuTool",      "mnuAnnulla", "mnuRipeti",
-                  "mnuAnteAuto",  "mnuMisura",    "mnuFoglio",     "mnuVerifica",  "mnuVaiAnte", "mnuTrova",
+  EXPECT_EQ((Nomi{"mnuAnte",      "mnuApri",      "mnuComando",     "mnuCostante",  "mnuFlag",    "mnuLingua",
+                  "mnuNuovo",     "mnuPagina",    "mnuSalva",       "mnuSalvaNome", "mnuStampa",  "mnuStile",
+                  "mnuVar",       "mnuRighe",     "mnuSettaFlag",   "mnuTool",      "mnuAnnulla", "mnuRipeti",
+                  "mnuAnteAuto",  "mnuMisura",    "mnuFoglio",      "mnuVerifica",  "mnuVaiAnte", "mnuTrova",
                   "mnuTrovaSucc", "mnuTrovaPrec", "mnuSostituisci", "mnuInserisci"}),
             Disabilitate({.TipoScelto = false, .TreSezioni = false}));
 }

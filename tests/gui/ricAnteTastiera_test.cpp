@@ -259,9 +259,9 @@ TEST(RicAnteMenu, GoesToTheTextUnderTheMouseOrAtTheCaret) {
   QObject::connect(&*pannello, &ricAnte::OrigineChiesta, [&](std::size_t byte) { chiesti.push_back(byte); });
   pannello->Seleziona(5, 5);
   const QPoint suN = pannello->RettangoloDi(1).center();
-  prova::Trova<QAction>(ApriMenu(pannello, QContextMenuEvent::Mouse, suN), "go-jump")->trigger();
+  ApriMenu(pannello, QContextMenuEvent::Mouse, suN).findChild<QAction*>("go-jump")->trigger();
   pannello->findChildren<QMenu*>().last()->close();
-  prova::Trova<QAction>(ApriMenu(pannello, QContextMenuEvent::Keyboard, suN), "go-jump")->trigger();
+  ApriMenu(pannello, QContextMenuEvent::Keyboard, suN).findChild<QAction*>("go-jump")->trigger();
   EXPECT_EQ(chiesti, (std::vector<std::size_t>{1, 5}));
 }
 
