@@ -30,6 +30,12 @@ std::string Percorso(const std::filesystem::path& file) {
   return Mostrabile((errore ? file : intero).string());
 }
 
+/// The template's path, but after a save that kept what it found the name that this has now, beside it.
+std::string DettoDelFile(const StatoModello& stato) {
+  if (stato.Tenuta.empty()) return Percorso(stato.NomeFile);
+  return "La versione trovata sul disco è in " + Mostrabile(stato.Tenuta.filename().string());
+}
+
 std::string Righe(const CorsaMostrata& corsa) {
   return Quanti(corsa.Righe, "riga", "righe") + (corsa.Fine ? " + fine" : "");
 }
@@ -74,7 +80,7 @@ TestiBarra PerBarra(const DatiBarra& dati) {
   barra.Sezione = Posto(testo, dati.Dove);
   if (dati.ColonnaCarta) barra.ColCarta = "Stampa: col. " + std::to_string(*dati.ColonnaCarta);
   barra.Codice = scelta.Lunghezza > 0 ? Scelti(testo, scelta) : dati.Codice;
-  barra.Percorso = Percorso(dati.Modello.Stato().NomeFile);
+  barra.Percorso = DettoDelFile(dati.Modello.Stato());
   if (dati.Corsa) barra.Pagine = Righe(*dati.Corsa);
   if (dati.Corsa && dati.Foglio) barra.Pagine += ": " + Fogli(*dati.Corsa, *dati.Foglio);
   if (dati.Corsa && !dati.Aggiornata) barra.Aggiornata = "Anteprima non aggiornata";

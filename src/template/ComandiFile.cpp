@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -77,6 +78,10 @@ RichiestaFile RichiestaModello(RichiestaFile::Scopo uso, const TipoDoc& tipo, co
 
 }  // namespace
 
+std::string TitoloCon(const fs::path& file) {
+  return "Ordavia - " + UltimiCaratteri(file.string(), CaratteriTitolo);
+}
+
 ComandiFile::ComandiFile(Documento& documento, Interlocutore& interlocutore, Contorno& contorno,
                          fs::path dirImg)
     : documento_(documento), interlocutore_(interlocutore), contorno_(contorno), dirImg_(std::move(dirImg)) {}
@@ -96,7 +101,7 @@ bool ComandiFile::Prosegui(Risposta risposta, const TipoDoc& tipo) {
   return !documento_.Stato().Modificato || (documento_.Stato().NomeFile.empty() && !VerificaStampa(tipo));
 }
 
-bool ComandiFile::ProseguiDopoDomanda(const TipoDoc& tipo) {
+bool ComandiFile::PuoProseguire(const TipoDoc& tipo) {
   return !documento_.Stato().Modificato || Prosegui(ChiediSeSalvare(), tipo);
 }
 
@@ -104,12 +109,13 @@ void ComandiFile::Nuovo(const TipoDoc& tipo) {
   if (documento_.Stato().Modificato && ChiediSeSalvare() == Risposta::Si) Salva(tipo);
   documento_.Stato().Modificato = false;
   documento_.Stato().Origine.reset();
+  documento_.Stato().Tenuta.clear();
   documento_.DimenticaPassi();
   contorno_.TornaSenzaTipo();
 }
 
 void ComandiFile::Apri(const TipoDoc& tipo) {
-  if (!ProseguiDopoDomanda(tipo)) return;
+  if (!PuoProseguire(tipo)) return;
   RichiestaFile richiesta = RichiestaModello(RichiestaFile::Scopo::Apri, tipo, dirImg_);
   richiesta.Titolo = "Apri File Immagine";
   const fs::path scelto = interlocutore_.ScegliFile(richiesta);
@@ -128,6 +134,7 @@ Esito<void> ComandiFile::ApriScelto(const TipoDoc& tipo) {
   contorno_.SpegniAnteprima();
   if (documento_.Testo(Sezione::Testata).Dimensione() > 0) contorno_.AzzeraFlagStampe();
   documento_.Stato().Modificato = false;
+  documento_.Stato().Tenuta.clear();
   documento_.DimenticaPassi();
   return Leggi(tipo, &Documento::Imposta);
 }
@@ -145,7 +152,7 @@ std::optional<fs::path> ComandiFile::TrovaDaFuori(const fs::path& nome) {
 
 void ComandiFile::ApriDaFuori(const TipoDoc& tipo, const fs::path& nome) {
   const std::optional<fs::path> file = TrovaDaFuori(nome);
-  if (!file || !ProseguiDopoDomanda(tipo)) return;
+  if (!file || !PuoProseguire(tipo)) return;
   if (TroppoGrande(*file)) return SegnalaConNome(NumeroErrore::MemoriaEsaurita, *file);
   documento_.Stato().NomeFile = *file;
   if (const Esito<void> letto = ApriScelto(tipo); !letto) SegnalaConNome(letto.Errore(), *file);
@@ -202,19 +209,25 @@ bool ComandiFile::VerificaStampa(const TipoDoc& tipo) const {
 
 /// A file that would be written with the bytes that it has loses nothing, and the copy that there may be is
 /// worth more.
-EsitoPasso ComandiFile::ConservaAltrui(const fs::path& percorso, std::string_view nuovi) const {
+EsitoPasso ComandiFile::ConservaAltrui(const fs::path& percorso, std::string_view nuovi) {
   std::error_code errore;
   if (!fs::is_regular_file(percorso, errore)) return {};  // nothing that could be kept
   const Esito<std::string> attuali = LeggiFile(percorso);
   if (!attuali) return ErroreScrittura{attuali.Errore()};
   const std::optional<Provenienza>& origine = documento_.Stato().Origine;
-  const bool suoi = origine && origine->File == percorso && origine->Byte == *attuali;
+  const bool suoi = origine && origine->File == percorso && *origine->Byte == *attuali;
   if (suoi || *attuali == nuovi) return {};
-  return ConservaPrecedente(percorso, *attuali);
+  // Links are followed: the copy lies beside the file that they lead to.
+  fs::path tenuta =
+      NomePrecedente(fs::is_symlink(percorso, errore) ? fs::canonical(percorso, errore) : percorso);
+  EsitoPasso conservato = ConservaPrecedente(percorso, *attuali);
+  if (conservato) documento_.Stato().Tenuta = std::move(tenuta);
+  return conservato;
 }
 
 /// The copy is made when the new bytes stand ready: on a full disk no older copy is given up for nothing.
-EsitoScrittura ComandiFile::Sostituisci(const fs::path& percorso, std::string_view nuovi) const {
+EsitoScrittura ComandiFile::Sostituisci(const fs::path& percorso, std::string_view nuovi) {
+  documento_.Stato().Tenuta.clear();
   auto file = ScritturaSicura::Apri(percorso);
   if (!file) return file.Errore();
   if (const EsitoPasso scritto = file->Scrivi(nuovi); !scritto) return scritto.Errore();
@@ -235,17 +248,16 @@ EsitoScrittura ComandiFile::ScriviTesti(const fs::path& percorso, const TipoDoc&
   Esito<std::string> immagine = ScriviImmagine(testi, documento_.Stato().Corpo, FormatoDi(tipo.NumSezioni));
   if (!immagine) return ErroreScrittura{immagine.Errore()};
   if (testi[Indice(Sezione::Corpo)].size() != corpoPrima) documento_.CompletaUltimaRiga(Sezione::Corpo);
-  EsitoScrittura scritto = Sostituisci(percorso, *immagine);
+  Provenienza nuova{.File = percorso, .Byte = std::make_shared<const std::string>(std::move(*immagine))};
+  EsitoScrittura scritto = Sostituisci(percorso, *nuova.Byte);
   // A save may fail when the new bytes stand there already, but are not known to be safe.
-  if (scritto || Contiene(percorso, *immagine))
-    documento_.Stato().Origine = {.File = percorso, .Byte = std::move(*immagine)};
+  if (scritto || Contiene(percorso, *nuova.Byte)) documento_.Stato().Origine = std::move(nuova);
   if (scritto) documento_.Stato().Modificato = false;
   return scritto;
 }
 
 Esito<void> ComandiFile::Leggi(const TipoDoc& tipo, Imposta imposta) {
-  contorno_.ImpostaTitolo("Ordavia - " +
-                          UltimiCaratteri(documento_.Stato().NomeFile.string(), CaratteriTitolo));
+  contorno_.ImpostaTitolo(TitoloCon(documento_.Stato().NomeFile));
   documento_.Stato().Origine.reset();
   return SeBastaMemoria([&] { return LeggiTesti(tipo, imposta); });
 }
@@ -262,8 +274,10 @@ Esito<void> ComandiFile::LeggiTesti(const TipoDoc& tipo, Imposta imposta) {
     if (formato == Formato::UnaSezione && sezione != Sezione::Testata) continue;
     (documento_.*imposta)(sezione, letta.Testi[Indice(sezione)]);
   }
-  if (!letta.TestoNonLetto)
-    documento_.Stato().Origine = {.File = documento_.Stato().NomeFile, .Byte = std::move(*byte)};
+  if (!letta.TestoNonLetto) {
+    documento_.Stato().Origine = {.File = documento_.Stato().NomeFile,
+                                  .Byte = std::make_shared<const std::string>(std::move(*byte))};
+  }
   if (letta.Errore) return *letta.Errore;
   return {};
 }

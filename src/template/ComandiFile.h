@@ -31,6 +31,9 @@ class Contorno {
   virtual void TornaSenzaTipo() = 0;
 };
 
+/// The caption once a file was read. UTF-8.
+std::string TitoloCon(const std::filesystem::path& file);
+
 /// The collaborators must outlive the commands. `tipo` is always the current document type.
 class ComandiFile {
  public:
@@ -70,17 +73,19 @@ class ComandiFile {
   /// show. It may be asked in the middle of any other command that waits for an answer.
   bool PuoChiudere(const TipoDoc& tipo);
 
+  /// The question of Open: whether the template at hand may be given up.
+  bool PuoProseguire(const TipoDoc& tipo);
+
   /// Whether there is anything to save or print: not every section is a single empty line.
   bool VerificaStampa(const TipoDoc& tipo) const;
 
  private:
   Risposta ChiediSeSalvare();
   bool Prosegui(Risposta risposta, const TipoDoc& tipo);
-  bool ProseguiDopoDomanda(const TipoDoc& tipo);
   Esito<void> ApriScelto(const TipoDoc& tipo);
   void SegnalaConNome(NumeroErrore errore, const std::filesystem::path& file);
-  EsitoPasso ConservaAltrui(const std::filesystem::path& percorso, std::string_view nuovi) const;
-  EsitoScrittura Sostituisci(const std::filesystem::path& percorso, std::string_view nuovi) const;
+  EsitoPasso ConservaAltrui(const std::filesystem::path& percorso, std::string_view nuovi);
+  EsitoScrittura Sostituisci(const std::filesystem::path& percorso, std::string_view nuovi);
   EsitoScrittura Scrivi(const std::filesystem::path& percorso, const TipoDoc& tipo);
   EsitoScrittura ScriviTesti(const std::filesystem::path& percorso, const TipoDoc& tipo);
   EsitoScrittura ScriviERileggi(const std::filesystem::path& percorso, const TipoDoc& tipo);

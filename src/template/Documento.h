@@ -20,7 +20,9 @@ namespace parvik {
 /// What a file held when this document was last read from it or written to it.
 struct Provenienza {
   std::filesystem::path File;
-  std::string Byte;  // all of them: no digest could mistake another file for this one
+  /// All of them: no digest could mistake another file for this one. They never change: whoever holds them
+  /// may compare with them on another thread, and knows by the pointer whether they are still the document's.
+  std::shared_ptr<const std::string> Byte;
 };
 
 /// What a document is besides its texts.
@@ -30,6 +32,8 @@ struct StatoModello {
   ImpostazioniCorpo Corpo;
   /// nullopt while the document comes from no file: a new one, or one that could not be read whole.
   std::optional<Provenienza> Origine;
+  /// Where the last save kept what it found in the place of the document's own; empty when it kept nothing.
+  std::filesystem::path Tenuta;
 };
 
 /// A change that was made.

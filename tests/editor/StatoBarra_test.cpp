@@ -124,5 +124,28 @@ TEST_F(StatoBarraTest, SaysThatThePreviewIsNotUpToDateOnlyWhereOneShows) {
   EXPECT_EQ(PerBarra(mostrata).Aggiornata, "");
 }
 
+TEST_F(StatoBarraTest, TellsWhereASaveKeptWhatSomebodyElseHadWritten) {
+  const std::filesystem::path file = dir_ / "A.IMG";
+  Crea(file, "uno\r\n");
+  interlocutore_.Scegliera(file);
+  editore_.Apri();
+  EXPECT_EQ(Barra().Percorso, file.string());
+  Crea(file, "altrui\r\n");
+  editore_.Salva();
+  EXPECT_EQ(Barra().Percorso, "La versione trovata sul disco è in A.IMG~");
+  EXPECT_EQ(Contenuto(file.string() + "~"), "altrui\r\n");
+  editore_.Salva();
+  EXPECT_EQ(Barra().Percorso, file.string()) << "nothing was kept this time";
+  Crea(file, "altrui\r\n");
+  std::filesystem::create_symlink(file, FileNuovo());
+  interlocutore_.Scegliera(FileNuovo());
+  editore_.SalvaConNome();
+  EXPECT_EQ(Barra().Percorso, "La versione trovata sul disco è in A.IMG~")
+      << "beside the file that the link leads to";
+  interlocutore_.Scegliera(file);
+  editore_.Apri();
+  EXPECT_EQ(Barra().Percorso, file.string());
+}
+
 }  // namespace
 }  // namespace parvik::prova
