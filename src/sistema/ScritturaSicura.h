@@ -48,4 +48,9 @@ class ScritturaSicura {
 /// The whole of it in one call.
 EsitoScrittura ScriviFile(const std::filesystem::path& destinazione, std::string_view byte);
 
+/// The same for a file that nobody else writes to, beside which another one lies: it gets the owner and the
+/// rights of `modello`, whatever stood in its place.
+EsitoScrittura ScriviFileCome(const std::filesystem::path& modello, const std::filesystem::path& destinazione,
+                              std::string_view byte);
+
 }  // namespace parvik

@@ -39,6 +39,18 @@ std::vector<fs::path> CartelleConfigurazione() {
   return cartelle;
 }
 
+fs::path CartellaStatoUtente() {
+  fs::path casa = Variabile("XDG_STATE_HOME");
+  if (casa.is_absolute()) return casa;
+  const fs::path utente = Variabile("HOME");
+  return utente.is_absolute() ? utente / ".local" / "state" : fs::path();
+}
+
+fs::path CartellaEsecuzione() {
+  fs::path cartella = Variabile("XDG_RUNTIME_DIR");
+  return cartella.is_absolute() ? cartella : fs::path();
+}
+
 fs::path NessunaCartella() {
   return "/dev/null";
 }

@@ -10,6 +10,7 @@
 
 #include "common/SeBastaMemoria.h"
 #include "sistema/posix/AttributiFile.h"
+#include "sistema/posix/CartellaPropria.h"
 #include "sistema/posix/Ripeti.h"
 
 namespace parvik {
@@ -23,40 +24,16 @@ fs::path CartellaTemporanea() {
   return fs::path(scelta == nullptr || *scelta == '\0' ? "/tmp" : scelta) / nome;
 }
 
-/// Nobody else may put anything into it, or see what is there: the temporary folder is everybody's.
-EsitoSistema<void> VerificaPropria(const fs::path& cartella) {
-  const EsitoSistema<struct stat> stato = StatoSenzaSeguire(cartella);
-  if (!stato) return stato.Errore();
-  const bool propria =
-      S_ISDIR(stato->st_mode) && stato->st_uid == ::geteuid() && (stato->st_mode & 077U) == 0;
-  if (!propria) return EACCES;
-  return {};
-}
-
-/// Unless something else is in it.
-void TogliCartella(const fs::path& cartella) {
-  ::rmdir(cartella.c_str());
-}
-
-EsitoSistema<fs::path> CartellaPropria() {
-  fs::path cartella = CartellaTemporanea();
-  const bool fatta = Ripeti([&] { return ::mkdir(cartella.c_str(), 0700); }) == 0;
-  if (!fatta && errno != EEXIST) return errno;
-  const EsitoSistema<void> propria = VerificaPropria(cartella);
-  if (propria) return cartella;
-  if (fatta) TogliCartella(cartella);
-  return propria.Errore();
-}
-
 /// The name stands for one file of the system, whichever way leads to it.
 EsitoSistema<PostoProvvisorio> PostoTemporaneo(const fs::path& originale) {
   const EsitoSistema<struct stat> stato = Stato(originale);
   if (!stato) return stato.Errore();
-  const EsitoSistema<fs::path> cartella = CartellaPropria();
-  if (!cartella) return cartella.Errore();
+  // The temporary folder is everybody's.
+  const fs::path cartella = CartellaTemporanea();
+  if (const auto propria = PreparaCartellaPropria(cartella); !propria) return propria.Errore();
   const std::string numeri = std::to_string(stato->st_dev) + "-" + std::to_string(stato->st_ino) + "-";
   return PostoProvvisorio{.File = originale,
-                          .Nome = *cartella / NomeDerivato(numeri, originale.filename().string(), "")};
+                          .Nome = cartella / NomeDerivato(numeri, originale.filename().string(), "")};
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "sistema/CopiaPrecedente.h"
 
-#include "sistema/posix/ScritturaAccanto.h"
+#include "sistema/ScritturaSicura.h"
+#include "sistema/posix/OperazioniFile.h"
 
 namespace parvik {
 
@@ -13,10 +14,8 @@ fs::path NomePrecedente(const fs::path& file) {
 EsitoPasso ConservaPrecedente(const fs::path& file, std::string_view contenuto) {
   const EsitoSistema<fs::path> fine = SeguiCollegamenti(file);
   if (!fine) return ErroreDaErrno(fine.Errore());
-  const auto strada = ScritturaAccanto::Apri({.Destinazione = NomePrecedente(*fine), .Originale = *fine});
-  if (!strada) return ErroreDaErrno(strada.Errore());
-  if (EsitoPasso scritto = (*strada)->Scrivi(contenuto); !scritto) return scritto;
-  if (const EsitoScrittura scritta = (*strada)->Conferma(); !scritta) return scritta.Errore();
+  const EsitoScrittura scritta = ScriviFileCome(*fine, NomePrecedente(*fine), contenuto);
+  if (!scritta) return scritta.Errore();
   return {};
 }
 

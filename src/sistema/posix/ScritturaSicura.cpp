@@ -120,4 +120,14 @@ EsitoScrittura ScriviFile(const fs::path& destinazione, std::string_view byte) {
   return file->Conferma();
 }
 
+EsitoScrittura ScriviFileCome(const fs::path& modello, const fs::path& destinazione, std::string_view byte) {
+  const auto scrivi = [&]() -> EsitoScrittura {
+    const auto strada = ScritturaAccanto::Apri({.Destinazione = destinazione, .Originale = modello});
+    if (!strada) return ErroreDaErrno(strada.Errore());
+    if (const EsitoPasso scritto = (*strada)->Scrivi(byte); !scritto) return scritto.Errore();
+    return (*strada)->Conferma();
+  };
+  return SeBastaMemoria(scrivi, SenzaMemoria());
+}
+
 }  // namespace parvik
