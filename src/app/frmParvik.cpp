@@ -45,6 +45,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
   verifica_ = std::make_unique<qtVerifica>(editore_, *area_, *this);
   trova_ = std::make_unique<qtTrova>(editore_, *area_, *this);
   inserimenti_ = std::make_unique<qtInserimenti>(editore_, maschere_, *area_, *this);
+  CreaNotizie(dati);
   resize(EntroLoSchermo(*this, DimensioneIniziale));
   ricordi_.Riprendi();
   CreaIngrandimento();
@@ -53,6 +54,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
 
 /// The sections go before the document that they show; hidden first, they pass the focus to nobody.
 frmParvik::~frmParvik() {
+  notizie_.reset();
   anteAuto_.reset();
   verifica_.reset();
   trova_.reset();
@@ -133,6 +135,7 @@ void frmParvik::Aggiorna() {
   SeguiAnteprima();
   ricordi_.Aggiorna();
   inizio_->Aggiorna();
+  notizie_->Aggiorna();
 }
 
 /// The sections' own beginning comes before there is a menu.

@@ -18,6 +18,7 @@
 #include "app/qtMaschere.h"
 #include "app/qtMenu.h"
 #include "app/qtMisure.h"
+#include "app/qtNotizie.h"
 #include "app/qtRicordi.h"
 #include "app/qtRighelli.h"
 #include "app/qtTrova.h"
@@ -90,6 +91,7 @@ class frmParvik final : public QMainWindow, private Vista {
   bool ScegliTipo(std::size_t proposta);
   void ApplicaTipo(std::size_t slot);
   void ApriDaFuori(const std::filesystem::path& file);
+  void CreaNotizie(const DatiAvvio& dati);
 
   qtArea* area_ = nullptr;
   qtMenu* menu_ = nullptr;
@@ -108,6 +110,7 @@ class frmParvik final : public QMainWindow, private Vista {
   std::unique_ptr<qtVerifica> verifica_;
   std::unique_ptr<qtTrova> trova_;
   std::unique_ptr<qtInserimenti> inserimenti_;
+  std::unique_ptr<qtNotizie> notizie_;
 };
 
 }  // namespace parvik

@@ -53,4 +53,8 @@ void frmParvik::Comincia(std::optional<std::size_t> tipo, const std::optional<st
   if (file) ApriDaFuori(*file);
 }
 
+void frmParvik::CreaNotizie(const DatiAvvio& dati) {
+  notizie_ = std::make_unique<qtNotizie>(editore_, *this, dati.CartellaEsecuzione);
+}
+
 }  // namespace parvik

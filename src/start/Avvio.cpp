@@ -30,8 +30,13 @@ std::optional<DatiAvvio> Avvia(const Ambiente& ambiente, Interlocutore& interloc
     interlocutore.Chiedi({.Testo = catalogo.Errore()});
     return std::nullopt;
   }
-  return DatiAvvio{ambiente.DirProgramma, std::move(*installazione), std::move(*catalogo),
-                   ambiente.CartellaUtente, ambiente.CartelleConfigurazione};
+  return DatiAvvio{.DirProgramma = ambiente.DirProgramma,
+                   .Dove = std::move(*installazione),
+                   .Campi = std::move(*catalogo),
+                   .CartellaUtente = ambiente.CartellaUtente,
+                   .CartelleConfigurazione = ambiente.CartelleConfigurazione,
+                   .CartellaStato = ambiente.CartellaStato,
+                   .CartellaEsecuzione = ambiente.CartellaEsecuzione};
 }
 
 }  // namespace parvik

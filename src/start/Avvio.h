@@ -26,9 +26,11 @@ struct DatiAvvio {
   std::filesystem::path DirProgramma;  // without a trailing separator
   Installazione Dove;
   Catalogo Campi;
-  /// Where configuration files lie, as in Ambiente.
+  /// Where configuration files lie, and what the program keeps by itself, as in Ambiente.
   std::filesystem::path CartellaUtente = {};
   std::vector<std::filesystem::path> CartelleConfigurazione = {};
+  std::filesystem::path CartellaStato = {};
+  std::filesystem::path CartellaEsecuzione = {};
 };
 
 /// Finds the installation and loads the head of its catalogue. nullopt after the user was told why not: the

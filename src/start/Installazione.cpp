@@ -55,7 +55,9 @@ fs::path CercaCampi(const fs::path& dirImg, Interlocutore& interlocutore) {
 Ambiente AmbienteDelProcesso(const char* argv0) {
   return {.DirProgramma = DirProgramma(argv0),
           .CartelleConfigurazione = CartelleConfigurazione(),
-          .CartellaUtente = CartellaConfigurazioneUtente()};
+          .CartellaUtente = CartellaConfigurazioneUtente(),
+          .CartellaStato = CartellaStatoUtente(),
+          .CartellaEsecuzione = CartellaEsecuzione()};
 }
 
 Installazione Installazione::In(const fs::path& dirVelkor) {

@@ -17,6 +17,10 @@ struct Ambiente {
   std::filesystem::path DirVelkor = {};  // "" when it is to be looked for
   /// The user's own among those folders; "" for a user who has none.
   std::filesystem::path CartellaUtente = {};
+  /// The user's own for what is kept from one run to the next, and for what counts while programs run; "" for
+  /// none.
+  std::filesystem::path CartellaStato = {};
+  std::filesystem::path CartellaEsecuzione = {};
 };
 
 /// The running process: `argv0` as in DirProgramma(); $XDG_CONFIG_HOME, $XDG_CONFIG_DIRS and /etc.

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "app/qtNotizie.h"
 #include "common/ErroreRuntime.h"
 #include "guasti/CasiGuasto.h"
 #include "guasti/Guasti.h"
@@ -27,6 +28,7 @@ class FinestraSalvaGuasti : public testing::Test {
   FinestraSalvaGuasti() {
     finestra_.Scegli(1);
     finestra_.Apri("FATT01.IMG");
+    AttendiSguardo();
   }
 
   std::filesystem::path Modello() const { return finestra_.Modello("FATT01.IMG"); }
@@ -63,6 +65,12 @@ class FinestraSalvaGuasti : public testing::Test {
     EXPECT_TRUE(finestra_.Persona().Messaggi.empty());
     finestra_->show();
     finestra_.Attiva();
+    AttendiSguardo();
+  }
+
+  /// The look at the file that the window takes when it is activated makes calls of its own.
+  void AttendiSguardo() {
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !finestra_->findChild<qtNotizie*>()->AlLavoro(); }));
   }
 
   /// The one thing said was that the file has less than its rights; it is forgotten then.

@@ -29,14 +29,17 @@ Finestra::Finestra(Interlocutore* altro) : interlocutore_(altro != nullptr ? alt
   std::filesystem::create_directories(Cartella() / "PARVIK");
   std::filesystem::copy(Esempio(), Cartella(), std::filesystem::copy_options::recursive);
   std::filesystem::create_symlink(prova::ModuloStampa(), ModuloStampa());
-  std::filesystem::create_directory(Configurazione());
+  for (const auto& cartella : {Configurazione(), Stato(), Esecuzione()})
+    std::filesystem::create_directory(cartella);
   Mostra();
 }
 
 void Finestra::Mostra() {
   auto dati = Avvia({.DirProgramma = Cartella() / "PARVIK",
                      .CartelleConfigurazione = {Configurazione(), ConfigurazioneDiTutti()},
-                     .CartellaUtente = Configurazione()},
+                     .CartellaUtente = Configurazione(),
+                     .CartellaStato = Stato(),
+                     .CartellaEsecuzione = Esecuzione()},
                     *interlocutore_);
   if (!dati) qFatal("the example installation does not start");
   finestra_ = std::make_unique<frmParvik>(std::move(*dati), *interlocutore_);
@@ -44,9 +47,10 @@ void Finestra::Mostra() {
   Attiva();
 }
 
-void Finestra::Riavvia() {
+void Finestra::RiavviaDopo(const std::function<void()>& intanto) {
   EXPECT_TRUE(finestra_->close());
   finestra_.reset();
+  intanto();
   Mostra();
 }
 

@@ -63,8 +63,15 @@ class Finestra {
   std::filesystem::path Impostazioni() const { return Configurazione() / "ordavia" / "parvik32.ini"; }
   /// The folder of those for all users.
   std::filesystem::path ConfigurazioneDiTutti() const { return cartella_.Percorso() / "xdg"; }
+  /// The user's folder for what programs keep, and that for what counts while they run.
+  std::filesystem::path Stato() const { return cartella_.Percorso() / "stato"; }
+  std::filesystem::path Esecuzione() const { return cartella_.Percorso() / "esecuzione"; }
   /// Closes the window, and opens another one with the same folders: the next session.
-  void Riavvia();
+  void Riavvia() {
+    RiavviaDopo([] {});
+  }
+  /// The same, and something is done while there is none.
+  void RiavviaDopo(const std::function<void()>& intanto);
 
   /// Opens a template of the installation through the menu.
   void Apri(const char* nome);

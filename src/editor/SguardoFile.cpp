@@ -1,0 +1,45 @@
+#include "editor/SguardoFile.h"
+
+#include "common/Impronta.h"
+#include "sistema/LetturaFile.h"
+
+namespace parvik {
+namespace {
+
+/// Larger than any template that could be opened (ComandiFile): not worth reading to tell it apart.
+constexpr std::uint64_t MassimoLetto = 128U << 20U;
+
+/// Of a file that was not read.
+std::uint64_t ImprontaDi(const IdentitaFile& identita) {
+  return Impronta(std::to_string(identita.Dimensione) + " " + std::to_string(identita.Secondi) + " " +
+                  std::to_string(identita.Nanosecondi));
+}
+
+FileTrovato SenzaFile(NumeroErrore errore) {
+  const bool manca = errore == NumeroErrore::FileNonTrovato || errore == NumeroErrore::PercorsoNonTrovato;
+  return manca ? FileTrovato::Sparito : FileTrovato::Ignoto;
+}
+
+}  // namespace
+
+/// The identity is that of before the reading: a file that is written meanwhile is read once more next time.
+SguardoFile LavoroSguardo::Esegui() const {
+  const Esito<IdentitaFile> identita = IdentitaDi(File);
+  if (!identita) return {.Trovato = SenzaFile(identita.Errore()), .Origine = Origine};
+  if (Prima && Prima->Identita == *identita) return *Prima;
+  SguardoFile sguardo{.Trovato = FileTrovato::Altro, .Origine = Origine, .Identita = *identita};
+  if (identita->Dimensione > MassimoLetto) {
+    sguardo.Contenuto = ImprontaDi(*identita);
+    return sguardo;
+  }
+  const Esito<std::string> byte = LeggiFile(File);
+  if (!byte) return {.Trovato = SenzaFile(byte.Errore()), .Origine = Origine};
+  if (*byte == *Origine) {
+    sguardo.Trovato = FileTrovato::Suo;
+  } else {
+    sguardo.Contenuto = Impronta(*byte);
+  }
+  return sguardo;
+}
+
+}  // namespace parvik
