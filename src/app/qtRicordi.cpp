@@ -5,6 +5,12 @@
 #include "common/qtSchermo.h"
 
 namespace parvik {
+namespace {
+
+/// How long the window waits to know which templates are still there.
+constexpr auto AttesaModelli = std::chrono::milliseconds(100);
+
+}  // namespace
 
 qtRicordi::qtRicordi(Editore& editore, QMainWindow& finestra, qtRicordo file)
     : editore_(editore), finestra_(finestra), file_(std::move(file)) {}
@@ -69,12 +75,18 @@ void qtRicordi::Salva() {
   Scrivi();
 }
 
+/// Those that a share tells nothing about in time count as there.
 const Recenti& qtRicordi::Modelli() {
-  ricordo_.Modelli.TogliSpariti([](const std::filesystem::path& file) {
-    std::error_code errore;
-    return std::filesystem::is_regular_file(file, errore);
-  });
+  TogliSpariti();
+  if (!spariti_.AlLavoro() && !ricordo_.Modelli.Voci().empty()) {
+    spariti_.Comincia([modelli = ricordo_.Modelli] { return modelli.Spariti(); });
+    if (spariti_.Attendi(AttesaModelli)) TogliSpariti();
+  }
   return ricordo_.Modelli;
+}
+
+void qtRicordi::TogliSpariti() {
+  if (const auto spariti = spariti_.Ritira()) ricordo_.Modelli.Togli(*spariti);
 }
 
 }  // namespace parvik

@@ -2,9 +2,12 @@
 #pragma once
 
 #include <QMainWindow>
+#include <filesystem>
 #include <optional>
+#include <vector>
 
 #include "app/qtRicordo.h"
+#include "common/LavoroLasciato.h"
 #include "editor/Editore.h"
 
 namespace parvik {
@@ -27,19 +30,21 @@ class qtRicordi {
   int Ingrandimento() const { return ricordo_.Ingrandimento; }
   void NotaIngrandimento(int passi);
 
-  /// The templates that are kept and still there; none while nothing is kept.
+  /// The templates that are kept and still there, as far as that is known soon; none while nothing is kept.
   const Recenti& Modelli();
 
  private:
   void NotaModello();
   void Scrivi();
   void RiponiFinestra();
+  void TogliSpariti();
 
   Editore& editore_;
   QMainWindow& finestra_;
   qtRicordo file_;
   Ricordo ricordo_;
   std::optional<Ricordo> scritto_;  // what the file says; nullopt while nothing is kept
+  LavoroLasciato<std::vector<std::filesystem::path>> spariti_;
 };
 
 }  // namespace parvik

@@ -15,8 +15,17 @@ void Recenti::Accoda(const ModelloRecente& modello) {
   if (voci_.size() < Massimo && std::ranges::none_of(voci_, stesso)) voci_.push_back(modello);
 }
 
-void Recenti::TogliSpariti(const std::function<bool(const std::filesystem::path&)>& esiste) {
-  std::erase_if(voci_, [&](const ModelloRecente& voce) { return !esiste(voce.File); });
+std::vector<std::filesystem::path> Recenti::Spariti() const {
+  std::vector<std::filesystem::path> spariti;
+  for (const ModelloRecente& voce : voci_) {
+    std::error_code errore;
+    if (!std::filesystem::is_regular_file(voce.File, errore)) spariti.push_back(voce.File);
+  }
+  return spariti;
+}
+
+void Recenti::Togli(const std::vector<std::filesystem::path>& file) {
+  std::erase_if(voci_, [&](const ModelloRecente& voce) { return std::ranges::count(file, voce.File) > 0; });
 }
 
 }  // namespace parvik

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <filesystem>
-#include <functional>
 #include <vector>
 
 namespace parvik {
@@ -26,8 +25,9 @@ class Recenti {
   void Aggiungi(const ModelloRecente& modello);
   /// The same at the end, where there is still room.
   void Accoda(const ModelloRecente& modello);
-  /// Leaves out those that are not there any more.
-  void TogliSpariti(const std::function<bool(const std::filesystem::path&)>& esiste);
+  /// Those that are not there any more. To be asked of a copy, on a thread that may hang: so may a share.
+  std::vector<std::filesystem::path> Spariti() const;
+  void Togli(const std::vector<std::filesystem::path>& file);
 
   bool operator==(const Recenti&) const = default;
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "supporto/Cartelle.h"
+
 namespace parvik {
 namespace {
 
@@ -32,10 +34,15 @@ TEST(Recenti, HoldAFileOnceUnderItsLastType) {
 
 TEST(Recenti, LeaveOutWhatHasGone) {
   Recenti recenti;
-  recenti.Accoda({.File = "/a", .Tipo = 1});
-  recenti.Accoda({.File = "/b", .Tipo = 1});
-  recenti.TogliSpariti([](const std::filesystem::path& file) { return file == "/b"; });
-  EXPECT_EQ(Nomi(recenti), (std::vector<std::string>{"/b"}));
+  const prova::CartellaTemporanea cartella;
+  const std::string file = (cartella / "b.img").string();
+  prova::Crea(file, "");
+  recenti.Accoda({.File = "/nessuna/a.img", .Tipo = 1});
+  recenti.Accoda({.File = file, .Tipo = 1});
+  recenti.Accoda({.File = cartella.Percorso(), .Tipo = 1});
+  EXPECT_EQ(recenti.Spariti(), (std::vector<std::filesystem::path>{"/nessuna/a.img", cartella.Percorso()}));
+  recenti.Togli(recenti.Spariti());
+  EXPECT_EQ(Nomi(recenti), std::vector<std::string>{file});
 }
 
 }  // namespace
