@@ -54,6 +54,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
 
 /// The sections go before the document that they show; hidden first, they pass the focus to nobody.
 frmParvik::~frmParvik() {
+  recupero_.reset();
   notizie_.reset();
   anteAuto_.reset();
   verifica_.reset();
@@ -136,6 +137,7 @@ void frmParvik::Aggiorna() {
   ricordi_.Aggiorna();
   inizio_->Aggiorna();
   notizie_->Aggiorna();
+  recupero_->Aggiorna();
 }
 
 /// The sections' own beginning comes before there is a menu.
@@ -145,6 +147,7 @@ void frmParvik::CambiatoTesto() {
   if (verifica_) verifica_->Segui();
   if (trova_) trova_->Segui();
   if (inserimenti_) inserimenti_->Segui();
+  if (recupero_) recupero_->Segui();
   if (barraStato_ != nullptr) barraStato_->Accoda();
 }
 
@@ -170,6 +173,7 @@ void frmParvik::CambiataMisura() {
   SeguiAnteprima();
   if (barraStato_ != nullptr) barraStato_->Accoda();
   if (verifica_) verifica_->Segui();
+  if (recupero_) recupero_->Segui();
 }
 
 void frmParvik::MostraAnteprima(Anteprima anteprima) {
@@ -252,7 +256,9 @@ void frmParvik::RicaricaFlagStampe() {
 
 void frmParvik::closeEvent(QCloseEvent* evento) {
   evento->setAccepted(!inAttesa_ && editore_.PuoChiudere());
-  if (evento->isAccepted()) ricordi_.Salva();
+  if (!evento->isAccepted()) return;
+  ricordi_.Salva();
+  recupero_->Finisci();
 }
 
 }  // namespace parvik

@@ -19,6 +19,7 @@
 #include "app/qtMenu.h"
 #include "app/qtMisure.h"
 #include "app/qtNotizie.h"
+#include "app/qtRecupero.h"
 #include "app/qtRicordi.h"
 #include "app/qtRighelli.h"
 #include "app/qtTrova.h"
@@ -92,6 +93,7 @@ class frmParvik final : public QMainWindow, private Vista {
   void ApplicaTipo(std::size_t slot);
   void ApriDaFuori(const std::filesystem::path& file);
   void CreaNotizie(const DatiAvvio& dati);
+  bool Ripristina(const CopiaRecupero& copia);
 
   qtArea* area_ = nullptr;
   qtMenu* menu_ = nullptr;
@@ -111,6 +113,7 @@ class frmParvik final : public QMainWindow, private Vista {
   std::unique_ptr<qtTrova> trova_;
   std::unique_ptr<qtInserimenti> inserimenti_;
   std::unique_ptr<qtNotizie> notizie_;
+  std::unique_ptr<qtRecupero> recupero_;
 };
 
 }  // namespace parvik

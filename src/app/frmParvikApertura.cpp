@@ -55,6 +55,16 @@ void frmParvik::Comincia(std::optional<std::size_t> tipo, const std::optional<st
 
 void frmParvik::CreaNotizie(const DatiAvvio& dati) {
   notizie_ = std::make_unique<qtNotizie>(editore_, *this, dati.CartellaEsecuzione);
+  recupero_ = std::make_unique<qtRecupero>(
+      editore_, *this, qtRecupero::Dati{.Stato = dati.CartellaStato, .Intervallo = dati.IntervalloRecupero},
+      [this](const CopiaRecupero& copia) { return Ripristina(copia); });
+}
+
+bool frmParvik::Ripristina(const CopiaRecupero& copia) {
+  if (!editore_.Ripristina(copia)) return false;
+  AttivaSezione(Sezione::Testata);
+  area_->Editor(Sezione::Testata).setFocus();
+  return true;
 }
 
 }  // namespace parvik

@@ -17,6 +17,7 @@
 #include "editor/ComandiRicerca.h"
 #include "editor/ComandoStampa.h"
 #include "editor/ContoRighe.h"
+#include "editor/CopiaRecupero.h"
 #include "editor/Disposizione.h"
 #include "editor/Fogli.h"
 #include "editor/Guide.h"
@@ -188,6 +189,11 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
 
   /// The section that last had the focus, at first the Testata.
   Sezione Attiva() const { return inserimento_.Attiva(); }
+  /// A template that was not saved when the program ended, of a type that the catalogue has: all of it as it
+  /// was then, and modified. What its file holds now counts as its own only if that was so then. Asks about
+  /// the template at hand as Apri does; false when that gave it up. In every state (EditoreRecupero.cpp).
+  bool Ripristina(const CopiaRecupero& copia);
+
   /// The section that now has the focus; it must be in use.
   void AttivaSezione(Sezione sezione);
 

@@ -1,6 +1,7 @@
 // The start-up sequence, up to the moment at which there is something to show in a window.
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -31,6 +32,8 @@ struct DatiAvvio {
   std::vector<std::filesystem::path> CartelleConfigurazione = {};
   std::filesystem::path CartellaStato = {};
   std::filesystem::path CartellaEsecuzione = {};
+  /// How much typing may be lost at most when the program ends suddenly.
+  std::chrono::milliseconds IntervalloRecupero = std::chrono::seconds(10);
 };
 
 /// Finds the installation and loads the head of its catalogue. nullopt after the user was told why not: the

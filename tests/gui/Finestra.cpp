@@ -42,6 +42,7 @@ void Finestra::Mostra() {
                      .CartellaEsecuzione = Esecuzione()},
                     *interlocutore_);
   if (!dati) qFatal("the example installation does not start");
+  dati->IntervalloRecupero = intervallo_;
   finestra_ = std::make_unique<frmParvik>(std::move(*dati), *interlocutore_);
   finestra_->show();
   Attiva();

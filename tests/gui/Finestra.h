@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QWidget>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <ostream>
@@ -66,6 +67,8 @@ class Finestra {
   /// The user's folder for what programs keep, and that for what counts while they run.
   std::filesystem::path Stato() const { return cartella_.Percorso() / "stato"; }
   std::filesystem::path Esecuzione() const { return cartella_.Percorso() / "esecuzione"; }
+  /// Between two copies of a template that is not saved, from the next window on.
+  void ImpostaIntervallo(std::chrono::milliseconds intervallo) { intervallo_ = intervallo; }
   /// Closes the window, and opens another one with the same folders: the next session.
   void Riavvia() {
     RiavviaDopo([] {});
@@ -89,6 +92,7 @@ class Finestra {
   CartellaTemporanea cartella_;
   InterlocutoreScritto persona_;
   Interlocutore* interlocutore_ = nullptr;
+  std::chrono::milliseconds intervallo_ = std::chrono::seconds(10);
   std::unique_ptr<frmParvik> finestra_;
 };
 

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <span>
+#include <utility>
 
 namespace parvik::prova {
 namespace {
@@ -43,22 +44,26 @@ struct SchermoX::Connessione {
     Misura Quanto;
   };
 
-  std::optional<Trovata> Cerca(const std::string& titolo) const {
+  /// The last one, and how many.
+  std::pair<std::optional<Trovata>, int> CercaTutte(const std::string& titolo) const {
     Window radice = None;
     Window padre = None;
     Window* figlie = nullptr;
     unsigned quante = 0;
     if (XQueryTree(Schermo, DefaultRootWindow(Schermo), &radice, &padre, &figlie, &quante) == 0) return {};
     std::optional<Trovata> trovata;
+    int trovate = 0;
     for (const Window figlia : std::span(figlie, quante)) {
       XWindowAttributes stato = {};
       if (XGetWindowAttributes(Schermo, figlia, &stato) == 0 || stato.map_state != IsViewable) continue;
       if (Titolo(Schermo, figlia) != titolo) continue;
       trovata = {.Quale = figlia, .Quanto = {.Larghezza = stato.width, .Altezza = stato.height}};
+      ++trovate;
     }
     if (figlie != nullptr) XFree(figlie);
-    return trovata;
+    return {trovata, trovate};
   }
+  std::optional<Trovata> Cerca(const std::string& titolo) const { return CercaTutte(titolo).first; }
 };
 
 SchermoX::SchermoX(const std::string& nome) : x_(std::make_unique<Connessione>()) {
@@ -78,6 +83,10 @@ std::optional<SchermoX::Misura> SchermoX::Finestra(const std::string& titolo) {
   const auto trovata = x_->Cerca(titolo);
   if (!trovata) return {};
   return trovata->Quanto;
+}
+
+int SchermoX::Quante(const std::string& titolo) {
+  return x_->CercaTutte(titolo).second;
 }
 
 void SchermoX::Premi(const std::string& titolo, const char* tasto, unsigned modificatori) {

@@ -23,6 +23,8 @@ class SchermoX {
 
   /// The size of the visible window with that title; nullopt when there is none.
   std::optional<Misura> Finestra(const std::string& titolo);
+  /// How many of them there are.
+  int Quante(const std::string& titolo);
   /// Gives the window the keyboard and presses a key, told by its X name ("Return"), with modifiers or
   /// without.
   enum Modificatori : unsigned { Nessuno = 0, Maiuscole = 1, Controllo = 4, Alt = 8 };
