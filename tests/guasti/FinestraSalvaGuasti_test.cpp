@@ -184,5 +184,23 @@ TEST_F(FinestraSalvaGuasti, LeavesAWholeTemplateWhereverTheEditorIsKilled) {
   }
 }
 
+TEST_F(FinestraSalvaGuasti, IsNotHeldUpByAShareThatHangsWhenTheFileIsLookedAt) {
+  const GuastiInCorso inCorso(
+      {.Cartelle = {Modello().parent_path()}, .Guasti = {{.Chiamata = 1, .Quale = Guasto::Genere::Attesa}}});
+  for (int i = 0; i < 2; ++i) {
+    QEvent attivata(QEvent::WindowActivate);
+    QApplication::sendEvent(&*finestra_, &attivata);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([] { return !GuastiInCorso::Chiamate().empty(); }));
+  QTest::keyClicks(&finestra_.Sezione(0), "xyz");
+  EXPECT_TRUE(finestra_.Sezione(0).toPlainText().contains("xyz"));
+  EXPECT_EQ(GuastiInCorso::Chiamate(), Chiamate{"stat FATT01.IMG !"})
+      << "a look that hangs is not taken twice";
+  EXPECT_TRUE(finestra_->findChild<qtNotizie*>()->AlLavoro());
+  finestra_.Persona().Rispondera(Risposta::No);
+  EXPECT_TRUE(finestra_->close());
+  finestra_.Distruggi();
+}
+
 }  // namespace
 }  // namespace parvik::prova

@@ -16,6 +16,7 @@ struct Guasto {
     Uccisione,      // the process gets SIGKILL before the call
     Segnale,        // the process gets the signal `Errore` before the call
     Fermata,        // the process stops before the call (SIGSTOP), until somebody lets it go on (SIGCONT)
+    Attesa,         // the call does not return before the plan is over; other threads go on
     ScritturaCorta  // a write writes half of its bytes; other calls are made as they are
   };
   int Chiamata = 0;

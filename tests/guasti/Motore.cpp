@@ -37,8 +37,16 @@ Motore::Motore() {
 }
 
 void Motore::Pianifica(PianoGuasti piano) {
+  const std::lock_guard chiuso(porta_);
   piano_ = std::move(piano);
   chiamate_.clear();
+  ++piani_;
+  cambiato_.notify_all();
+}
+
+std::vector<std::string> Motore::Chiamate() const {
+  const std::lock_guard chiuso(porta_);
+  return chiamate_;
 }
 
 bool Motore::Sorvegliato(std::string_view percorso) const {
@@ -49,31 +57,49 @@ bool Motore::Sorvegliato(std::string_view percorso) const {
 }
 
 bool Motore::Chiuso(std::string_view percorso) const {
+  const std::lock_guard chiuso(porta_);
   return !piano_.Chiusa.empty() && Dentro(percorso, piano_.Chiusa);
 }
 
 bool Motore::SenzaLucchetti() const {
+  const std::lock_guard chiuso(porta_);
   if (piano_.SenzaLucchetti == 0) return false;
   errno = piano_.SenzaLucchetti;
   return true;
 }
 
+void Motore::Chiuso(int numero) {
+  const std::lock_guard chiuso(porta_);
+  aperti_.erase(numero);
+}
+
 void Motore::Aperto(int numero, std::string_view percorso) {
+  const std::lock_guard chiuso(porta_);
   if (numero >= 0 && Sorvegliato(percorso)) aperti_[numero] = percorso;
 }
 
 void Motore::Doppio(int numero, int originale) {
+  const std::lock_guard chiuso(porta_);
   const auto quello = aperti_.find(originale);
   if (numero >= 0 && quello != aperti_.end()) aperti_[numero] = quello->second;
 }
 
 Motore::Esito Motore::PerPercorso(const char* chiamata, std::string_view percorso) {
-  return Sorvegliato(percorso) ? Conta(chiamata, percorso) : Esito::Estraneo;
+  const std::lock_guard chiuso(porta_);
+  return Sorvegliato(percorso) ? Attesa(Conta(chiamata, percorso)) : Esito::Estraneo;
 }
 
 Motore::Esito Motore::PerDescrittore(const char* chiamata, int numero) {
+  const std::lock_guard chiuso(porta_);
   const auto quello = aperti_.find(numero);
-  return quello == aperti_.end() ? Esito::Estraneo : Conta(chiamata, quello->second);
+  return quello == aperti_.end() ? Esito::Estraneo : Attesa(Conta(chiamata, quello->second));
+}
+
+/// The caller holds the door, which others may use meanwhile.
+Motore::Esito Motore::Attesa(Esito esito) {
+  if (esito != Esito::Attendi) return esito;
+  cambiato_.wait(porta_, [this, mio = piani_] { return piani_ != mio; });
+  return Esito::Prosegui;
 }
 
 Motore::Esito Motore::Conta(const char* chiamata, std::string_view percorso) {
@@ -90,6 +116,8 @@ Motore::Esito Motore::Conta(const char* chiamata, std::string_view percorso) {
       return Esito::Fallisci;
     case Guasto::Genere::ScritturaCorta:
       return Esito::Accorcia;
+    case Guasto::Genere::Attesa:
+      return Esito::Attendi;
     case Guasto::Genere::Uccisione:
       ::kill(::getpid(), SIGKILL);
       break;

@@ -76,6 +76,9 @@ class Finestra {
   /// The same, and something is done while there is none.
   void RiavviaDopo(const std::function<void()>& intanto);
 
+  /// The window goes; nothing else may be asked of this then.
+  void Distruggi() { finestra_.reset(); }
+
   /// Opens a template of the installation through the menu.
   void Apri(const char* nome);
 
