@@ -124,6 +124,7 @@ void frmParvik::Aggiorna() {
   setWindowTitle(DaUtf8(editore_.Titolo()).replace("[*]", "[*][*]"));
   if (!editore_.TipoScelto()) setFocus();  // keys have nowhere else to go
   menu_->Aggiorna(editore_.PerMenu());
+  MostraStrumenti(editore_, *menu_, *this, strumenti_);
   barraStato_->Aggiorna();
   area_->Mostra(editore_.PerArea());
   area_->Pannello().MostraFoglio(editore_.FoglioInUso());
@@ -143,6 +144,7 @@ void frmParvik::Aggiorna() {
 /// The sections' own beginning comes before there is a menu.
 void frmParvik::CambiatoTesto() {
   if (menu_ != nullptr) menu_->Aggiorna(editore_.PerMenu());
+  if (strumenti_ != nullptr) strumenti_->Aggiorna();
   SeguiAnteprima();
   if (verifica_) verifica_->Segui();
   if (trova_) trova_->Segui();

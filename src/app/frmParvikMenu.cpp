@@ -1,4 +1,5 @@
 // The main window's commands: what each entry of the menus calls, and undo and redo.
+#include <QApplication>
 #include <QMenuBar>
 
 #include "app/frmAbout.h"
@@ -62,6 +63,7 @@ void frmParvik::Esegui(Comando comando) {
       return EseguiPasso(&Editore::Ripeti);
     case Comando::AnteAuto:
     case Comando::Misura:
+    case Comando::BarraStrumenti:
     case Comando::BarraStato:
     case Comando::Righello:
     case Comando::FlagVeri:
@@ -70,6 +72,8 @@ void frmParvik::Esegui(Comando comando) {
       return editore_.Commuta(PreferenzaDi(comando).value());
     case Comando::Foglio:
       return maschere_.ApriFoglio();
+    case Comando::Guida:
+      return ApriGuida();
     case Comando::Trova:
       return trova_->Apri(false);
     case Comando::TrovaSucc:
@@ -87,6 +91,12 @@ void frmParvik::Esegui(Comando comando) {
     case Comando::VaiAnte:
       return anteAuto_->VaiAnte();
   }
+}
+
+/// The page of what has the focus; in the guide itself the one that shows stays.
+void frmParvik::ApriGuida() {
+  if (guida_ == nullptr) guida_ = new frmGuida(*menu_, this);
+  guida_->Apri(PaginaPer(QApplication::focusWidget()));
 }
 
 void frmParvik::EseguiPasso(PassoEditore passo) {

@@ -3,6 +3,7 @@
 #include <QKeySequence>
 #include <QList>
 #include <QMenu>
+#include <algorithm>
 
 #include "common/qtTesto.h"
 
@@ -75,6 +76,11 @@ QAction* qtMenu::CreaVoce(const VoceMenu& voce) {
   if (voce.Cosa)
     connect(azione, &QAction::triggered, this, [this, comando = *voce.Cosa] { emit Scelto(comando); });
   return azione;
+}
+
+QAction* qtMenu::Azione(Comando comando) const {
+  const auto voce = std::ranges::find(azioni_, comando, [](const auto& una) { return una.first->Cosa; });
+  return voce->second;
 }
 
 void qtMenu::Aggiorna(const StatoMenu& stato) {

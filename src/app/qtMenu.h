@@ -21,6 +21,9 @@ class qtMenu final : public QObject {
   /// hold in the whole window, whatever menu they are in.
   qtMenu(QMenuBar& barra, QWidget& finestra);
 
+  /// The entry of a command.
+  QAction* Azione(Comando comando) const;
+
   /// What can be used, and which check marks are there.
   void Aggiorna(const StatoMenu& stato);
 

@@ -13,6 +13,7 @@ namespace fs = std::filesystem;
 constexpr std::array<const char*, NumPreferenze> Nomi = {  // in their order
     "Mostra/AnteprimaAutomatica",
     "Mostra/CampiAMisura",
+    "Mostra/BarraStrumenti",
     "Mostra/BarraStato",
     "Mostra/Righello",
     "Mostra/FlagVeri",

@@ -25,16 +25,16 @@ constexpr std::array Voci = {
     VoceMenu{"sep5",          Separatore, {},                     "",                        "",             Sempre,     false},
     VoceMenu{"mnuEsci",       Voce,       Comando::Esci,          "&Esci",                   "Ctrl+Q",       Sempre,     false},
     VoceMenu{"mnuVisualizza", Menu,       {},                     "&Visualizzazione",        "",             Sempre,     false},
-    VoceMenu{"mnuAnte",       Voce,       Comando::Anteprima,     "&Anteprima",              "",             ConTipo,    true},
+    VoceMenu{"mnuAnte",       Voce,       Comando::Anteprima,     "&Anteprima",              "F5",           ConTipo,    true},
     VoceMenu{"mnuComandi",    Menu,       {},                     "&Comandi",                "",             Sempre,     false},
-    VoceMenu{"mnuVar",        Voce,       Comando::Variabile,     "&Variabile",              "",             ConTipo,    false},
-    VoceMenu{"mnuFlag",       Voce,       Comando::Flag,          "&Flag",                   "",             ConTipo,    false},
-    VoceMenu{"mnuStile",      Voce,       Comando::Stile,         "&Stile carattere",        "",             ConTipo,    false},
-    VoceMenu{"mnuLingua",     Voce,       Comando::Lingua,        "Variabile &lingua",       "",             ConTipo,    false},
-    VoceMenu{"mnuPagina",     Voce,       Comando::Pagina,        "&Numero pagina",          "",             ConTipo,    false},
-    VoceMenu{"mnuCostante",   Voce,       Comando::Costante,      "Co&stante",               "",             ConTipo,    false},
+    VoceMenu{"mnuVar",        Voce,       Comando::Variabile,     "&Variabile",              "Ctrl+1",       ConTipo,    false},
+    VoceMenu{"mnuFlag",       Voce,       Comando::Flag,          "&Flag",                   "Ctrl+2",       ConTipo,    false},
+    VoceMenu{"mnuStile",      Voce,       Comando::Stile,         "&Stile carattere",        "Ctrl+3",       ConTipo,    false},
+    VoceMenu{"mnuLingua",     Voce,       Comando::Lingua,        "Variabile &lingua",       "Ctrl+4",       ConTipo,    false},
+    VoceMenu{"mnuPagina",     Voce,       Comando::Pagina,        "&Numero pagina",          "Ctrl+5",       ConTipo,    false},
+    VoceMenu{"mnuCostante",   Voce,       Comando::Costante,      "Co&stante",               "Ctrl+6",       ConTipo,    false},
     VoceMenu{"sep4",          Separatore, {},                     "",                        "",             Sempre,     false},
-    VoceMenu{"mnuComando",    Voce,       Comando::ComandoCorpo,  "Co&mando corpo",          "",             TreSezioni, false},
+    VoceMenu{"mnuComando",    Voce,       Comando::ComandoCorpo,  "Co&mando corpo",          "Ctrl+7",       TreSezioni, false},
     VoceMenu{"mnuOpzioni",    Menu,       {},                     "&Opzioni",                "",             Sempre,     false},
     VoceMenu{"mnuRighe",      Voce,       Comando::TotaliRighe,   "Totali &righe",           "",             ConTipo,    true},
     VoceMenu{"mnuSettaFlag",  Voce,       Comando::SettaFlag,     "&Setta Flag per stampe",  "",             ConTipo,    true},
@@ -55,6 +55,7 @@ constexpr std::array Voci = {
     VoceMenu{"mnuVaiAnte",    Voce,       Comando::VaiAnte,       "Mostra nell'ante&prima",  "F6",           ConTipo,     false},
     VoceMenu{"sep8",          Separatore, {},                     "",                        "",             Sempre,      false},
     VoceMenu{"mnuMostra",     Sottomenu,  {},                     "M&ostra",                 "",             Sempre,      false},
+    VoceMenu{"mnuBarraStrumenti", Voce,   Comando::BarraStrumenti, "Barra degli &strumenti", "",             Sempre,      true},
     VoceMenu{"mnuBarraStato", Voce,       Comando::BarraStato,    "Barra di s&tato",         "",             Sempre,      true},
     VoceMenu{"mnuRighello",   Voce,       Comando::Righello,      "&Righello",               "",             Sempre,      true},
     VoceMenu{"mnuPannelloCampi", Voce,    Comando::PannelloCampi, "Pannello &campi",         "Ctrl+Shift+V", Sempre,      true},
@@ -64,6 +65,7 @@ constexpr std::array Voci = {
     VoceMenu{"",              Fine,       {},                     "",                        "",             Sempre,      false},
     VoceMenu{"sep9",          Separatore, {},                     "",                        "",             Sempre,      false},
     VoceMenu{"mnuRicorda",    Voce,       Comando::Ricorda,       "Ricorda tra una sessione e l'a&ltra", "", Sempre,      true},
+    VoceMenu{"mnuGuida",      Voce,       Comando::Guida,         "&Guida",                  "F1",           Sempre,      false},
 };
 // clang-format on
 
@@ -123,6 +125,8 @@ std::optional<Preferenza> PreferenzaDi(Comando comando) {
       return Preferenza::AnteAuto;
     case Comando::Misura:
       return Preferenza::Misura;
+    case Comando::BarraStrumenti:
+      return Preferenza::BarraStrumenti;
     case Comando::BarraStato:
       return Preferenza::BarraStato;
     case Comando::Righello:

@@ -60,6 +60,7 @@ enum class Comando {
   AnteAuto,
   Misura,
   VaiAnte,
+  BarraStrumenti,
   BarraStato,
   Righello,
   PannelloCampi,
@@ -67,6 +68,7 @@ enum class Comando {
   Foglio,
   FlagVeri,
   Ricorda,
+  Guida,
 };
 
 /// The switch that a command turns; nullopt of those that turn none.

@@ -7,16 +7,17 @@
 namespace parvik {
 
 enum class Preferenza {
-  AnteAuto,       // the preview follows the text
-  Misura,         // codes are drawn as wide as what they print
-  BarraStato,     // the status bar shows
-  Righello,       // the rulers show
-  FlagVeri,       // codes are measured as if all print flags were true
-  Problemi,       // what is wrong with the template shows
-  PannelloCampi,  // what can be inserted shows
-  Ricorda,        // switches and places are kept from one session to the next
+  AnteAuto,        // the preview follows the text
+  Misura,          // codes are drawn as wide as what they print
+  BarraStrumenti,  // the tool bar shows
+  BarraStato,      // the status bar shows
+  Righello,        // the rulers show
+  FlagVeri,        // codes are measured as if all print flags were true
+  Problemi,        // what is wrong with the template shows
+  PannelloCampi,   // what can be inserted shows
+  Ricorda,         // switches and places are kept from one session to the next
 };
-inline constexpr std::size_t NumPreferenze = 8;
+inline constexpr std::size_t NumPreferenze = 9;
 
 class Preferenze {
  public:
@@ -26,7 +27,7 @@ class Preferenze {
   bool operator==(const Preferenze&) const = default;
 
  private:
-  std::array<bool, NumPreferenze> accese_ = {false, false, true,  false,
+  std::array<bool, NumPreferenze> accese_ = {false, false, true,  true, false,
                                              false, false, false, false};  // in their order
 };
 

@@ -46,16 +46,16 @@ TEST(VociMenu, AreTheWholeTreeInTheOrderOfTheScreen) {
       "  sep5",
       "  mnuEsci &Esci Ctrl+Q",
       "mnuVisualizza &Visualizzazione",
-      "  mnuAnte &Anteprima",
+      "  mnuAnte &Anteprima F5",
       "mnuComandi &Comandi",
-      "  mnuVar &Variabile",
-      "  mnuFlag &Flag",
-      "  mnuStile &Stile carattere",
-      "  mnuLingua Variabile &lingua",
-      "  mnuPagina &Numero pagina",
-      "  mnuCostante Co&stante",
+      "  mnuVar &Variabile Ctrl+1",
+      "  mnuFlag &Flag Ctrl+2",
+      "  mnuStile &Stile carattere Ctrl+3",
+      "  mnuLingua Variabile &lingua Ctrl+4",
+      "  mnuPagina &Numero pagina Ctrl+5",
+      "  mnuCostante Co&stante Ctrl+6",
       "  sep4",
-      "  mnuComando Co&mando corpo",
+      "  mnuComando Co&mando corpo Ctrl+7",
       "mnuOpzioni &Opzioni",
       "  mnuRighe Totali &righe",
       "  mnuSettaFlag &Setta Flag per stampe",
@@ -76,6 +76,7 @@ TEST(VociMenu, AreTheWholeTreeInTheOrderOfTheScreen) {
       "  mnuVaiAnte Mostra nell'ante&prima F6",
       "  sep8",
       "  mnuMostra M&ostra",
+      "    mnuBarraStrumenti Barra degli &strumenti",
       "    mnuBarraStato Barra di s&tato",
       "    mnuRighello &Righello",
       "    mnuPannelloCampi Pannello &campi Ctrl+Shift+V",
@@ -84,6 +85,7 @@ TEST(VociMenu, AreTheWholeTreeInTheOrderOfTheScreen) {
       "    mnuFlagVeri Flag tutti &veri",
       "  sep9",
       "  mnuRicorda Ricorda tra una sessione e l'a&ltra",
+      "  mnuGuida &Guida F1",
   };
   EXPECT_EQ(atteso, Elenco());
 }
@@ -95,9 +97,9 @@ TEST(VociMenu, AreSeparatorsExactlyWhereTheNameSaysSo) {
 }
 
 TEST(VociMenu, ShowACheckMarkForWhatIsShownAndHidden) {
-  const std::set<std::string> conSpunta = {"mnuAnte",     "mnuRighe",         "mnuSettaFlag", "mnuAnteAuto",
-                                           "mnuMisura",   "mnuBarraStato",    "mnuRighello",  "mnuFlagVeri",
-                                           "mnuProblemi", "mnuPannelloCampi", "mnuRicorda"};
+  const std::set<std::string> conSpunta = {
+      "mnuAnte",       "mnuRighe",    "mnuSettaFlag", "mnuAnteAuto", "mnuMisura",        "mnuBarraStrumenti",
+      "mnuBarraStato", "mnuRighello", "mnuFlagVeri",  "mnuProblemi", "mnuPannelloCampi", "mnuRicorda"};
   for (const VoceMenu& voce : VociMenu())
     EXPECT_EQ(conSpunta.contains(voce.Nome), voce.ConSpunta) << voce.Nome;
 }
@@ -161,6 +163,7 @@ Nomi Spuntate(const StatoMenu& stato) {
 TEST(Spuntato, IsWhatIsShown) {
   StatoMenu spento{.TipoScelto = true, .TreSezioni = true};
   spento.Scelte.Imposta(Preferenza::BarraStato, false);
+  spento.Scelte.Imposta(Preferenza::BarraStrumenti, false);
   const auto con = [&spento](bool StatoMenu::*acceso) {
     StatoMenu stato = spento;
     stato.*acceso = true;
@@ -173,12 +176,13 @@ TEST(Spuntato, IsWhatIsShown) {
 }
 
 TEST(Spuntato, IsASwitchThatIsOn) {
-  EXPECT_EQ(Nomi{"mnuBarraStato"}, Spuntate({}));
+  EXPECT_EQ((Nomi{"mnuBarraStato", "mnuBarraStrumenti"}), Spuntate({}));
   for (const VoceMenu& voce : VociMenu()) {
     const auto quale = voce.Cosa ? PreferenzaDi(*voce.Cosa) : std::nullopt;
     if (!quale) continue;
     StatoMenu stato;
     stato.Scelte.Imposta(Preferenza::BarraStato, false);
+    stato.Scelte.Imposta(Preferenza::BarraStrumenti, false);
     stato.Scelte.Imposta(*quale, true);
     EXPECT_EQ(Nomi{voce.Nome}, Spuntate(stato));
   }

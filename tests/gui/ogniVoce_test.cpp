@@ -188,6 +188,11 @@ void VaiNellAnteprima(Finestra& finestra, const char* nome) {
   EXPECT_GT(finestra.Anteprima().verticalScrollBar()->value(), 100);
 }
 
+void MostraLaGuida(Finestra& finestra, const char* nome) {
+  Scegli(finestra, nome);
+  EXPECT_TRUE(Trova<QDialog>(*finestra, "frmGuida")->isVisible());
+}
+
 void ApreLaBarra(Finestra& finestra, const char* nome) {
   Scegli(finestra, nome);
   EXPECT_TRUE(Trova<QLineEdit>(*finestra, "txtCerca")->hasFocus());
@@ -267,6 +272,7 @@ const std::vector<Voce>& Voci() {
       {"mnuAnteAuto", SegueDaSola},
       {"mnuMisura", MostraAMisura},
       {"mnuVaiAnte", VaiNellAnteprima},
+      {"mnuBarraStrumenti", NascondeEMostra("barStrumenti")},
       {"mnuBarraStato", NascondeEMostra("barStato")},
       {"mnuRighello", MostraRighello},
       {"mnuTrova", ApreLaBarra},
@@ -280,6 +286,7 @@ const std::vector<Voce>& Voci() {
       {"mnuFoglio", Apre("frmFoglio: Foglio")},
       {"mnuFlagVeri", MisuraConFlagVeri},
       {"mnuRicorda", Ricorda},
+      {"mnuGuida", MostraLaGuida},
   };
   return voci;
 }
