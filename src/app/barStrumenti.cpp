@@ -11,7 +11,7 @@ namespace parvik {
 namespace {
 
 /// In their order; nothing stands for a separator.
-constexpr std::array<std::optional<Comando>, 12> Pulsanti = {
+constexpr std::array<std::optional<Comando>, 12> Bottoni = {
     Comando::Apri, Comando::Salva, Comando::Stampa, std::nullopt,       Comando::Annulla, Comando::Ripeti,
     std::nullopt,  Comando::Trova, std::nullopt,    Comando::Anteprima, Comando::Misura,  Comando::Verifica};
 
@@ -30,7 +30,7 @@ barStrumenti::barStrumenti(const qtMenu& menu, QWidget* padre) : QToolBar("Barra
   setAccessibleName("Barra degli strumenti");
   setMovable(false);
   setFloatable(false);
-  for (const std::optional<Comando>& comando : Pulsanti) {
+  for (const std::optional<Comando>& comando : Bottoni) {
     if (!comando) {
       addSeparator();
       continue;

@@ -135,7 +135,7 @@ TEST(Abilitata, TakesAwayTheBodyCommandTooWithATypeOfOneSection) {
 }
 
 TEST(Abilitata, OffersUndoAndRedoWhileThereIsAStep) {
-  EXPECT_EQ((Nomi{"mnuScelta", "mnuRipeti"}),
+  EXPECT_EQ((Nomi{"mnuScelta", "mnuRipeti", "mnuTrovaSucc", "mnuTrovaPrec"}),
             Disabilitate({.TipoScelto = true, .TreSezioni = true, .PuoAnnullare = true}));
   EXPECT_EQ((Nomi{"mnuScelta", "mnuAnnulla", "mnuTrovaSucc", "mnuTrovaPrec"}),
             Disabilitate({.TipoScelto = true, .TreSezioni = true, .PuoRipetere = true}));

@@ -205,7 +205,8 @@ TEST_F(Annulla, TellsWhatItWouldUndo) {
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(didascalia("mnuAnnulla"), "&Annulla incolla");
   NelProssimoDialogo([](QDialog& dialogo) { Trova<QPushButton>(dialogo, "cmdOk")->click(); });
-  finestra_.Azione("mnuStile").trigger();
+  finestra_.Azione("mnuVar").trigger();
+  finestra_.Attiva();
   EXPECT_EQ(didascalia("mnuAnnulla"), "&Annulla inserimento codice");
   EXPECT_EQ(didascalia("mnuRipeti"), "&Ripeti");
   finestra_.Sezione(0).setFocus();

@@ -249,7 +249,7 @@ TEST_F(TrovaInFinestra, MarksAllAndTheCurrentOneApart) {
 TEST_F(TrovaInFinestra, GoesAwayWithTheType) {
   Premi(Qt::Key_F, Qt::ControlModifier);
   Scrivi("txtCerca", "cliente");
-  finestra_.Persona().Risponde(Risposta::No);
+  finestra_.Persona().Rispondera(Risposta::No);
   finestra_.Azione("mnuNuovo").trigger();
   EXPECT_FALSE(Barra().isVisible());
   EXPECT_FALSE(finestra_.Azione("mnuTrovaSucc").isEnabled());
