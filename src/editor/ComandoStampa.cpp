@@ -2,25 +2,17 @@
 
 #include <optional>
 #include <string>
-#include <system_error>
 
 #include "common/Avverti.h"
 #include "common/Percorsi.h"
+#include "editor/UsciteStampa.h"
 
 namespace parvik {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* NomeLavoroSenzaFile = "Ordavia";
 constexpr const char* EstensioneTesti = ".txt";
-
-/// Where text files are offered: the host's folder for them, or the host's own when it has none.
-fs::path CartellaTesti(const Installazione& installazione) {
-  fs::path cartella = installazione.DirStm();
-  std::error_code errore;
-  return fs::is_directory(cartella, errore) ? cartella : installazione.DirVelkor;
-}
 
 }  // namespace
 
@@ -47,21 +39,17 @@ void ComandoStampa::SuCarta() {
   }
   if (!*stampa) return;
   if (!anteprima_.AnteprimaAccesa() && !anteprima_.AccendiAnteprima()) return;
-  const fs::path& file = documento_.Stato().NomeFile;
-  (*stampa)(file.empty() ? NomeLavoroSenzaFile : file.filename().string());
+  (*stampa)(NomeLavoro(documento_.Stato()));
 }
 
 RichiestaFile ComandoStampa::RichiestaTesto() const {
   RichiestaFile richiesta;
   richiesta.Uso = RichiestaFile::Scopo::Salva;
-  richiesta.Cartella = CartellaTesti(installazione_);
+  richiesta.Cartella = CartellaUscite(installazione_);
   richiesta.EtichettaFiltro = "File TXT (*.txt)";
   richiesta.Modello = "*.txt";
-  if (!scelto_.empty()) {
-    richiesta.NomeProposto = scelto_.string();
-  } else if (!documento_.Stato().NomeFile.empty()) {
-    richiesta.NomeProposto = documento_.Stato().NomeFile.stem().string() + EstensioneTesti;
-  }
+  richiesta.NomeProposto =
+      scelto_.empty() ? NomeUscita(documento_.Stato(), EstensioneTesti) : scelto_.string();
   return richiesta;
 }
 
