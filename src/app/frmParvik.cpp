@@ -11,6 +11,7 @@
 #include "common/qtTesto.h"
 #include "output/frmDestStampa.h"
 #include "output/qtFoglio.h"
+#include "output/qtPdf.h"
 #include "output/qtStampa.h"
 #include "start/CartelleProgramma.h"
 
@@ -212,8 +213,12 @@ Esito<Vista::Tipografo, std::string> frmParvik::ScegliStampante() {
     stampante->Intitola(DaUtf8(nomeLavoro));
     const SelezioneAnteprima scelta = area_->Pannello().Scelta();  // the pane may go on to another text
     StampaConAttesa(*stampante, {.Testo = scelta.Testo(), .Parte = DaStampare(scelta), .PassoRiga = passo},
-                    this);
+                    {.Padre = this, .Nome = "frmStampa", .Testo = "Stampa in corso..."});
   });
+}
+
+bool frmParvik::ComponiPdf(const LavoroPdf& lavoro, const std::function<bool(std::string_view)>& scrivi) {
+  return isVisible() && PdfConAttesa(lavoro, scrivi, this);  // else the program is ending
 }
 
 Cursore frmParvik::CursoreIn(Sezione sezione) const {

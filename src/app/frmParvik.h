@@ -64,6 +64,7 @@ class frmParvik final : public QMainWindow, private Vista {
   Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) override;
   std::optional<Destinazione> ScegliDestinazione() override;
   Esito<Tipografo, std::string> ScegliStampante() override;
+  bool ComponiPdf(const LavoroPdf& lavoro, const std::function<bool(std::string_view)>& scrivi) override;
   Cursore CursoreIn(Sezione sezione) const override;
   void ImpostaCursore(Sezione sezione, Cursore cursore) override;
   void Raggiungi(const CursoreSezione& cursore) override;

@@ -70,6 +70,8 @@ void frmParvik::Esegui(Comando comando) {
     case Comando::Problemi:
     case Comando::Ricorda:
       return editore_.Commuta(PreferenzaDi(comando).value());
+    case Comando::EsportaPdf:
+      return editore_.EsportaPdf();
     case Comando::Foglio:
       return maschere_.ApriFoglio();
     case Comando::Guida:

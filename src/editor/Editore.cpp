@@ -28,6 +28,7 @@ Editore::Editore(Installazione installazione, Catalogo catalogo, Vista& vista, I
       resa_(documento_, flag_, mostrata_, vista, interlocutore),
       automatica_(documento_, flag_, mostrata_, vista),
       stampa_(documento_, installazione_, resa_, *this, vista, interlocutore),
+      esporta_(documento_, installazione_, resa_, vista, interlocutore),
       conto_(documento_, interlocutore),
       inserimento_(documento_, vista),
       titolo_(TitoloSenzaTipo),
@@ -104,6 +105,11 @@ void Editore::CommutaAnteprima() {
 void Editore::Stampa() {
   PARVIK_ESIGE(TipoScelto(), ConTipo);
   if (comandi_.VerificaStampa(Tipo())) stampa_.Esegui(Tipo());
+}
+
+void Editore::EsportaPdf() {
+  PARVIK_ESIGE(TipoScelto(), ConTipo);
+  if (comandi_.VerificaStampa(Tipo())) esporta_.Esegui(Tipo(), FoglioInUso());
 }
 
 void Editore::CommutaSettaFlag() {

@@ -15,6 +15,7 @@
 #include "common/Interlocutore.h"
 #include "editor/AnteprimaMostrata.h"
 #include "editor/ComandiRicerca.h"
+#include "editor/ComandoEsporta.h"
 #include "editor/ComandoStampa.h"
 #include "editor/ContoRighe.h"
 #include "editor/CopiaRecupero.h"
@@ -123,6 +124,8 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   void CommutaAnteprima();
   /// The print command: asks for the destination, and renders or prints to it.
   void Stampa();
+  /// What a printer would get, into a PDF document.
+  void EsportaPdf();
   /// The menu entry of the print-flags window, and that window's own close box.
   void CommutaSettaFlag();
   /// The menu entry of the line totals: shows the numbers of this moment, or hides them.
@@ -273,6 +276,7 @@ class Editore final : private Contorno, private InterruttoreAnteprima, private A
   Resa resa_;
   ResaAutomatica automatica_;
   ComandoStampa stampa_;
+  ComandoEsporta esporta_;
   ContoRighe conto_;
   Inserimento inserimento_;
   std::unique_ptr<TipoInUso> tipo_;  // nullptr while none is chosen

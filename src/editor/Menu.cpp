@@ -64,6 +64,8 @@ constexpr std::array Voci = {
     VoceMenu{"mnuFlagVeri",   Voce,       Comando::FlagVeri,      "Flag tutti &veri",        "",             Sempre,      true},
     VoceMenu{"",              Fine,       {},                     "",                        "",             Sempre,      false},
     VoceMenu{"sep9",          Separatore, {},                     "",                        "",             Sempre,      false},
+    VoceMenu{"mnuEsportaPdf", Voce,       Comando::EsportaPdf,    "Esporta PD&F...",         "",             ConTipo,     false},
+    VoceMenu{"sep11",         Separatore, {},                     "",                        "",             Sempre,      false},
     VoceMenu{"mnuRicorda",    Voce,       Comando::Ricorda,       "Ricorda tra una sessione e l'a&ltra", "", Sempre,      true},
     VoceMenu{"mnuGuida",      Voce,       Comando::Guida,         "&Guida",                  "F1",           Sempre,      false},
 };

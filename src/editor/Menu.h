@@ -67,6 +67,7 @@ enum class Comando {
   Problemi,
   Foglio,
   FlagVeri,
+  EsportaPdf,
   Ricorda,
   Guida,
 };

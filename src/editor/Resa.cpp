@@ -62,6 +62,24 @@ bool Resa::Riempi(const TipoDoc& tipo) {
   return true;
 }
 
+std::optional<TestoAnteprima> Resa::PerCarta(const TipoDoc& tipo) {
+  const Istantanea adesso(documento_, flag_, tipo);
+  std::optional<TestoAnteprima> testo;
+  Interruzione perche = Interruzione::Chiesta;
+  const Esito<void> atteso = vista_.Attendi([&](const std::stop_token& smetti) {
+    const LavoroStampa lavoro = adesso.Intera();
+    Esito<Anteprima, Interruzione> anteprima = GeneraAnteprima(lavoro.Dati(), smetti);
+    if (anteprima) {
+      testo.emplace(std::move(*anteprima));
+    } else {
+      perche = anteprima.Errore();
+    }
+  });
+  if (!atteso || perche == Interruzione::MemoriaEsaurita)
+    interlocutore_.Chiedi({.Testo = TestoErrore(NumeroErrore::MemoriaEsaurita)});
+  return testo;
+}
+
 std::optional<Scritto> Resa::ScriviTesto(const TipoDoc& tipo, const std::filesystem::path& file) {
   const Istantanea adesso(documento_, flag_, tipo);
   std::optional<Scritto> scritto;

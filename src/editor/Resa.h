@@ -1,4 +1,4 @@
-// Renders the document as it stands: into the preview pane, or into a text file.
+// Renders the document as it stands: into the preview pane, for paper, or into a text file.
 #pragma once
 
 #include <filesystem>
@@ -12,6 +12,7 @@
 #include "editor/Vista.h"
 #include "output/FlagPerStampe.h"
 #include "output/MappaAnteprima.h"
+#include "output/TestoAnteprima.h"
 #include "template/Documento.h"
 
 namespace parvik {
@@ -30,6 +31,10 @@ class Resa {
   /// Fills the preview pane: at once with the beginning, and then with all. False when the run was given up,
   /// or ran out of memory, which is told.
   bool RiempiAnteprima(const TipoDoc& tipo);
+
+  /// The preview of this moment, the end marker included; the pane keeps what it shows. Nothing when the run
+  /// was given up, or ran out of memory, which is told.
+  std::optional<TestoAnteprima> PerCarta(const TipoDoc& tipo);
 
   /// What there is to say when the file stands there whole; on a failure, and when it was given up, nothing,
   /// and the old file is as it was.

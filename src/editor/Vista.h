@@ -6,11 +6,13 @@
 #include <optional>
 #include <stop_token>
 #include <string>
+#include <string_view>
 
 #include "common/Esito.h"
 #include "common/Sezione.h"
 #include "output/Destinazione.h"
 #include "output/GeneraStampa.h"
+#include "output/LavoroPdf.h"
 #include "output/Ricollocazione.h"
 #include "output/SelezioneAnteprima.h"
 #include "output/TestoAnteprima.h"
@@ -47,7 +49,7 @@ class VistaAnteprima {
   virtual Esito<void> Attendi(const std::function<void(std::stop_token)>& lavoro) = 0;
 };
 
-/// What the print command asks for.
+/// What the commands that print and export ask for.
 class VistaStampa {
  public:
   VistaStampa() = default;
@@ -62,6 +64,9 @@ class VistaStampa {
   /// the message that the user sees (UTF-8) when there is nothing to print with.
   using Tipografo = std::function<void(const std::string& nomeLavoro)>;
   virtual Esito<Tipografo, std::string> ScegliStampante() = 0;
+  /// Paints the pages of a PDF document and hands its bytes to `scrivi`, piece by piece, until that says
+  /// false. When it takes long the window says so, and lets it be given up. Whether `scrivi` got all of it.
+  virtual bool ComponiPdf(const LavoroPdf& lavoro, const std::function<bool(std::string_view)>& scrivi) = 0;
 };
 
 /// The carets of the sections.

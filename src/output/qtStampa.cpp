@@ -32,18 +32,18 @@ Esito<ModuloStampa*, std::string> CaricaModuloStampa(const std::filesystem::path
   return modulo;
 }
 
-void StampaConAttesa(Stampante& stampante, const LavoroCarta& lavoro, QWidget* padre) {
-  QProgressDialog scatola("Stampa in corso...", "Annulla", 0, Millesimi, padre);
-  scatola.setObjectName("frmStampa");
+bool StampaConAttesa(Stampante& stampante, const LavoroCarta& lavoro, const AttesaCarta& attesa) {
+  QProgressDialog scatola(attesa.Testo, "Annulla", 0, Millesimi, attesa.Padre);
+  scatola.setObjectName(attesa.Nome);
   scatola.setWindowTitle("Ordavia");
   scatola.setWindowModality(Qt::ApplicationModal);
   scatola.setMinimumDuration(500);
   QObject::connect(&scatola, &QDialog::rejected, &scatola, &QProgressDialog::cancel);
   const double tutto = static_cast<double>(lavoro.Parte.Lunghezza) + 1;
-  StampaSuCarta(stampante, lavoro, [&](std::size_t fino) {
+  return StampaSuCarta(stampante, lavoro, [&](std::size_t fino) {
     const auto fatto = static_cast<double>(fino - lavoro.Parte.Inizio);
     scatola.setValue(static_cast<int>(Millesimi * (fatto / tutto)));
-    return !scatola.wasCanceled();
+    return !scatola.wasCanceled() && attesa.Serve();
   });
 }
 

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 #include <filesystem>
+#include <functional>
 #include <string>
 
 #include "common/Esito.h"
@@ -16,8 +17,17 @@ namespace parvik {
 /// module's path. UTF-8.
 Esito<ModuloStampa*, std::string> CaricaModuloStampa(const std::filesystem::path& cartella);
 
-/// Prints. When it takes longer than half a second a box in front of `padre` says so and offers "Annulla",
-/// which gives the job up. Failures are silent.
-void StampaConAttesa(Stampante& stampante, const LavoroCarta& lavoro, QWidget* padre);
+/// How work on paper is waited for.
+struct AttesaCarta {
+  QWidget* Padre = nullptr;
+  const char* Nome = "";   // of the box
+  const char* Testo = "";  // what it says
+  /// Asked after each page: false gives the job up.
+  std::function<bool()> Serve = [] { return true; };
+};
+
+/// Prints. When it takes longer than half a second a box in front of the window says so and offers "Annulla",
+/// which gives the job up. Returns whether the job was handed over whole; what became of it then is unknown.
+bool StampaConAttesa(Stampante& stampante, const LavoroCarta& lavoro, const AttesaCarta& attesa);
 
 }  // namespace parvik

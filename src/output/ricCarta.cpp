@@ -26,6 +26,7 @@ class Impaginatore {
     pittore_.scale(scala * UnitaPerTwip(), scala * UnitaPerTwip());
     pagina_ /= scala;
     passo_ /= scala;
+    if (lavoro.RighePagina > 0) pagina_.setHeight(static_cast<double>(lavoro.RighePagina) * passo_);
   }
 
   /// Prints the columns [da, a) of a line. Whether a page was finished before it.
@@ -92,7 +93,8 @@ class Impaginatore {
 
 bool StampaSuCarta(Stampante& stampante, const LavoroCarta& lavoro,
                    const std::function<bool(std::size_t)>& avanza) {
-  const auto& [testo, parte, passo] = lavoro;
+  const TestoAnteprima& testo = lavoro.Testo;
+  const Selezione& parte = lavoro.Parte;
   QPainter pittore;
   if (!pittore.begin(&stampante.Foglio())) return false;
   pittore.setPen(Qt::black);

@@ -13,8 +13,9 @@ namespace parvik {
 /// What is printed.
 struct LavoroCarta {
   const TestoAnteprima& Testo;
-  Selezione Parte;       // in bytes
-  double PassoRiga = 0;  // from one line to the next, in twips; 0: each line as high as its characters
+  Selezione Parte;              // in bytes
+  double PassoRiga = 0;         // from one line to the next, in twips; 0: each line as high as its characters
+  std::size_t RighePagina = 0;  // at that distance; 0: as many as the page holds, whose size is a rounded one
 };
 
 /// Prints a part of a preview as one job, in its looks and in black. Pages break between

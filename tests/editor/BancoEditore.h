@@ -46,6 +46,17 @@ class VistaFinta final : public Vista {
     if (!ConStampante) return Tipografo();
     return Tipografo([this](const std::string& nomeLavoro) { LavoriStampati.push_back(nomeLavoro); });
   }
+  bool ComponiPdf(const LavoroPdf& lavoro, const std::function<bool(std::string_view)>& scrivi) override {
+    PdfComposti.push_back(
+        {.Testo = std::string(lavoro.Testo.Testo()),
+         .Parte = std::string(lavoro.Testo.Testo().substr(lavoro.Parte.Inizio, lavoro.Parte.Lunghezza)),
+         .Titolo = lavoro.Titolo,
+         .SuFoglio = lavoro.SuFoglio});
+    for (const std::string& pezzo : PezziPdf) {
+      if (!scrivi(pezzo)) return false;
+    }
+    return !PdfLasciato;
+  }
   Cursore CursoreIn(Sezione sezione) const override { return Cursori[Indice(sezione)]; }
   void ImpostaCursore(Sezione sezione, Cursore cursore) override { Cursori[Indice(sezione)] = cursore; }
   void Raggiungi(const CursoreSezione& cursore) override { Raggiunti.push_back(cursore); }
@@ -84,6 +95,16 @@ class VistaFinta final : public Vista {
   int RichiesteDestinazione = 0;
   int RichiesteStampante = 0;
   std::vector<std::string> LavoriStampati;
+
+  struct PdfComposto {
+    std::string Testo;
+    std::string Parte;  // of it: what becomes pages
+    std::string Titolo;
+    Foglio SuFoglio;
+  };
+  std::vector<PdfComposto> PdfComposti;
+  std::vector<std::string> PezziPdf = {"%PDF ", "tutto"};
+  bool PdfLasciato = false;  // given up by the person at the screen, once all is painted
 };
 
 /// Slots of the example catalogue.

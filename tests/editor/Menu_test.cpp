@@ -84,6 +84,8 @@ TEST(VociMenu, AreTheWholeTreeInTheOrderOfTheScreen) {
       "    mnuFoglio &Foglio...",
       "    mnuFlagVeri Flag tutti &veri",
       "  sep9",
+      "  mnuEsportaPdf Esporta PD&F...",
+      "  sep11",
       "  mnuRicorda Ricorda tra una sessione e l'a&ltra",
       "  mnuGuida &Guida F1",
   };
@@ -116,12 +118,13 @@ Nomi Disabilitate(const StatoMenu& stato) {
 }
 
 TEST(Abilitata, LeavesOnlyTheChoiceOfATypeTheAboutBoxAndTheExitWithoutAType) {
-  EXPECT_EQ((Nomi{"mnuAnte",      "mnuApri",      "mnuComando",     "mnuCostante",  "mnuFlag",    "mnuLingua",
-                  "mnuNuovo",     "mnuPagina",    "mnuSalva",       "mnuSalvaNome", "mnuStampa",  "mnuStile",
-                  "mnuVar",       "mnuRighe",     "mnuSettaFlag",   "mnuTool",      "mnuAnnulla", "mnuRipeti",
-                  "mnuAnteAuto",  "mnuMisura",    "mnuFoglio",      "mnuVerifica",  "mnuVaiAnte", "mnuTrova",
-                  "mnuTrovaSucc", "mnuTrovaPrec", "mnuSostituisci", "mnuInserisci"}),
-            Disabilitate({.TipoScelto = false, .TreSezioni = false}));
+  EXPECT_EQ(
+      (Nomi{"mnuAnte",      "mnuApri",      "mnuComando",     "mnuCostante",  "mnuFlag",      "mnuLingua",
+            "mnuNuovo",     "mnuPagina",    "mnuSalva",       "mnuSalvaNome", "mnuStampa",    "mnuStile",
+            "mnuVar",       "mnuRighe",     "mnuSettaFlag",   "mnuTool",      "mnuAnnulla",   "mnuRipeti",
+            "mnuAnteAuto",  "mnuMisura",    "mnuFoglio",      "mnuVerifica",  "mnuVaiAnte",   "mnuTrova",
+            "mnuTrovaSucc", "mnuTrovaPrec", "mnuSostituisci", "mnuInserisci", "mnuEsportaPdf"}),
+      Disabilitate({.TipoScelto = false, .TreSezioni = false}));
 }
 
 TEST(Abilitata, TakesAwayTheChoiceOfATypeWithATypeOfThreeSections) {

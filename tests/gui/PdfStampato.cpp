@@ -80,6 +80,18 @@ QStringList PdfStampato::Caratteri() const {
   return nomi;
 }
 
+bool PdfStampato::CaratteriIncorporati() const {
+  static const QRegularExpression incorporato(R"re(\syes +(yes|no) +(yes|no) +\d+ +\d+$)re");
+  const QStringList righe = Esegui("pdffonts", {pdf_}).split('\n', Qt::SkipEmptyParts).mid(2);
+  return !righe.isEmpty() && righe.filter(incorporato).size() == righe.size();
+}
+
+QString PdfStampato::Detto(const QString& nome) const {
+  const QStringList righe =
+      Esegui("pdfinfo", {pdf_}).split('\n').filter(QRegularExpression('^' + nome + ':'));
+  return righe.value(0).section(':', 1).trimmed();
+}
+
 QImage PdfStampato::Foto(const Parola& parola) const {
   const QString immagine = pdf_ + ".foto";
   Esegui("pdftoppm", {"-r", "144", "-gray", "-f", "1", "-l", "1", "-singlefile", pdf_, immagine});

@@ -30,6 +30,10 @@ class PdfStampato {
   QSizeF Dimensione() const;
   /// The names of the fonts in the document.
   QStringList Caratteri() const;
+  /// Whether the document brings all of them.
+  bool CaratteriIncorporati() const;
+  /// What the document says of itself, by the name that it has in an ordinary list ("Title").
+  QString Detto(const QString& nome) const;
 
   // What a word of the first page looks like.
 

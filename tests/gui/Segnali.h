@@ -23,13 +23,23 @@ inline void PrintTo(const Segnale& segnale, std::ostream* uscita) {
 inline constexpr std::array<Segnale, 3> Segnali = {
     {{"SIGTERM", SIGTERM}, {"SIGHUP", SIGHUP}, {"SIGINT", SIGINT}}};
 
-/// Gigabytes of work: a body of one long line, 32,767 times.
-inline void ApriCorpoEnorme(Scena& scena) {
-  TestiSezioni testi = {"\r\n", std::string(60'000, 'x') + "\r\n", "\r\n"};
+/// A body of one line of that length, 32,767 times.
+inline void ApriCorpoRipetuto(Scena& scena, std::size_t lunghezza) {
+  TestiSezioni testi = {"\r\n", std::string(lunghezza, 'x') + "\r\n", "\r\n"};
   ImpostazioniCorpo corpo = ImpostazioniPredefinite();
   corpo.RigheCorpo = 32767;
   Crea(scena.Editor().Modello("ENORME.IMG"), *ScriviImmagine(testi, corpo, Formato::TreSezioni));
   scena.Apri("ENORME.IMG");
+}
+
+/// Gigabytes of work.
+inline void ApriCorpoEnorme(Scena& scena) {
+  ApriCorpoRipetuto(scena, 60'000);
+}
+
+/// Rendered at once, but hundreds of pages.
+inline void ApriTantePagine(Scena& scena) {
+  ApriCorpoRipetuto(scena, 90);
 }
 
 }  // namespace parvik::prova

@@ -13,6 +13,7 @@ namespace parvik {
 namespace {
 
 using prova::ApriCorpoEnorme;
+using prova::ApriTantePagine;
 using prova::Domanda;
 using prova::InPrimoPiano;
 using prova::NessunDialogo;
@@ -73,6 +74,13 @@ const std::vector<Stato>& StatiDiOgniModello() {
          scena.Quando("QFileDialog", [&scena] { ScriviNome(scena.Editor().Cartella() / "lungo.txt"); });
        },
        ApriCorpoEnorme},
+      {"export", "Esporta PDF", [](Scena& scena) { scena.Comando("mnuEsportaPdf"); }},
+      {"long_export", "frmEsportaPdf",
+       [](Scena& scena) {
+         scena.Comando("mnuEsportaPdf");
+         scena.Quando("Esporta PDF", [&scena] { ScriviNome(scena.Editor().Cartella() / "lungo.pdf"); });
+       },
+       ApriTantePagine},
       {"modeless_windows", NessunDialogo,
        [](Scena& scena) {
          scena.Comando("mnuRighe");

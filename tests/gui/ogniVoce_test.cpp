@@ -90,6 +90,15 @@ void Stampa(Finestra& finestra, const char* nome) {
   EXPECT_EQ(Aperto(finestra, nome), "frmDestStampa: Destinazione stampa");
 }
 
+/// There must be something to export.
+void Esporta(Finestra& finestra, const char* nome) {
+  finestra.Apri("FATT01.IMG");
+  const std::filesystem::path pdf = finestra.Cartella() / "D_STM" / "FATT01.pdf";
+  finestra.Persona().Scegliera(pdf);
+  Scegli(finestra, nome);
+  EXPECT_TRUE(Contenuto(pdf).starts_with("%PDF-"));
+}
+
 /// A window beside the main one, by its objectName.
 Effetto MostraENasconde(const char* finestrella) {
   return [finestrella](Finestra& finestra, const char* nome) {
@@ -285,6 +294,7 @@ const std::vector<Voce>& Voci() {
       {"mnuProblemi", MostraENascondePannello("pnlProblemi")},
       {"mnuFoglio", Apre("frmFoglio: Foglio")},
       {"mnuFlagVeri", MisuraConFlagVeri},
+      {"mnuEsportaPdf", Esporta},
       {"mnuRicorda", Ricorda},
       {"mnuGuida", MostraLaGuida},
   };
