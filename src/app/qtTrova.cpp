@@ -91,13 +91,18 @@ void qtTrova::Chiudi() {
   visibile_ = false;
   attesa_.stop();
   nota_.clear();
-  const bool conFuoco = barra_->isAncestorOf(QApplication::focusWidget());
-  const bool nelPannello = barra_->AmbitoScelto() == Ambito::Anteprima && editore_.AnteVisibile();
+  if (editore_.TipoScelto() && barra_->isAncestorOf(QApplication::focusWidget())) RendiFuoco();
   barra_->hide();
   MostraSegni(false);
-  if (!conFuoco || !editore_.TipoScelto()) return;
-  if (nelPannello) return area_.Pannello().setFocus(Qt::OtherFocusReason);
-  area_.Editor(editore_.CursoreAttivo().Dove).setFocus(Qt::OtherFocusReason);
+}
+
+/// Before the bar goes, which would leave the focus to whoever comes next.
+void qtTrova::RendiFuoco() {
+  if (barra_->AmbitoScelto() == Ambito::Anteprima && editore_.AnteVisibile()) {
+    area_.Pannello().setFocus(Qt::OtherFocusReason);
+  } else {
+    area_.Editor(editore_.CursoreAttivo().Dove).setFocus(Qt::OtherFocusReason);
+  }
 }
 
 /// What no template can hold is found nowhere.

@@ -37,6 +37,7 @@ class qtTrova final : public QObject {
   void CreaBarra();
   void MettiInMostra();
   void Chiudi();
+  void RendiFuoco();
   void Cambiata();
   void Rinnova();
   void Assicura();

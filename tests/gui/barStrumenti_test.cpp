@@ -89,7 +89,8 @@ TEST(Guida, ListsAllKeysOfTheMenus) {
   const QString testo = Trova<QTextBrowser>(guida, "txtGuida")->toPlainText();
   for (const VoceMenu& voce : VociMenu()) {
     if (*voce.Scorciatoia == '\0') continue;
-    EXPECT_TRUE(testo.contains(voce.Scorciatoia)) << voce.Nome;
+    EXPECT_TRUE(testo.contains(QKeySequence(voce.Scorciatoia).toString(QKeySequence::NativeText)))
+        << voce.Nome;
   }
   QTest::mouseClick(Trova<QPushButton>(guida, "cmdChiudi"), Qt::LeftButton);
   EXPECT_FALSE(guida.isVisible());

@@ -245,7 +245,7 @@ TEST(RicAnteAppunti, HoldsWhatWasCopiedAfterTheTextHasChanged) {
   EXPECT_EQ(QGuiApplication::clipboard()->text().toStdString(), "uno\n");
 }
 
-TEST(RicAnteAppunti, TheMenuCopiesAndSelectsAllInTheToolkitsWords) {
+TEST(RicAnteAppunti, TheMenuCopiesAndSelectsAll) {
   Pannello pannello("uno\r\ndue");
   const auto apri = [&pannello] {
     QContextMenuEvent evento(QContextMenuEvent::Keyboard, QPoint(5, 5), pannello->mapToGlobal(QPoint(5, 5)));
@@ -255,7 +255,7 @@ TEST(RicAnteAppunti, TheMenuCopiesAndSelectsAllInTheToolkitsWords) {
   QMenu* menu = apri();
   EXPECT_EQ(menu->actions().at(0)->text().toStdString(), "&Copia\tCtrl+C");
   EXPECT_FALSE(menu->actions().at(0)->isEnabled());
-  EXPECT_EQ(menu->actions().at(2)->text().toStdString(), "Seleziona tutto\tCtrl+A");
+  EXPECT_EQ(menu->actions().at(2)->text().toStdString(), "&Seleziona tutto\tCtrl+A");
   menu->actions().at(2)->trigger();
   menu->close();
   EXPECT_EQ(pannello->Selezionato(), (Selezione{0, 8}));
