@@ -91,9 +91,10 @@ PaginaGuida PaginaPer(const QWidget* fuoco) {
        {"pnlCampi", PaginaGuida::Campi},
        {"pnlInserisci", PaginaGuida::Campi},
        {"pnlProblemi", PaginaGuida::Problemi}}};
-  for (; fuoco != nullptr; fuoco = fuoco->parentWidget())
+  for (; fuoco != nullptr; fuoco = fuoco->parentWidget()) {
     for (const auto& [nome, pagina] : PerNome)
       if (fuoco->objectName().startsWith(nome)) return pagina;
+  }
   return PaginaGuida::PrimiPassi;
 }
 

@@ -180,9 +180,10 @@ void qtTrova::MostraSegni(bool accesi) {
     return [this, luogo](const Selezione& parte) {
       const Ricerca& ricerca = editore_.Ricerche().Trovate();
       std::vector<PostoSegnato> segnati;
-      for (const Selezione& posto : ricerca.In(luogo, parte))
-        segnati.push_back(
-            {.Parte = posto, .Attuale = ricerca.Attuale() == PostoTrovato{.Dove = luogo, .Posto = posto}});
+      for (const Selezione& posto : ricerca.In(luogo, parte)) {
+        const bool attuale = ricerca.Attuale() == PostoTrovato{.Dove = luogo, .Posto = posto};
+        segnati.push_back({.Parte = posto, .Attuale = attuale});
+      }
       return segnati;
     };
   };

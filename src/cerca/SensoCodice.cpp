@@ -140,16 +140,20 @@ bool SensoCodice::HaMisura(std::string_view contenuto, const Termine& termine, c
   }
 }
 
+/// What it is, and on a second line how it is written.
+std::string SensoCodice::InParole(std::string_view contenuto, const VociDiSezione& voci) const {
+  const std::string frase = AnsiDaUtf8(DescriviInFrase(contenuto, voci.Variabili, voci.Flag));
+  return PerConfronto(frase) + "\n" + PerConfronto(contenuto);
+}
+
 bool SensoCodice::Trova(std::string_view contenuto, const VociDiSezione& voci) const {
-  std::string detto;  // what it is in words, and as it is written; made when a word asks for it
+  std::string detto;  // made when a word asks for it
   const auto vale = [&](const Termine& termine) {
     switch (termine.Genere) {
       case Termine::Cosa::Numero:
         return HaNumero(contenuto, termine);
       case Termine::Cosa::Parola:
-        if (detto.empty())
-          detto = PerConfronto(AnsiDaUtf8(DescriviInFrase(contenuto, voci.Variabili, voci.Flag))) + "\n" +
-                  PerConfronto(contenuto);
+        if (detto.empty()) detto = InParole(contenuto, voci);
         return Contiene(detto, termine.Testo);
       default:
         return HaMisura(contenuto, termine, voci);

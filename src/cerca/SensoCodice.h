@@ -39,6 +39,7 @@ class SensoCodice {
   };
 
   std::string PerConfronto(std::string_view testo) const;
+  std::string InParole(std::string_view contenuto, const VociDiSezione& voci) const;
   bool Contiene(std::string_view testo, std::string_view parola) const;
   bool HaNumero(std::string_view contenuto, const Termine& termine) const;
   static bool HaMisura(std::string_view contenuto, const Termine& termine, const VociDiSezione& voci);

@@ -15,6 +15,9 @@ namespace {
 
 constexpr char Fuga = '\\';
 
+constexpr const char* ConDelimitatore =
+    "\u00AB e \u00BB racchiudono i codici: una sostituzione non pu\u00F2 metterne";
+
 bool Cifra(char c) {
   return c >= '0' && c <= '9';
 }
@@ -120,9 +123,8 @@ Sostituzioni SostituisciCodici(std::string_view testo, const std::vector<Selezio
 }  // namespace
 
 Esito<Sostituto, std::string> Sostituto::Leggi(const Criterio& criterio, std::string_view scritto) {
-  for (const char delimitatore : {DelimApertura, DelimChiusura})
-    if (scritto.find(delimitatore) != std::string_view::npos)
-      return std::string("\u00AB e \u00BB racchiudono i codici: una sostituzione non pu\u00F2 metterne");
+  const auto ha = [scritto](char byte) { return scritto.find(byte) != std::string_view::npos; };
+  if (ha(DelimApertura) || ha(DelimChiusura)) return std::string(ConDelimitatore);
   if (scritto.find_first_of(FineRiga) != std::string_view::npos)
     return std::string("una sostituzione sta in una riga sola");
   Sostituto sostituto;

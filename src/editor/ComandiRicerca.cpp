@@ -206,12 +206,12 @@ std::string ComandiRicerca::Dette(const Piano& piano) {
   } else {
     detto = Quanti(piano.Fatte, "codice cambiato", "codici cambiati");
   }
-  if (piano.Tagliate > 0)
-    detto += ", " +
-             Quanti(piano.Tagliate, "non fatta: taglierebbe un codice", "non fatte: taglierebbero un codice");
-  if (piano.Inadatte > 0)
-    detto += ", " + Quanti(piano.Inadatte, "lasciato: non ha quel campo, o non quel valore",
-                           "lasciati: non hanno quel campo, o non quel valore");
+  const auto aggiungi = [&detto](std::size_t quante, std::string_view una, std::string_view tante) {
+    if (quante > 0) detto += ", " + Quanti(quante, una, tante);
+  };
+  aggiungi(piano.Tagliate, "non fatta: taglierebbe un codice", "non fatte: taglierebbero un codice");
+  aggiungi(piano.Inadatte, "lasciato: non ha quel campo, o non quel valore",
+           "lasciati: non hanno quel campo, o non quel valore");
   return detto;
 }
 

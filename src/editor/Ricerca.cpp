@@ -214,9 +214,8 @@ std::optional<Ricerca::Prossimo> Ricerca::Dopo(const PostoTrovato& da) const {
     const auto posto = passo == 0        ? PrimaDa(qui, da.Posto.Fine())
                        : In(qui).empty() ? std::nullopt
                                          : std::optional(In(qui).front());
-    if (posto)
-      return Prossimo{.Quale = {.Dove = qui, .Posto = *posto},
-                      .Ripreso = passo > 0 && luogo <= Indice(da.Dove)};
+    const bool ripreso = passo > 0 && luogo <= Indice(da.Dove);
+    if (posto) return Prossimo{.Quale = {.Dove = qui, .Posto = *posto}, .Ripreso = ripreso};
   }
   return std::nullopt;
 }
@@ -228,9 +227,8 @@ std::optional<Ricerca::Prossimo> Ricerca::Prima(const PostoTrovato& da) const {
     const auto posto = passo == 0        ? UltimaFinoA(qui, da.Posto.Inizio)
                        : In(qui).empty() ? std::nullopt
                                          : std::optional(In(qui).back());
-    if (posto)
-      return Prossimo{.Quale = {.Dove = qui, .Posto = *posto},
-                      .Ripreso = passo > 0 && luogo >= Indice(da.Dove)};
+    const bool ripreso = passo > 0 && luogo >= Indice(da.Dove);
+    if (posto) return Prossimo{.Quale = {.Dove = qui, .Posto = *posto}, .Ripreso = ripreso};
   }
   return std::nullopt;
 }
