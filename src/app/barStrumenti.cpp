@@ -40,6 +40,7 @@ barStrumenti::barStrumenti(const qtMenu& menu, QWidget* padre) : QToolBar("Barra
     azione->setIconVisibleInMenu(false);
     addAction(azione);
     azioni_.push_back(azione);
+    connect(azione, &QAction::changed, this, [azione] { azione->setToolTip(Detto(*azione)); });
   }
   Aggiorna();
 }

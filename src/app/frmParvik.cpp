@@ -145,7 +145,6 @@ void frmParvik::Aggiorna() {
 /// The sections' own beginning comes before there is a menu.
 void frmParvik::CambiatoTesto() {
   if (menu_ != nullptr) menu_->Aggiorna(editore_.PerMenu());
-  if (strumenti_ != nullptr) strumenti_->Aggiorna();
   SeguiAnteprima();
   if (verifica_) verifica_->Segui();
   if (trova_) trova_->Segui();

@@ -30,6 +30,17 @@ bool SiTiene(const VoceMenu& voce) {
   return voce.Cosa == Comando::Annulla || voce.Cosa == Comando::Ripeti;
 }
 
+/// Undo and redo say what they would do. A key asks for it each time: texts are made for another step only,
+/// which the entry remembers, counted from 1.
+void Intitola(QAction& azione, const VoceMenu& voce, const StatoMenu& stato) {
+  if (voce.Quando != Uso::DaAnnullare && voce.Quando != Uso::DaRipetere) return;
+  const int passo =
+      static_cast<int>(voce.Quando == Uso::DaAnnullare ? stato.DaAnnullare : stato.DaRipetere) + 1;
+  if (azione.data().toInt() == passo) return;
+  azione.setData(passo);
+  azione.setText(DaUtf8(DidascaliaDi(voce, stato)));
+}
+
 }  // namespace
 
 qtMenu::qtMenu(QMenuBar& barra, QWidget& finestra) : QObject(&finestra), finestra_(finestra) {
@@ -85,9 +96,8 @@ QAction* qtMenu::Azione(Comando comando) const {
 
 void qtMenu::Aggiorna(const StatoMenu& stato) {
   for (const auto& [voce, azione] : azioni_) {
+    Intitola(*azione, *voce, stato);
     azione->setEnabled(Abilitata(*voce, stato));
-    if (voce->Quando == Uso::DaAnnullare || voce->Quando == Uso::DaRipetere)
-      azione->setText(DaUtf8(DidascaliaDi(*voce, stato)));
     if (voce->Cosa) azione->setChecked(Spuntato(*voce->Cosa, stato));
   }
 }
