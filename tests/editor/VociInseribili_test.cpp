@@ -253,7 +253,7 @@ TEST(ProprietaFiltra, WhatIsFoundIsExactlyWhatAnswersAndTheBestComesFirst) {
     std::optional<Merito> migliore;
     for (const GruppoFiltrato& gruppo : Filtra(voci, cercato)) {
       RC_ASSERT(!gruppo.Voci.empty());
-      RC_ASSERT(!migliore || *migliore <= *merito(gruppo.Voci.front()));
+      RC_ASSERT((!migliore || *migliore <= *merito(gruppo.Voci.front())));  // not taken apart
       migliore = merito(gruppo.Voci.front());
       for (std::size_t i = 0; i < gruppo.Voci.size(); ++i) {
         const std::size_t questa = gruppo.Voci[i];
