@@ -38,10 +38,8 @@ void qtTrova::CreaBarra() {
   connect(barra_, &barTrova::Cambiata, this, &qtTrova::Cambiata);
   connect(barra_, &barTrova::DaTrovare, this, &qtTrova::Passa);
   connect(barra_, &barTrova::DaChiudere, this, &qtTrova::Chiudi);
-  connect(barra_, &barTrova::DaSostituire, this,
-          [this] { Sostituisci(&ComandiRicerca::SostituisciAttuale); });
-  connect(barra_, &barTrova::TutteDaSostituire, this,
-          [this] { Sostituisci(&ComandiRicerca::SostituisciTutte); });
+  connect(barra_, &barTrova::DaSostituire, this, &qtTrova::SostituisciUna);
+  connect(barra_, &barTrova::TutteDaSostituire, this, &qtTrova::SostituisciTutte);
 }
 
 void qtTrova::Aggiorna() {
@@ -59,17 +57,17 @@ void qtTrova::MettiInMostra() {
 
 /// What is selected is what one wants to find, and the pane is where one who is there wants to find it.
 void qtTrova::Apri(bool perSostituire) {
+  const bool dallaBarra = barra_ != nullptr && barra_->isAncestorOf(QApplication::focusWidget());
   const bool nelPannello = area_.Pannello().hasFocus() && !perSostituire;
-  const QString cercato =
-      barra_ != nullptr && barra_->isAncestorOf(QApplication::focusWidget()) ? QString() : DaCercare();
+  const QString cercato = dallaBarra ? QString() : DaCercare();
   MettiInMostra();
   barra_->MostraSostituzione(perSostituire);
   if (nelPannello) {
     barra_->ImpostaAmbito(Ambito::Anteprima);
-  } else if (barra_->AmbitoScelto() == Ambito::Anteprima) {
+  } else if (!dallaBarra && barra_->AmbitoScelto() == Ambito::Anteprima) {
     barra_->ImpostaAmbito(Ambito::SezioneAttiva);
   }
-  barra_->Comincia(cercato);
+  barra_->Comincia(barra_->Opzioni().Espressione ? QString() : cercato);
   Cambiata();
 }
 
@@ -94,6 +92,7 @@ void qtTrova::Chiudi() {
   if (editore_.TipoScelto() && barra_->isAncestorOf(QApplication::focusWidget())) RendiFuoco();
   barra_->hide();
   MostraSegni(false);
+  editore_.Ricerche().Dimentica();  // nobody pays for what nobody sees
 }
 
 /// Before the bar goes, which would leave the focus to whoever comes next.
@@ -122,7 +121,9 @@ void qtTrova::Cambiata() {
 }
 
 void qtTrova::Segui() {
-  if (visibile_ && editore_.Ricerche().DaRifare()) attesa_.start();
+  if (!visibile_ || !editore_.Ricerche().DaRifare()) return;
+  nota_.clear();
+  attesa_.start();
 }
 
 /// Never two at once: the end of the one under way asks again.
@@ -152,16 +153,36 @@ void qtTrova::Passa(int passo) {
   Mostra();
 }
 
-void qtTrova::Sostituisci(std::string (ComandiRicerca::*come)(std::string_view scritto)) {
+/// What was written to be put in the place, Windows-1252; nullopt, and told, where no template can hold it.
+std::optional<std::string> qtTrova::DaMettere() {
   QString scritto = barra_->Sostituto();
   if (barra_->Opzioni().Dove == DoveCercare::SoloCodici) scritto.replace(u'\u2192', "->");  // of a change
-  if (SoloAnsi(scritto) != scritto) {
-    nota_ = "La sostituzione ha caratteri che nessun modello può contenere";
-    return Mostra();
+  if (SoloAnsi(scritto) == scritto) {
+    Assicura();
+    area_.FinisciComposizione();
+    return DaSchermo(scritto);
   }
-  Assicura();
-  area_.FinisciComposizione();
-  nota_ = DaUtf8((editore_.Ricerche().*come)(DaSchermo(scritto)));
+  nota_ = "La sostituzione ha caratteri che nessun modello può contenere";
+  Mostra();
+  return std::nullopt;
+}
+
+/// And goes on to the next, even from one that could not be replaced; without a current one it only goes
+/// there.
+void qtTrova::SostituisciUna() {
+  const std::optional<std::string> scritto = DaMettere();
+  if (!scritto) return;
+  const QString detto = DaUtf8(editore_.Ricerche().SostituisciAttuale(*scritto));
+  Passa(1);
+  if (detto.isEmpty()) return;
+  nota_ = detto;
+  Mostra();
+}
+
+void qtTrova::SostituisciTutte() {
+  const std::optional<std::string> scritto = DaMettere();
+  if (!scritto) return;
+  nota_ = DaUtf8(editore_.Ricerche().SostituisciTutte(*scritto));
   Mostra();
 }
 

@@ -5,6 +5,7 @@
 #include <QMainWindow>
 #include <QObject>
 #include <QTimer>
+#include <optional>
 #include <string>
 
 #include "app/barTrova.h"
@@ -42,7 +43,9 @@ class qtTrova final : public QObject {
   void Rinnova();
   void Assicura();
   QString DaCercare() const;
-  void Sostituisci(std::string (ComandiRicerca::*come)(std::string_view scritto));
+  std::optional<std::string> DaMettere();
+  void SostituisciUna();
+  void SostituisciTutte();
   void MostraSegni(bool accesi);
 
   Editore& editore_;
@@ -50,7 +53,7 @@ class qtTrova final : public QObject {
   QMainWindow& finestra_;
   barTrova* barra_ = nullptr;
   bool visibile_ = false;
-  QString nota_;  // what the last command has said, until something else is looked for
+  QString nota_;  // what the last command has said, until something else is looked for or the text is other
   QTimer attesa_;
   qtFilo<LavoroRicerca::Fatto> filo_;
 };

@@ -7,6 +7,7 @@
 
 #include "catalogue/Catalogo.h"
 #include "common/Lettere.h"
+#include "common/Ritagli.h"
 #include "common/Windows1252.h"
 #include "tokens/CodiceFlag.h"
 #include "tokens/CodiceLingua.h"
@@ -24,12 +25,6 @@ constexpr const char* ComeSiScrive =
     "32\u00BB, \u00ABlarghezza 29 \u2192 32\u00BB, \u00ABa destra\u00BB";
 
 // --- what was written
-
-std::string_view SenzaSpazi(std::string_view testo) {
-  const std::size_t inizio = std::min(testo.find_first_not_of(' '), testo.size());
-  testo.remove_prefix(inizio);
-  return testo.substr(0, testo.find_last_not_of(' ') + 1);
-}
 
 /// The digits of a number from `minimo` to `massimo`, without leading zeros.
 std::optional<std::string> LeggiNumero(std::string_view scritto, int minimo, int massimo) {
@@ -104,12 +99,12 @@ std::optional<CambioCodice> LeggiCambio(std::string_view scritto) {
   const std::optional<CampoCodice> campo = LeggiCampo(scritto.substr(0, spazio));
   if (!campo) return std::nullopt;
   CambioCodice cambio{.Quale = *campo};
-  std::string_view valore = SenzaSpazi(scritto.substr(spazio));
+  std::string_view valore = Rifila(scritto.substr(spazio));
   constexpr std::string_view Freccia = " -> ";
   if (const std::size_t freccia = valore.find(Freccia); freccia != std::string_view::npos) {
-    cambio.Da = LeggiValore(*campo, SenzaSpazi(valore.substr(0, freccia)));
+    cambio.Da = LeggiValore(*campo, Rifila(valore.substr(0, freccia)));
     if (!cambio.Da) return std::nullopt;
-    valore = SenzaSpazi(valore.substr(freccia + Freccia.size()));
+    valore = Rifila(valore.substr(freccia + Freccia.size()));
   }
   const std::optional<std::string> nuovo = LeggiValore(*campo, valore);
   if (!nuovo) return std::nullopt;
@@ -125,10 +120,10 @@ std::vector<std::string_view> Divisi(std::string_view scritto) {
   for (std::size_t qui = 0; qui < scritto.size(); ++qui) {
     if (scritto[qui] == '"') fraApici = !fraApici;
     if (scritto[qui] != ',' || fraApici) continue;
-    parti.push_back(SenzaSpazi(scritto.substr(inizio, qui - inizio)));
+    parti.push_back(Rifila(scritto.substr(inizio, qui - inizio)));
     inizio = qui + 1;
   }
-  parti.push_back(SenzaSpazi(scritto.substr(inizio)));
+  parti.push_back(Rifila(scritto.substr(inizio)));
   return parti;
 }
 

@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "common/Lettere.h"
+#include "common/NumeroLeniente.h"
+#include "common/Ritagli.h"
 #include "common/Windows1252.h"
 #include "tokens/CodiceVariabile.h"
 #include "tokens/DescriviCodice.h"
@@ -13,10 +15,8 @@
 namespace parvik {
 namespace {
 
-constexpr std::string_view Cifre = "0123456789";
-
 bool DiCifre(std::string_view testo) {
-  return !testo.empty() && testo.find_first_not_of(Cifre) == std::string_view::npos;
+  return !testo.empty() && std::ranges::all_of(testo, Cifra);
 }
 
 /// More digits than a number has are one that no code has.
@@ -44,17 +44,6 @@ std::optional<TipoCodice> TipoNumerato(char lettera) {
   }
 }
 
-std::vector<std::string_view> Parole(std::string_view testo) {
-  std::vector<std::string_view> parole;
-  std::size_t qui = 0;
-  while ((qui = testo.find_first_not_of(' ', qui)) != std::string_view::npos) {
-    const std::size_t fine = std::min(testo.find(' ', qui), testo.size());
-    parole.push_back(testo.substr(qui, fine - qui));
-    qui = fine;
-  }
-  return parole;
-}
-
 /// nullopt of a code that has none.
 std::optional<Gruppo> GruppoNumero(std::string_view contenuto) {
   switch (Riconosci(contenuto)) {
@@ -79,7 +68,7 @@ SensoCodice::SensoCodice(const Criterio& criterio)
   using enum Termine::Cosa;
   constexpr std::pair<std::string_view, Termine::Cosa> Misure[] = {
       {"larghezza", Larghezza}, {"decimali", Decimali}, {"righe", Righe}};
-  const std::vector<std::string_view> parole = Parole(criterio.Testo);
+  const std::vector<std::string_view> parole = ParoleDi(criterio.Testo);
   for (std::size_t i = 0; i < parole.size(); ++i) {
     const std::string_view parola = parole[i];
     const auto* const misura =

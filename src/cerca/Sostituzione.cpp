@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "common/Delimitatori.h"
+#include "common/NumeroLeniente.h"
 #include "common/Precondizione.h"
 #include "tokens/Codice.h"
 #include "tokens/Pezzi.h"
@@ -17,10 +18,6 @@ constexpr char Fuga = '\\';
 
 constexpr const char* ConDelimitatore =
     "\u00AB e \u00BB racchiudono i codici: una sostituzione non pu\u00F2 metterne";
-
-bool Cifra(char c) {
-  return c >= '0' && c <= '9';
-}
 
 /// Walks over the codes of a text beside places that come in their order.
 class CodiciAccanto {

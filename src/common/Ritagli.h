@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <string_view>
+#include <vector>
 
 namespace parvik {
 
@@ -22,6 +23,16 @@ constexpr std::string_view Rifila(std::string_view testo, std::string_view bianc
   const std::size_t inizio = testo.find_first_not_of(bianchi);
   if (inizio == std::string_view::npos) return {};
   return testo.substr(inizio, testo.find_last_not_of(bianchi) - inizio + 1);
+}
+
+/// The words of a text: what stands between its spaces.
+inline std::vector<std::string_view> ParoleDi(std::string_view testo) {
+  std::vector<std::string_view> parole;
+  while (!(testo = Rifila(testo)).empty()) {
+    parole.push_back(testo.substr(0, testo.find(' ')));
+    testo.remove_prefix(parole.back().size());
+  }
+  return parole;
 }
 
 }  // namespace parvik

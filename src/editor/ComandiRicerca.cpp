@@ -136,8 +136,9 @@ Esito<ComandiRicerca::Piano, std::string> ComandiRicerca::Prepara(std::string_vi
     const std::size_t indice = Indice(sezione);
     if (quali[indice].empty()) continue;
     piano.Testi[indice] = documento_.Testo(sezione).Byte();
-    piano.Sezioni[indice] = Sostituisci(piano.Testi[indice], quali[indice], *sostituto, espressione.get(),
-                                        contesto_().Tipo->Tabelle(sezione)->Voci());
+    piano.Sezioni[indice] =
+        parvik::Sostituisci(piano.Testi[indice], quali[indice], *sostituto, espressione.get(),
+                            contesto_().Tipo->Tabelle(sezione)->Voci());
     piano.Fatte += piano.Sezioni[indice].Fatte.size();
     piano.Tagliate += piano.Sezioni[indice].Tagliate;
     piano.Inadatte += piano.Sezioni[indice].Inadatte;
@@ -158,28 +159,26 @@ void ComandiRicerca::Fai(const Piano& piano) {
   }
 }
 
-std::string ComandiRicerca::SostituisciAttuale(std::string_view scritto) {
-  if (!ricerca_.NumeroAttuale()) return Trova(Verso::Avanti, Fuoco::Resta);
-  const PostoTrovato attuale = *ricerca_.Attuale();
-  if (attuale.Dove == LuogoRicerca::Anteprima) return {};
-  PerSezione quali;
-  quali[Indice(SezioneDi(attuale.Dove))] = {attuale.Posto};
-  std::string detto;
-  const Esito<bool> fatto = SeBastaMemoria([&]() -> Esito<bool> {
-    const auto piano = Prepara(scritto, quali);
-    if (!piano) {
-      detto = piano.Errore();
-      return false;
-    }
-    if (piano->Fatte == 0) detto = piano->DiCodici ? Inadatto : Taglierebbe;
-    if (piano->Fatte > 0) Fai(*piano);
-    return true;
+/// The error is why nothing was changed.
+Esito<ComandiRicerca::Piano, std::string> ComandiRicerca::Sostituisci(std::string_view scritto,
+                                                                      const PerSezione& quali) {
+  using Fatto = Esito<Piano, std::string>;
+  const Esito<Fatto> fatto = SeBastaMemoria([&]() -> Esito<Fatto> {
+    Fatto piano = Prepara(scritto, quali);
+    if (piano) Fai(*piano);
+    return piano;
   });
-  if (!fatto) return TestoErrore(fatto.Errore());
-  if (!*fatto) return detto;
-  if (DaRifare() && Rinnova()) return detto;  // long: the next one is known when it has been looked for
-  const std::string poi = Trova(Verso::Avanti, Fuoco::Resta);
-  return detto.empty() ? poi : detto;
+  return fatto ? *fatto : Fatto(TestoErrore(fatto.Errore()));
+}
+
+std::string ComandiRicerca::SostituisciAttuale(std::string_view scritto) {
+  if (!ricerca_.NumeroAttuale() || ricerca_.Attuale()->Dove == LuogoRicerca::Anteprima) return {};
+  PerSezione quali;
+  quali[Indice(SezioneDi(ricerca_.Attuale()->Dove))] = {ricerca_.Attuale()->Posto};
+  const auto piano = Sostituisci(scritto, quali);
+  if (!piano) return piano.Errore();
+  if (piano->Fatte > 0) return {};
+  return piano->DiCodici ? Inadatto : Taglierebbe;
 }
 
 std::string ComandiRicerca::SostituisciTutte(std::string_view scritto) {
@@ -187,14 +186,8 @@ std::string ComandiRicerca::SostituisciTutte(std::string_view scritto) {
   if (ricerca_.Quante() == 0) return Detto();
   PerSezione quali;
   for (const Sezione sezione : TutteLeSezioni) quali[Indice(sezione)] = ricerca_.In(LuogoDi(sezione));
-  std::string detto;
-  const Esito<bool> fatto = SeBastaMemoria([&]() -> Esito<bool> {
-    const auto piano = Prepara(scritto, quali);
-    if (piano) Fai(*piano);
-    detto = piano ? Dette(*piano) : piano.Errore();
-    return true;
-  });
-  return fatto ? detto : TestoErrore(fatto.Errore());
+  const auto piano = Sostituisci(scritto, quali);
+  return piano ? Dette(*piano) : piano.Errore();
 }
 
 std::string ComandiRicerca::Dette(const Piano& piano) {

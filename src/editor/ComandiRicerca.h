@@ -57,8 +57,8 @@ class ComandiRicerca {
   std::string Detto() const;
   /// Selects the one behind the caret, or the one in front of it.
   std::string Trova(Verso verso, Fuoco fuoco);
-  /// Puts what was written (Windows-1252) in the place of the current one, and goes on to the next; without a
-  /// current one it only goes there. Nothing is replaced in the preview.
+  /// Puts what was written (Windows-1252) in the place of the current one, where there is one; "" when
+  /// nothing speaks against going on to the next. Nothing is replaced in the preview.
   std::string SostituisciAttuale(std::string_view scritto);
   /// The same of all of them, in one step.
   std::string SostituisciTutte(std::string_view scritto);
@@ -81,6 +81,7 @@ class ComandiRicerca {
   PostoTrovato Partenza() const;
   void Seleziona(const PostoTrovato& posto, Fuoco fuoco);
   Esito<Piano, std::string> Prepara(std::string_view scritto, const PerSezione& quali) const;
+  Esito<Piano, std::string> Sostituisci(std::string_view scritto, const PerSezione& quali);
   void Fai(const Piano& piano);
   static std::string Dette(const Piano& piano);
 

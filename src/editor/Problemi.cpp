@@ -20,13 +20,6 @@ std::string Somiglia(const TipoDoc& tipo) {
   return "Sembra un modello di \u00AB" + Utf8DaAnsi(tipo.Descrizione) + "\u00BB";
 }
 
-/// Where a mark is after an edit; nullopt when that has been in it.
-std::optional<Selezione> Spostato(const Selezione& posto, const Modifica& fatta) {
-  if (posto.Fine() <= fatta.Dove) return posto;
-  if (posto.Inizio < fatta.Dove + fatta.Tolti || posto.Inizio < fatta.Dove) return std::nullopt;
-  return Selezione{.Inizio = posto.Inizio - fatta.Tolti + fatta.Messi.size(), .Lunghezza = posto.Lunghezza};
-}
-
 }  // namespace
 
 LavoroVerifica::LavoroVerifica(Numero numero, const Catalogo& catalogo, const TipoDoc& tipo,

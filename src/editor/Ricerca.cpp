@@ -12,13 +12,6 @@ namespace {
 constexpr std::size_t ParteImmediata = 256UL * 1024UL;  // bytes
 constexpr auto Pazienza = std::chrono::seconds(1);
 
-/// Where a place is after an edit; nullopt when that has been in it.
-std::optional<Selezione> Spostato(const Selezione& posto, const Modifica& fatta) {
-  if (posto.Fine() <= fatta.Dove) return posto;
-  if (posto.Inizio < fatta.Dove + fatta.Tolti || posto.Inizio < fatta.Dove) return std::nullopt;
-  return Selezione{.Inizio = posto.Inizio - fatta.Tolti + fatta.Messi.size(), .Lunghezza = posto.Lunghezza};
-}
-
 }  // namespace
 
 LavoroRicerca::LavoroRicerca(Numero numero, Criterio cosa, CompilaEspressione compila,

@@ -2,12 +2,10 @@
 
 #include "common/Impronta.h"
 #include "sistema/LetturaFile.h"
+#include "template/ComandiFile.h"
 
 namespace parvik {
 namespace {
-
-/// Larger than any template that could be opened (ComandiFile): not worth reading to tell it apart.
-constexpr std::uint64_t MassimoLetto = 128U << 20U;
 
 /// Of a file that was not read.
 std::uint64_t ImprontaDi(const IdentitaFile& identita) {
@@ -28,7 +26,7 @@ SguardoFile LavoroSguardo::Esegui() const {
   if (!identita) return {.Trovato = SenzaFile(identita.Errore()), .Origine = Origine};
   if (Prima && Prima->Identita == *identita) return *Prima;
   SguardoFile sguardo{.Trovato = FileTrovato::Altro, .Origine = Origine, .Identita = *identita};
-  if (identita->Dimensione > MassimoLetto) {
+  if (identita->Dimensione > MassimoModello) {  // not worth reading: it could not be opened
     sguardo.Contenuto = ImprontaDi(*identita);
     return sguardo;
   }

@@ -22,8 +22,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t CaratteriTitolo = 12;
-/// More than this no window holds at its ease: laid out, a text takes up to 65 times its size.
-constexpr std::uintmax_t MassimoModello = 128U << 20U;
 constexpr const char* EstensioneModelli = ".img";
 
 /// The pattern of the one filter entry: the type's, unless it is none that a file name could match.

@@ -34,6 +34,10 @@ class Contorno {
 /// The caption once a file was read. UTF-8.
 std::string TitoloCon(const std::filesystem::path& file);
 
+/// Bytes of a template that Open reads; no window holds more at its ease: laid out, a text takes up to 65
+/// times its size.
+inline constexpr std::uintmax_t MassimoModello = 128U << 20U;
+
 /// The collaborators must outlive the commands. `tipo` is always the current document type.
 class ComandiFile {
  public:
@@ -45,8 +49,8 @@ class ComandiFile {
   void Nuovo(const TipoDoc& tipo);
 
   /// Open: nothing can be undone after it. Every failure is silent; the file name is then the chosen one
-  /// already. Only a file of more than 128 MiB is refused with a message (MemoriaEsaurita), and nothing but
-  /// the answered question has happened.
+  /// already. Only a file of more than MassimoModello is refused with a message (MemoriaEsaurita), and
+  /// nothing but the answered question has happened.
   void Apri(const TipoDoc& tipo);
 
   /// What a person named outside the command: on the command line, or dropped on the window. As Open with

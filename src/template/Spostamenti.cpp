@@ -11,6 +11,12 @@ constexpr std::size_t MassimoTratti = 4096;
 
 }  // namespace
 
+std::optional<Selezione> Spostato(const Selezione& posto, const Modifica& fatta) {
+  if (posto.Fine() <= fatta.Dove) return posto;
+  if (posto.Inizio < fatta.Dove + fatta.Tolti || posto.Inizio < fatta.Dove) return std::nullopt;
+  return Selezione{.Inizio = posto.Inizio - fatta.Tolti + fatta.Messi.size(), .Lunghezza = posto.Lunghezza};
+}
+
 Spostamenti::Spostamenti(std::size_t dimensione) {
   if (dimensione > 0) tratti_.push_back({.Prima = 0, .Dopo = 0, .Lunghezza = dimensione});
 }

@@ -10,6 +10,9 @@
 
 namespace parvik {
 
+/// Where a place is after an edit; nullopt when that has been in it.
+std::optional<Selezione> Spostato(const Selezione& posto, const Modifica& fatta);
+
 /// The stretches that are still as they were. An edit costs as much as there are of them.
 class Spostamenti {
  public:

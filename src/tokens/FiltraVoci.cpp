@@ -4,21 +4,10 @@
 
 #include "common/Lettere.h"
 #include "common/NumeroLeniente.h"
+#include "common/Ritagli.h"
 
 namespace parvik {
 namespace {
-
-std::vector<std::string> ParoleDi(std::string_view testo) {
-  std::vector<std::string> parole;
-  while (true) {
-    const std::size_t inizio = testo.find_first_not_of(' ');
-    if (inizio == std::string_view::npos) return parole;
-    testo.remove_prefix(inizio);
-    const std::size_t fine = std::min(testo.find(' '), testo.size());
-    parole.push_back(InLettereNude(testo.substr(0, fine)));
-    testo.remove_prefix(fine);
-  }
-}
 
 /// Whether `parola` stands in `testo` where a word of it begins.
 bool IniziaUnaParola(std::string_view testo, std::string_view parola) {
@@ -51,7 +40,8 @@ std::optional<Merito> DellaParola(std::string_view parola, const VoceCercabile& 
 
 }  // namespace
 
-FiltroVoci::FiltroVoci(std::string_view cercato) : parole_(ParoleDi(cercato)) {
+FiltroVoci::FiltroVoci(std::string_view cercato) {
+  for (const std::string_view parola : ParoleDi(cercato)) parole_.push_back(InLettereNude(parola));
   for (const std::string& parola : parole_) insieme_ += (insieme_.empty() ? "" : " ") + parola;
 }
 

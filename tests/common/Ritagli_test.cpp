@@ -32,5 +32,11 @@ TEST(Rifila, TakesNothingButSpacesUnlessToldTo) {
   EXPECT_EQ(Rifila(" \ta\xA0\t ", " \t"), "a\xA0");
 }
 
+TEST(ParoleDi, GivesWhatStandsBetweenSpaces) {
+  EXPECT_EQ(ParoleDi("  due  parole\tqui "), (std::vector<std::string_view>{"due", "parole\tqui"}));
+  EXPECT_TRUE(ParoleDi("  ").empty());
+  EXPECT_TRUE(ParoleDi("").empty());
+}
+
 }  // namespace
 }  // namespace parvik

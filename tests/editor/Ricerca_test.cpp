@@ -31,6 +31,14 @@ class RicercaTest : public BancoEditore {
     Comandi().Cerca(RichiestaRicerca{.Cosa = cosa, .Dove = dove}, Compila);
     Rinnova();
   }
+  /// As the window does it.
+  std::string SostituisciUna(std::string_view con) {
+    Rinnova();
+    const std::string detto = Comandi().SostituisciAttuale(con);
+    Rinnova();
+    const std::string poi = Avanti();
+    return detto.empty() ? poi : detto;
+  }
   std::string Avanti() { return Comandi().Trova(Verso::Avanti, Fuoco::Resta); }
   std::string Indietro() { return Comandi().Trova(Verso::Indietro, Fuoco::Resta); }
   CursoreSezione Rivelato() const { return vista_.Rivelati.back(); }
@@ -214,12 +222,12 @@ TEST_F(RicercaTest, IsForgottenWithItsTemplate) {
 TEST_F(RicercaTest, ReplacesTheCurrentOneAndGoesOn) {
   Imposta(Sezione::Testata, "ab ab\r\n");
   Cerca({.Testo = "ab"});
-  EXPECT_EQ(Comandi().SostituisciAttuale("xyz"), "1 di 2") << "it only goes there";
+  EXPECT_EQ(SostituisciUna("xyz"), "1 di 2") << "it only goes there";
   EXPECT_EQ(Testo(Sezione::Testata), "ab ab\r\n");
   vista_.Cursori[0] = {.Ancora = 0, .Posto = 2};
-  EXPECT_EQ(Comandi().SostituisciAttuale("xyz"), "1 di 1");
+  EXPECT_EQ(SostituisciUna("xyz"), "1 di 1");
   EXPECT_EQ(Testo(Sezione::Testata), "xyz ab\r\n");
-  EXPECT_EQ(Comandi().SostituisciAttuale("q"), "Nessun risultato");
+  EXPECT_EQ(SostituisciUna("q"), "Nessun risultato");
   EXPECT_EQ(Testo(Sezione::Testata), "xyz q\r\n");
   EXPECT_TRUE(editore_.Modello().Stato().Modificato);
   editore_.Annulla();
@@ -258,7 +266,7 @@ TEST_F(RicercaTest, TellsWhatItHasNotReplaced) {
   EXPECT_EQ(Comandi().SostituisciTutte("x"), "1 sostituzione, 1 non fatta: taglierebbe un codice");
   Rinnova();
   Avanti();
-  EXPECT_EQ(Comandi().SostituisciAttuale("x"), "Non sostituito: taglierebbe un codice");
+  EXPECT_EQ(SostituisciUna("x"), "Non sostituito: taglierebbe un codice");
   EXPECT_EQ(Testo(Sezione::Testata),
             "x \xAB"
             "V1;9L\xBB\r\n");
@@ -283,8 +291,7 @@ TEST_F(RicercaTest, ChangesCodes) {
             "F3N\xBB\r\n");
   Rinnova();
   Avanti();
-  EXPECT_EQ(Comandi().SostituisciAttuale("decimali 2"),
-            "Non cambiato: il codice non ha quel campo, o non quel valore");
+  EXPECT_EQ(SostituisciUna("decimali 2"), "Non cambiato: il codice non ha quel campo, o non quel valore");
   EXPECT_EQ(Comandi().SostituisciTutte(""), "2 codici tolti");
   EXPECT_EQ(Testo(Sezione::Testata),
             "  \xAB"

@@ -207,6 +207,54 @@ TEST_F(TrovaInFinestra, KnowsExpressions) {
   EXPECT_TRUE(Diventa("Espressione non valida (carattere 3)")) << Esito().toStdString();
 }
 
+TEST_F(TrovaInFinestra, GoesOnFromOneMatchOfAnExpressionToTheNext) {
+  Premi(Qt::Key_H, Qt::ControlModifier);
+  Spunta("chkRegex");
+  Scrivi("txtCerca", "[Cc]l\\w+");
+  EXPECT_TRUE(Diventa("2 risultati"));
+  Scrivi("txtSost", "ditta");
+  Clicca("cmdSost");
+  EXPECT_EQ(Esito(), "1 di 2") << "it only goes there";
+  Clicca("cmdSost");
+  EXPECT_EQ(Esito(), "1 di 1");
+  EXPECT_EQ(Scelto(0), "Cliente");
+  Clicca("cmdSost");
+  EXPECT_EQ(Esito(), "Nessun risultato");
+  EXPECT_EQ(Testata().toPlainText(), "ditta «V4;30L»\nditta «V5;29L»\n");
+}
+
+TEST_F(TrovaInFinestra, SaysNothingOfATextThatIsOther) {
+  Premi(Qt::Key_F, Qt::ControlModifier);
+  Scrivi("txtCerca", "cliente");
+  for (int i = 0; i < 3; ++i) Premi(Qt::Key_Return);
+  EXPECT_EQ(Esito(), "1 di 2, ripreso dall'inizio");
+  Testata().setFocus();
+  QTest::keyClick(&Testata(), Qt::Key_X);
+  EXPECT_TRUE(Diventa("1 risultato")) << Esito().toStdString();
+}
+
+TEST_F(TrovaInFinestra, KeepsItsScopeWhenItIsAskedForOnceMore) {
+  Premi(Qt::Key_F, Qt::ControlModifier);
+  Ambito("Anteprima");
+  Trova<QLineEdit>(*finestra_, "txtCerca")->setFocus();
+  Premi(Qt::Key_F, Qt::ControlModifier);
+  EXPECT_EQ(Trova<QComboBox>(*finestra_, "cmbAmbito")->currentText(), "Anteprima");
+}
+
+TEST_F(TrovaInFinestra, TakesNoSelectionForAnExpression) {
+  Premi(Qt::Key_F, Qt::ControlModifier);
+  Spunta("chkRegex");
+  Scrivi("txtCerca", "x+");
+  Testata().setFocus();
+  Testata().selectAll();
+  QTextCursor cursore = Testata().textCursor();
+  cursore.setPosition(0);
+  cursore.setPosition(4, QTextCursor::KeepAnchor);
+  Testata().setTextCursor(cursore);
+  Premi(Qt::Key_F, Qt::ControlModifier);
+  EXPECT_EQ(Trova<QLineEdit>(*finestra_, "txtCerca")->text(), "x+");
+}
+
 TEST_F(TrovaInFinestra, GivesARunawayExpressionUp) {
   Testata().setPlainText(QString(5000, u'a') + "b\n");
   Premi(Qt::Key_F, Qt::ControlModifier);
