@@ -24,7 +24,7 @@ processi() {
   "$programmi/bench_dati" "$dati"
   "$programmi/bench_processi" build/release/velkor/PARVIK/parvik32-batch "$programmi" "$dati"
 }
-parti=(misure modifiche voci processi ./bench/avvio.sh ./bench/tasti.sh ./bench/anteprima.sh ./bench/ingombro.sh
+parti=(misure modifiche voci processi ./bench/avvio.sh ./bench/tasti.sh ./bench/sostituisci.sh ./bench/anteprima.sh ./bench/ingombro.sh
   ./bench/installato.sh)
 
 macchina() {

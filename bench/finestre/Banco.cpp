@@ -9,6 +9,7 @@
 #include <QTextBlock>
 #include <QTimer>
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <fstream>
 #include <stdexcept>
@@ -25,14 +26,20 @@ void Persona::Termina(int /*stato*/) {
   throw std::runtime_error("the editor gave up");
 }
 
-Banco::Banco()
+Banco::Banco(const std::filesystem::path& casa)
     : file_(std::filesystem::temp_directory_path() / ("banco-" + std::to_string(::getpid()) + ".img")) {
   auto dati = Avvia({.DirProgramma = PARVIK_PROGRAMMI, .CartelleConfigurazione = {}}, persona_);
   if (!dati) throw std::runtime_error("the example installation does not start");
+  if (!casa.empty()) {
+    dati->CartellaUtente = casa / "config";
+    dati->CartellaStato = casa / "state";
+    dati->IntervalloRecupero = std::chrono::seconds(1);
+  }
   finestra_ = std::make_unique<frmParvik>(std::move(*dati), persona_);
   finestra_->move(0, 0);
   finestra_->show();
   ScegliFatture();
+  if (!casa.empty()) Comanda("mnuRicorda");
   Svuota();
 }
 

@@ -28,7 +28,10 @@ class Persona final : public Interlocutore {
 /// Shown at the left edge of the display, with the document type of invoices.
 class Banco {
  public:
-  Banco();
+  /// With nothing kept from one session to the next.
+  Banco() : Banco(std::filesystem::path()) {}
+  /// With all that there is to keep kept under that folder, an unsaved template once a second.
+  explicit Banco(const std::filesystem::path& casa);
   ~Banco();
   Banco(const Banco&) = delete;
   Banco& operator=(const Banco&) = delete;
@@ -38,6 +41,7 @@ class Banco {
   QPlainTextEdit& Testata();
   ricAnte& Anteprima();
   void Comanda(const char* azione);
+  QWidget& Finestra() { return *finestra_; }
   /// Shows the sections to measure, and waits until all of them are.
   void MostraAMisura();
 

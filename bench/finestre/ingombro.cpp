@@ -1,4 +1,4 @@
-// The memory of a window with a template in it: bench_ingombro editor|bare LINES prints what the template
+// The memory of a window with a template in it: bench_ingombro editor|all|bare LINES prints what the template
 // took, in bytes a byte of the file, and what all takes, in MiB.
 #include <unistd.h>
 
@@ -12,6 +12,7 @@
 #include "Dati.h"
 #include "common/qtTesto.h"
 #include "finestre/Banco.h"
+#include "finestre/Tutto.h"
 
 namespace parvik::bench {
 namespace {
@@ -39,6 +40,17 @@ Misura NellEditor(const std::string& modello) {
   return {.Suoi = tutti - prima, .Tutti = tutti};
 }
 
+/// With all that the window can show, and while all is kept that can be.
+Misura ConTutto(const std::string& modello) {
+  const Casa casa;
+  Banco banco(casa.Dove());
+  const double prima = Residente();
+  banco.Apri(modello);
+  MostraTutto(banco);
+  const double tutti = Residente();
+  return {.Suoi = tutti - prima, .Tutti = tutti};
+}
+
 Misura NelNudo(const std::string& modello) {
   QMainWindow finestra;
   auto* nudo = new QPlainTextEdit(&finestra);
@@ -54,17 +66,22 @@ Misura NelNudo(const std::string& modello) {
   return {.Suoi = tutti - prima, .Tutti = tutti};
 }
 
+Misura Misurata(const std::string& dove, const std::string& modello) {
+  if (dove == "editor") return NellEditor(modello);
+  return dove == "all" ? ConTutto(modello) : NelNudo(modello);
+}
+
 }  // namespace
 }  // namespace parvik::bench
 
 int main(int argc, char** argv) {
   using namespace parvik::bench;
   if (argc != 3) {
-    std::cerr << "bench_ingombro editor|bare LINES\n";
+    std::cerr << "bench_ingombro editor|all|bare LINES\n";
     return EXIT_FAILURE;
   }
   QApplication programma(argc, argv);
   const std::string modello = Modello(std::stoul(argv[2]));
-  const auto [usati, residente] = std::string(argv[1]) == "editor" ? NellEditor(modello) : NelNudo(modello);
+  const auto [usati, residente] = Misurata(argv[1], modello);
   std::cout << usati / static_cast<double>(modello.size()) << ' ' << residente / (1024.0 * 1024.0) << '\n';
 }

@@ -1,5 +1,6 @@
-// Typing while a panel is open, beside the same editor where it is not, key by key in turn.
+// Typing while panels and bars are shown, beside the same editor where none is, key by key in turn.
 #include <QApplication>
+#include <functional>
 #include <iostream>
 #include <string>
 
@@ -7,6 +8,7 @@
 #include "Resoconto.h"
 #include "finestre/Banco.h"
 #include "finestre/Battitura.h"
+#include "finestre/Tutto.h"
 
 namespace parvik::bench {
 namespace {
@@ -15,16 +17,14 @@ constexpr int Tasti = 600;  // in each editor
 constexpr double Sbarra = 1.25;
 constexpr double QuasiTutti = 0.99;
 
-void Misura(const char* comando, const std::string& pannello, std::size_t righe) {
+void Misura(const std::string& che, std::size_t righe, Banco& aperto, const std::function<void()>& mostra) {
   Banco chiuso;
-  Banco aperto;
   for (Banco* banco : {&chiuso, &aperto}) {
     banco->Apri(Modello(righe));
     Svuota();
   }
-  QWidget& destra = *aperto.Testata().window();
-  destra.move(destra.width(), 0);
-  aperto.Comanda(comando);
+  aperto.Finestra().move(aperto.Finestra().width(), 0);
+  mostra();
   Svuota();
   Battitura senza(chiuso.Testata());
   Battitura con(aperto.Testata());
@@ -32,8 +32,19 @@ void Misura(const char* comando, const std::string& pannello, std::size_t righe)
     senza.Premi(i);
     con.Premi(i);
   }
-  StampaAlPiu("key with the " + pannello + " shown, " + std::to_string(righe) + " lines, p99, of one without",
+  StampaAlPiu("key with " + che + ", " + std::to_string(righe) + " lines, p99, of one without",
               con.Quantile(QuasiTutti) / senza.Quantile(QuasiTutti), Sbarra);
+}
+
+void MisuraPannello(const char* comando, const std::string& pannello, std::size_t righe) {
+  Banco aperto;
+  Misura("the " + pannello + " shown", righe, aperto, [&] { aperto.Comanda(comando); });
+}
+
+void MisuraTutto(std::size_t righe) {
+  const Casa casa;
+  Banco aperto(casa.Dove());
+  Misura("panel, bars and recovery", righe, aperto, [&] { MostraTutto(aperto); });
 }
 
 }  // namespace
@@ -42,7 +53,8 @@ void Misura(const char* comando, const std::string& pannello, std::size_t righe)
 int main(int argc, char** argv) {
   const QApplication programma(argc, argv);
   for (const std::size_t righe : {60UL, 6'000UL}) {
-    parvik::bench::Misura("mnuProblemi", "problems", righe);
-    parvik::bench::Misura("mnuPannelloCampi", "fields", righe);
+    parvik::bench::MisuraPannello("mnuProblemi", "problems", righe);
+    parvik::bench::MisuraPannello("mnuPannelloCampi", "fields", righe);
+    parvik::bench::MisuraTutto(righe);
   }
 }

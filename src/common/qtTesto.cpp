@@ -1,6 +1,5 @@
 #include "common/qtTesto.h"
 
-#include <QRegularExpression>
 #include <QTextDocument>
 #include <algorithm>
 #include <array>
@@ -63,6 +62,18 @@ bool FinisceRiga(QChar c) {
   return c == u'\n' || c == QChar::ParagraphSeparator || c == QChar::LineSeparator;
 }
 
+/// A control character, or its picture.
+constexpr bool Mostrato(char16_t qui, char16_t controllo) {
+  return qui == controllo || qui == ImmaginiControllo + controllo;
+}
+
+/// LF, VT, FF, CR and their pictures, and what else ends a line in Unicode.
+constexpr bool InterrompeRiga(char16_t qui) {
+  if (qui == 0x85 || qui == 0x2028 || qui == 0x2029) return true;
+  const char16_t controllo = qui > ImmaginiControllo ? static_cast<char16_t>(qui - ImmaginiControllo) : qui;
+  return controllo >= u'\n' && controllo <= u'\r';
+}
+
 }  // namespace
 
 QString PerSchermo(std::string_view ansi) {
@@ -112,9 +123,16 @@ QString SoloAnsi(const QString& testo) {
 }
 
 QString InUnaRiga(const QString& testo) {
-  static const QRegularExpression fini(
-      QStringLiteral("[\\r\\x{240D}][\\n\\x{240A}]|[\\n-\\r\\x{85}\\x{2028}\\x{2029}\\x{240A}-\\x{240D}]"));
-  return QString(testo).replace(fini, " ");
+  QString riga;
+  riga.reserve(testo.size());
+  for (qsizetype i = 0; i < testo.size(); ++i) {
+    const char16_t qui = testo[i].unicode();
+    riga += InterrompeRiga(qui) ? u' ' : testo[i];
+    const bool coppia =
+        Mostrato(qui, u'\r') && i + 1 < testo.size() && Mostrato(testo[i + 1].unicode(), u'\n');
+    if (coppia) ++i;
+  }
+  return riga;
 }
 
 QString PerSuggerimento(const QString& testo) {
