@@ -1,5 +1,8 @@
 #include "app/frmAbout.h"
 
+#include <QLayout>
+#include <algorithm>
+
 #include "start/Versione.h"
 #include "ui_frmAbout.h"
 
@@ -10,6 +13,7 @@ frmAbout::frmAbout(QWidget* padre)
   ui_->setupUi(this);
   ui_->picIcon->setPixmap(windowIcon().pixmap(64, 64));
   ui_->lblVersion->setText(QStringLiteral("Version %1").arg(VersioneVisibile));
+  resize(width(), std::max(height(), layout()->totalHeightForWidth(width())));  // in a large font
   connect(ui_->cmdOK, &QPushButton::clicked, this, &QDialog::accept);
 }
 

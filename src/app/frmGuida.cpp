@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "common/qtFuoco.h"
 #include "common/qtSchermo.h"
 
 namespace parvik {
@@ -19,9 +20,11 @@ frmGuida::frmGuida(const qtMenu& menu, QWidget* padre) : QDialog(padre), txtGuid
   txtGuida_->setObjectName("txtGuida");
   txtGuida_->setAccessibleName("Guida");
   txtGuida_->setHtml(TestoGuida(menu));
+  MostraFuoco(*txtGuida_);
   auto* pulsanti = new QDialogButtonBox;
   auto* chiudi = pulsanti->addButton("&Chiudi", QDialogButtonBox::RejectRole);
   chiudi->setObjectName("cmdChiudi");
+  chiudi->setAutoDefault(false);  // a default button does not show that it has the focus
   connect(pulsanti, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* colonna = new QVBoxLayout(this);
   colonna->addWidget(txtGuida_);

@@ -73,7 +73,7 @@ void frmParvik::CreaArea() {
   righelli_.emplace(editore_, *area_);
   for (const Sezione sezione : TutteLeSezioni) {
     area_->Editor(sezione).ImpostaDescrizione([this, sezione](std::string_view contenuto) {
-      return DaUtf8(editore_.Descrivi(sezione, contenuto));
+      return editore_.InUso(sezione) ? DaUtf8(editore_.Descrivi(sezione, contenuto)) : QString();
     });
     CollegaSezione(sezione);
   }

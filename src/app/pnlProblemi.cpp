@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "common/qtCampi.h"
+#include "common/qtFuoco.h"
 #include "common/qtTesto.h"
 
 namespace parvik {
@@ -38,6 +39,7 @@ pnlProblemi::pnlProblemi(const Editore& editore, QWidget* padre)
   lstProblemi_->setObjectName("lstProblemi");
   lstProblemi_->setAccessibleName("Problemi");
   lstProblemi_->setModel(elenco_);
+  MostraFuoco(*lstProblemi_);
   lstProblemi_->setRootIsDecorated(false);
   lstProblemi_->setUniformRowHeights(true);
   lstProblemi_->setAllColumnsShowFocus(true);

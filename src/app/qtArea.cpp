@@ -2,6 +2,7 @@
 
 #include <QKeySequence>
 #include <QShortcut>
+#include <algorithm>
 #include <cmath>
 
 #include "app/qtDivisore.h"
@@ -111,6 +112,7 @@ Finestra qtArea::Misure() const {
           .SinistraEtichette = InTwip(SinistraEtichette),
           .TreSezioni = stato_.InUso(Sezione::Piede),
           .Anteprima = stato_.Anteprima,
+          .AltezzaStato = std::max(AltezzaStatoUsuale, InTwip(lblRighe_->fontMetrics().height())),
           .Divisore = divisore_};
 }
 

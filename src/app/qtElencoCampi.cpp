@@ -127,10 +127,11 @@ QVariant qtElencoCampi::DatiVoce(const VoceInseribile& voce, int colonna, int ru
       if (ruolo == Qt::AccessibleDescriptionRole) return UsiDetti(voce);
       return {};
     case Numero:
+      if (ruolo == Qt::AccessibleTextRole && NumeroScritto(voce).empty()) return "senza numero";
       return ruolo == Qt::DisplayRole ? DaUtf8(NumeroScritto(voce)) : QVariant();
     default:
       if (ruolo == Qt::TextAlignmentRole) return QVariant(Qt::AlignRight | Qt::AlignVCenter);
-      if (ruolo == Qt::AccessibleTextRole) return UsiDetti(voce);
+      if (ruolo == Qt::AccessibleTextRole) return voce.Volte() == 0 ? "non nel modello" : UsiDetti(voce);
       if (ruolo != Qt::DisplayRole || voce.Volte() == 0) return {};
       return QStringLiteral("\u2022 %1").arg(voce.Volte());
   }

@@ -6,6 +6,7 @@
 namespace parvik {
 namespace {
 
+constexpr int Passi = 20;           // towards black or white
 constexpr double ForzaFondo = 0.2;  // how much of the highlight colour is in the mark
 
 double Lineare(int canale) {
@@ -31,6 +32,15 @@ QRgb Misto(QRgb da, QRgb a, double parte) {
 
 QRgb Estremo(QRgb base) {
   return Contrasto(Nero, base) >= Contrasto(Bianco, base) ? Nero : Bianco;
+}
+
+QRgb Leggibile(QRgb tinta, QRgb estremo, QRgb base, QRgb fondo) {
+  QRgb colore = tinta;
+  for (int passo = 1; passo <= Passi; ++passo) {
+    if (std::min(Contrasto(colore, base), Contrasto(colore, fondo)) >= ContrastoMinimo) break;
+    colore = Misto(tinta, estremo, static_cast<double>(passo) / Passi);
+  }
+  return colore;
 }
 
 QRgb FondoSu(QRgb base, QRgb evidenza, QRgb estremo) {

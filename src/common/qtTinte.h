@@ -19,6 +19,9 @@ QRgb Misto(QRgb da, QRgb a, double parte);
 /// Black or white, which of them is easier to read on that.
 QRgb Estremo(QRgb base);
 
+/// `tinta`, moved towards `estremo` until it can be read on both.
+QRgb Leggibile(QRgb tinta, QRgb estremo, QRgb base, QRgb fondo);
+
 /// A background that marks something: towards the highlight, as far as text in the colour `estremo` stays
 /// legible on it; if that is nowhere, away from `estremo`.
 QRgb FondoSu(QRgb base, QRgb evidenza, QRgb estremo);

@@ -6,7 +6,6 @@
 namespace parvik {
 namespace {
 
-constexpr int AltezzaStato = 255;
 constexpr int LarghezzaMinima = 120 * TwipPerPixel;
 constexpr int TraSezioni = 1;  // one twip between the boxes
 
@@ -56,10 +55,10 @@ Disposizione Disponi(const Finestra& finestra) {
     const int confine = sinistra + larghezza;
     const int resto = DestraAnteprima(finestra) - confine;
     const int presa = std::min(LarghezzaPresa, resto);
-    const int altezza = std::max(0, finestra.Altezza - AltezzaStato);
-    disposizione.StatoAnteprima = Rettangolo{confine, 0, resto, AltezzaStato};
-    disposizione.Presa = Rettangolo{confine, AltezzaStato, presa, altezza};
-    disposizione.Anteprima = Rettangolo{confine + presa, AltezzaStato, resto - presa, altezza};
+    const int altezza = std::max(0, finestra.Altezza - finestra.AltezzaStato);
+    disposizione.StatoAnteprima = Rettangolo{confine, 0, resto, finestra.AltezzaStato};
+    disposizione.Presa = Rettangolo{confine, finestra.AltezzaStato, presa, altezza};
+    disposizione.Anteprima = Rettangolo{confine + presa, finestra.AltezzaStato, resto - presa, altezza};
   }
   return disposizione;
 }

@@ -11,6 +11,7 @@
 namespace parvik {
 
 inline constexpr int TwipPerPixel = 15;
+inline constexpr int AltezzaStatoUsuale = 255;
 
 struct Rettangolo {
   int Sinistra = 0;
@@ -28,6 +29,8 @@ struct Finestra {
   int SinistraEtichette = 0;  // left edge of the labels, as designed
   bool TreSezioni = false;
   bool Anteprima = false;
+  /// Of the line above the pane.
+  int AltezzaStato = AltezzaStatoUsuale;
   /// Where the user has put the pane's left edge; by itself the sections have half of the window.
   std::optional<int> Divisore = std::nullopt;
 };

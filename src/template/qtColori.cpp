@@ -16,7 +16,6 @@ namespace parvik {
 namespace {
 
 constexpr double ForzaCampo = 0.1;  // how much of its colour is in a field
-constexpr int Passi = 20;           // from a colour to black or white
 
 // By TipoCodice. Far apart in hue; light and dark sets give a kind the same hue.
 constexpr auto TinteSuChiaro =
@@ -24,16 +23,6 @@ constexpr auto TinteSuChiaro =
 constexpr auto TinteSuScuro =
     std::to_array<QRgb>({0xFFFF8585, 0xFF8AB4F8, 0xFF7FD08F, 0xFFFBA35C, 0xFFD7A5FB, 0xFF5FD9E6, 0xFFDCCB4E});
 static_assert(TinteSuChiaro.size() == NumTipiCodice && TinteSuScuro.size() == NumTipiCodice);
-
-/// `tinta`, moved towards `estremo` until it can be read on both.
-QRgb Leggibile(QRgb tinta, QRgb estremo, QRgb base, QRgb fondo) {
-  QRgb colore = tinta;
-  for (int passo = 1; passo <= Passi; ++passo) {
-    if (std::min(Contrasto(colore, base), Contrasto(colore, fondo)) >= ContrastoMinimo) break;
-    colore = Misto(tinta, estremo, static_cast<double>(passo) / Passi);
-  }
-  return colore;
-}
 
 /// What the toolkit keeps with a line: whether a code is open at its end, and of which kind.
 constexpr int NessunoAperto = 0;

@@ -58,6 +58,7 @@ txtTCP::txtTCP(Documento& documento, Sezione sezione, QWidget* padre)
   connect(specchio_, &txtSpecchio::CodiciCambiati, colori_, &qtColori::ColoraDa);
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, &txtTCP::CursoreMosso);
   connect(this, &QPlainTextEdit::textChanged, this, &txtTCP::SegnaCodiciAlCursore);
+  connect(this, &QPlainTextEdit::textChanged, this, &txtTCP::DescriviCursore);
   connect(document(), &QTextDocument::contentsChange, colori_, &qtColori::Prosegui);
 }
 
@@ -114,7 +115,7 @@ void txtTCP::focusInEvent(QFocusEvent* evento) {
 
 void txtTCP::CursoreMosso() {
   if (!specchio_->AlLavoro()) documento_.InterrompiBattitura();
-  if (onde_) DescriviOndeAlCursore();
+  DescriviCursore();
   if (misura_) return TieniFuoriDaiCampi();
   SegnaCodiciAlCursore();
 }

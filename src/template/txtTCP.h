@@ -29,7 +29,7 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   Q_OBJECT
 
  public:
-  /// What a code is, for the tooltip.
+  /// What a code is, in words: for the tooltip, and for assistive technologies the one at the caret.
   using Descrizione = std::function<QString(std::string_view contenuto)>;
 
   /// Shows a section of `documento`, which must outlive this.
@@ -130,7 +130,7 @@ class txtTCP final : public QPlainTextEdit, private VedutaSezione {
   // txtTCPOnde.cpp
   std::vector<OndaTesto> OndeIn(const Selezione& parte) const;
   void DisegnaSegni(const QRect& parte);
-  void DescriviOndeAlCursore();
+  void DescriviCursore();
 
   // txtTCPMisura.cpp
   void DisegnaMisurata(const QRect& parte);

@@ -1,5 +1,5 @@
 // What the section editor shows over its text: what is wrong, for the eye, the mouse and assistive
-// technologies, and what was found.
+// technologies, which are told of the code at the caret too, and what was found.
 #include <QPainter>
 #include <QStringList>
 #include <QTextBlock>
@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "template/txtTCP.h"
+#include "tokens/Codice.h"
 
 namespace parvik {
 
@@ -17,7 +18,7 @@ void txtTCP::MostraOnde(LettoreOnde onde) {
 }
 
 void txtTCP::RidisegnaOnde() {
-  DescriviOndeAlCursore();
+  DescriviCursore();
   viewport()->update();
 }
 
@@ -41,11 +42,16 @@ void txtTCP::DisegnaSegni(const QRect& parte) {
   }
 }
 
-/// What is wrong at the caret is what assistive technologies read of the section besides its text.
-void txtTCP::DescriviOndeAlCursore() {
+/// What the code at the caret is, and what is wrong there: what assistive technologies read besides the text.
+void txtTCP::DescriviCursore() {
+  constexpr std::size_t LeggibileMassimo = 4096;  // bytes of a code that somebody could want to hear
+  const std::size_t posto = CursoreAttuale().Posto;
   QStringList detti;
-  for (const OndaTesto& onda : OndeIn({.Inizio = CursoreAttuale().Posto, .Lunghezza = 1}))
-    detti += onda.Detto;
+  for (const Selezione& codice : CodiciAlCursore(comandi_.Testo(), posto)) {
+    if (descrizione_ && codice.Lunghezza <= LeggibileMassimo)
+      detti += descrizione_(ContenutoDi(comandi_.Testo().Byte(codice)));
+  }
+  for (const OndaTesto& onda : OndeIn({.Inizio = posto, .Lunghezza = 1})) detti += onda.Detto;
   const QString detto = detti.join(u'\n');
   if (detto != accessibleDescription()) setAccessibleDescription(detto);
 }

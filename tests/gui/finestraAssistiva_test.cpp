@@ -94,6 +94,24 @@ TEST_F(FinestraAssistiva, NoEditOpensADialogOrLeavesHalfACode) {
   EXPECT_EQ(finestra_.Sezione(0).toPlainText(), "«V1pq;2L»") << "a space is not typed inside a code";
 }
 
+TEST_F(FinestraAssistiva, TheCodeAtTheCaretIsToldInWords) {
+  const auto detto = [this] { return interfaccia_->text(QAccessible::Description); };
+  ImpostaTesto(finestra_.Sezione(0), "ab «V1;9L» c");
+  const auto vaiA = [this](int posto) { interfaccia_->textInterface()->setCursorPosition(posto); };
+  vaiA(1);
+  EXPECT_EQ(detto(), "");
+  vaiA(5);
+  EXPECT_TRUE(detto().startsWith("Variabile 1")) << detto().toStdString();
+  EXPECT_TRUE(detto().contains("9 caratteri a sinistra")) << detto().toStdString();
+  vaiA(3);
+  EXPECT_TRUE(detto().startsWith("Variabile 1")) << "in front of it, where Delete takes it away";
+  vaiA(12);
+  EXPECT_EQ(detto(), "");
+  vaiA(4);
+  interfaccia_->editableTextInterface()->replaceText(3, 10, QString::fromUtf8("«S;NORMALE»"));
+  EXPECT_TRUE(detto().startsWith("Stile")) << detto().toStdString();
+}
+
 TEST_F(FinestraAssistiva, AnEditMakesTheTemplateModified) {
   interfaccia_->editableTextInterface()->insertText(0, "x");
   finestra_.Persona().Rispondera(Risposta::Annulla);
