@@ -33,6 +33,12 @@ found=$(grep -nE '#include (<([a-z_0-9/]+\.h|cerrno|clocale|csignal)>|"sistema/p
   $outside | grep -v '#include <emmintrin.h>' || true)
 [ -z "$found" ] || complain "the system outside src/sistema/posix: $found"
 
+# Names that belong to the compiler are used where it gives them, and made nowhere.
+# shellcheck disable=SC2046
+found=$(grep -noP '(?<![\w"])(_[A-Z]\w*|\w*__\w*)' $(echo "$files" | grep '^src/') |
+  grep -vE ':(__(FILE|LINE|func|SSE2)__|__m128i|_Exit|_O_BINARY|_WIN32)$' || true)
+[ -z "$found" ] || complain "reserved names: $found"
+
 # A form is a dialog or the main window: what else knows Qt has another mark.
 for header in src/*/frm*.h; do
   grep -qE '^class frm[A-Za-z]+( final)? : public (QDialog|QMainWindow|frm[A-Za-z]+)\b' "$header" ||
