@@ -27,11 +27,16 @@ found=$(grep -lE '#include [<"](Q[A-Z]|frm|ui_|[a-z]+/((frm|qt|txt|lbl|ric|bar|p
 
 # The system is in one room, behind headers that name none: outside it the C++ library is enough,
 # and the instructions of a processor.
-outside=$(echo "$files" | grep '^src/' | grep -v '^src/sistema/posix/')
+outside=$(echo "$files" | grep '^src/' | grep -vE '^src/sistema/(posix|windows)/')
 # shellcheck disable=SC2086
-found=$(grep -nE '#include (<([a-z_0-9/]+\.h|cerrno|clocale|csignal)>|"sistema/posix/)|[^A-Za-z0-9_>]::[a-z_0-9]+\(|\bgetenv\(|"/(dev|etc|proc|tmp)\b' \
+found=$(grep -nE '#include (<([a-z_0-9/]+\.h|cerrno|clocale|csignal)>|"sistema/(posix|windows)/)|[^A-Za-z0-9_>]::[a-z_0-9]+\(|\bgetenv\(|"/(dev|etc|proc|tmp)\b' \
   $outside | grep -v '#include <emmintrin.h>' || true)
-[ -z "$found" ] || complain "the system outside src/sistema/posix: $found"
+[ -z "$found" ] || complain "the system outside its folders in src/sistema: $found"
+
+# A text of a path, which may be none of bytes, is common/TestoPercorso.h's: the library's own follows a code page.
+# shellcheck disable=SC2046,SC2086
+found=$(grep -nE '(\.|->)string\(\)' $(echo "$core" | grep -v '^src/sistema/posix/') || true)
+[ -z "$found" ] || complain "TestoPercorso instead of string(): $found"
 
 # Names that belong to the compiler are used where it gives them, and made nowhere.
 # shellcheck disable=SC2046

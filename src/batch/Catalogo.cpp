@@ -39,7 +39,7 @@ std::string SezioniDove(std::span<const ErroreSezione> errori, const Quale& qual
 std::filesystem::path FileCatalogo(const Opzioni& opzioni) {
   if (opzioni.Campi) return *opzioni.Campi;
   if (opzioni.Velkor) return Installazione::In(*opzioni.Velkor).FileCampi;
-  const std::filesystem::path dirVelkor = TrovaDirVelkor(AmbienteDelProcesso(opzioni.Programma.c_str()));
+  const std::filesystem::path dirVelkor = TrovaDirVelkor(AmbienteDelProcesso(opzioni.Programma));
   if (dirVelkor.empty()) {
     Segnala("VELKOR.INI: Non sono riuscito a trovare la directory di installazione di [velkor].");
     return {};

@@ -9,6 +9,7 @@
 #include "batch/Lettura.h"
 #include "batch/Messaggi.h"
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 #include "verifica/Inventario.h"
 
 namespace parvik::batch {
@@ -19,7 +20,7 @@ using File = std::vector<std::filesystem::path>;
 std::string InRiga(const Usato& usato, const Usi& usi, const Inventario& inventario, const File& letti) {
   std::string riga(NomeGenere(usato.Genere));
   riga += "\t" + usato.Nome + "\t" + std::to_string(usi.Volte) + "\t" + inventario.Descrizione(usato);
-  for (const auto& [file, volte] : usi.PerFile) riga += "\t" + Mostrabile(letti[file].string());
+  for (const auto& [file, volte] : usi.PerFile) riga += "\t" + Mostrabile(TestoPercorso(letti[file]));
   return riga + "\n";
 }
 

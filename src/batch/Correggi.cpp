@@ -5,6 +5,7 @@
 #include "batch/Diff.h"
 #include "batch/Messaggi.h"
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 #include "sistema/CopiaPrecedente.h"
 #include "sistema/LetturaFile.h"
 #include "sistema/ScritturaSicura.h"
@@ -26,7 +27,7 @@ EsitoScrittura Sostituisci(const std::filesystem::path& file, std::string_view v
 void SegnalaMancate(const std::filesystem::path& file, const FileCorretto& corretto) {
   for (const CorrezioneMancata& mancata : corretto.Mancate) {
     const Rilievo& rilievo = mancata.Quale;
-    Segnala(Mostrabile(file.string()) + ":" + std::to_string(rilievo.Riga) + ":" +
+    Segnala(Mostrabile(TestoPercorso(file)) + ":" + std::to_string(rilievo.Riga) + ":" +
             std::to_string(rilievo.Colonna) + ": avviso: non corretto, " +
             std::string(Motivo(mancata.Perche)) + " [" + std::string(VoceDi(rilievo.Quale).Nome) + "]");
   }

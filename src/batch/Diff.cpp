@@ -5,6 +5,7 @@
 
 #include "common/LettoreRighe.h"
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 #include "common/Windows1252.h"
 
 namespace parvik::batch {
@@ -83,7 +84,7 @@ class Diff {
 }  // namespace
 
 std::string DiffUnificato(const std::filesystem::path& file, std::string_view prima, std::string_view dopo) {
-  const std::string nome = Mostrabile(file.string());
+  const std::string nome = Mostrabile(TestoPercorso(file));
   const std::string brani = Diff(prima, dopo).Testo();
   return brani.empty() ? brani : "--- " + nome + "\n+++ " + nome + "\n" + brani;
 }

@@ -2,11 +2,12 @@
 
 #include "batch/Messaggi.h"
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 
 namespace parvik::batch {
 
 std::string NomePerJson(const std::filesystem::path& file) {
-  std::string nome = file.string();
+  std::string nome = TestoPercorso(file);
   try {
     static_cast<void>(Json(nome).dump());
     return nome;

@@ -1,9 +1,9 @@
 #include "batch/Messaggi.h"
 
 #include <algorithm>
-#include <cstdio>
 
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 #include "common/Windows1252.h"
 #include "sistema/UscitaStandard.h"
 
@@ -20,12 +20,11 @@ void Segnala(std::string_view testo) {
     }
   }
   riga = "parvik32-batch: " + Mostrabile(riga) + '\n';
-  // Nobody is left to tell when standard error itself fails.
-  static_cast<void>(std::fwrite(riga.data(), 1, riga.size(), stderr));
+  ScriviErrori(riga);
 }
 
 void Segnala(const std::filesystem::path& file, std::string_view testo) {
-  Segnala(Mostrabile(file.string()) + ": " + std::string(testo));
+  Segnala(Mostrabile(TestoPercorso(file)) + ": " + std::string(testo));
 }
 
 void Segnala(const std::filesystem::path& file, NumeroErrore errore) {

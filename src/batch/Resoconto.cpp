@@ -7,6 +7,7 @@
 #include "batch/Messaggi.h"
 #include "common/ParoleComuni.h"
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 #include "common/Windows1252.h"
 
 namespace parvik::batch {
@@ -30,7 +31,7 @@ class RigheDiTesto final : public Resoconto {
  public:
   bool File(const std::filesystem::path& file, std::span<const RilievoDetto> rilievi) override {
     if (rilievi.empty()) return true;
-    const std::string nome = Mostrabile(file.string()) + ":";
+    const std::string nome = Mostrabile(TestoPercorso(file)) + ":";
     std::string righe;
     for (const RilievoDetto& rilievo : rilievi) {
       righe += nome + std::to_string(rilievo.Riga) + ":" + std::to_string(rilievo.Colonna) + ": ";
@@ -48,7 +49,7 @@ class RigheDiSommario final : public Resoconto {
  public:
   bool File(const std::filesystem::path& file, std::span<const RilievoDetto> rilievi) override {
     const Conti conti = Conta(rilievi);
-    return Stampa(Mostrabile(file.string()) + ": " + Quanti(conti.Errori, "errore", "errori") + ", " +
+    return Stampa(Mostrabile(TestoPercorso(file)) + ": " + Quanti(conti.Errori, "errore", "errori") + ", " +
                   Quanti(conti.Avvisi, "avviso", "avvisi") + "\n");
   }
 };

@@ -3,14 +3,17 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "batch/Messaggi.h"
 #include "batch/Parole.h"
 #include "batch/Valori.h"
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 #include "start/Versione.h"
 
 namespace parvik::batch {
@@ -48,20 +51,20 @@ class RigaDiComando {
     AggiungiCodici();
   }
 
-  Uscita Esegui(int argc, char** argv) {
+  Uscita Esegui(const std::vector<std::string>& riga) {
     const Parole parole = Scherma(
-        {argv + 1, argv + argc}, [this](const std::string& nome) { return Genere(nome); },
+        {riga.begin() + 1, riga.end()}, [this](const std::string& nome) { return Genere(nome); },
         [this](const std::string& nome) { return EComando(nome); });
     try {
       app_.parse(std::vector<std::string>(parole.Schermate.rbegin(), parole.Schermate.rend()));
     } catch (const CLI::ParseError& errore) {
-      if (errore.get_exit_code() == 0) return app_.exit(errore) == 0 ? Uscita::Fatto : Uscita::NonFatto;
+      if (errore.get_exit_code() == 0) return Mostra(errore);
       Segnala(Spiega(errore, parole) + " (--help elenca gli argomenti)");
       return Uscita::NonFatto;
     }
-    Completa(argv[0]);
+    Completa(riga.front());
     if (comando_ == Normalizza && opzioni_.Uscita && opzioni_.File.size() > 1) {
-      Segnala("-o vuole un file solo: " + Mostrabile(opzioni_.Uscita->string()));
+      Segnala("-o vuole un file solo: " + Mostrabile(TestoPercorso(*opzioni_.Uscita)));
       return Uscita::NonFatto;
     }
     if (const std::string manca = Manca(); !manca.empty()) {
@@ -85,6 +88,13 @@ class RigaDiComando {
       return opzione->get_items_expected_min() > 0 ? GenereOpzione::ConValore : GenereOpzione::SenzaValore;
     }
     return GenereOpzione::Sconosciuta;
+  }
+
+  /// The help or the version, which the library takes for errors.
+  Uscita Mostra(const CLI::ParseError& richiesta) const {
+    std::ostringstream testo;
+    static_cast<void>(app_.exit(richiesta, testo, testo));
+    return parvik::batch::Stampa(std::move(testo).str()) ? Uscita::Fatto : Uscita::NonFatto;
   }
 
   /// What a command lacks that it does not always want.
@@ -251,16 +261,16 @@ class RigaDiComando {
   }
 
   /// From what was written to what it means; every value has passed its check.
-  void Completa(const char* programma) {
-    opzioni_.Programma = programma;
-    if (!velkor_.empty()) opzioni_.Velkor = velkor_;
-    if (!campi_.empty()) opzioni_.Campi = campi_;
-    if (!uscita_.empty()) opzioni_.Uscita = uscita_;
+  void Completa(const std::string& programma) {
+    opzioni_.Programma = PercorsoDaTesto(programma);
+    if (!velkor_.empty()) opzioni_.Velkor = PercorsoDaTesto(velkor_);
+    if (!campi_.empty()) opzioni_.Campi = PercorsoDaTesto(campi_);
+    if (!uscita_.empty()) opzioni_.Uscita = PercorsoDaTesto(uscita_);
     opzioni_.Tipo = NumeroIntero(tipo_).value_or(0);
     opzioni_.TipoAuto = tipo_ == Auto;
     CompletaVerifica(opzioni_.Rilievi.Opzioni);
     opzioni_.Veri = Numeri(veri_).value_or(std::vector<int>());
-    opzioni_.File.assign(file_.begin(), file_.end());
+    for (const std::string& file : file_) opzioni_.File.push_back(PercorsoDaTesto(file));
     const auto nome = std::ranges::find(NomiSezioni, sezione_);
     if (nome != NomiSezioni.end()) {
       opzioni_.SolaSezione = TutteLeSezioni[static_cast<std::size_t>(nome - NomiSezioni.begin())];
@@ -297,8 +307,8 @@ class RigaDiComando {
 
 }  // namespace
 
-Uscita Esegui(int argc, char** argv) {
-  return RigaDiComando().Esegui(argc, argv);
+Uscita Esegui(const std::vector<std::string>& riga) {
+  return RigaDiComando().Esegui(riga);
 }
 
 }  // namespace parvik::batch

@@ -1,12 +1,15 @@
 // The command line of parvik32-batch.
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "batch/Comandi.h"
 
 namespace parvik::batch {
 
-/// Reads the arguments and runs the command that they name. Help and version end with Fatto, arguments that
-/// are not understood with NonFatto.
-Uscita Esegui(int argc, char** argv);
+/// Reads the words, the program's own name first, and runs the command that they name. Help and version end
+/// with Fatto, arguments that are not understood with NonFatto.
+Uscita Esegui(const std::vector<std::string>& riga);
 
 }  // namespace parvik::batch

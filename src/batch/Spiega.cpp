@@ -9,6 +9,7 @@
 #include "batch/Json.h"
 #include "batch/Messaggi.h"
 #include "common/Delimitatori.h"
+#include "common/TestoPercorso.h"
 #include "common/Windows1252.h"
 #include "verifica/SpiegaCodice.h"
 
@@ -72,7 +73,7 @@ Uscita Spiega(const Opzioni& opzioni) {
   ElencoJson elenco;
   bool scritto = !opzioni.Rilievi.Json || elenco.Inizia();
   for (const std::filesystem::path& codice : opzioni.File) {
-    const CodiceSpiegato spiegato = SpiegaCodice(Contenuto(codice.string()), variabili.Voci, flag.Voci);
+    const CodiceSpiegato spiegato = SpiegaCodice(Contenuto(TestoPercorso(codice)), variabili.Voci, flag.Voci);
     scritto =
         scritto && (opzioni.Rilievi.Json ? elenco.Aggiungi(PerJson(spiegato)) : Stampa(InRighe(spiegato)));
   }

@@ -1,6 +1,7 @@
 #include "batch/TipiInEsame.h"
 
 #include "catalogue/TrovaTipo.h"
+#include "common/TestoPercorso.h"
 #include "common/Windows1252.h"
 
 namespace parvik::batch {
@@ -17,7 +18,7 @@ Verificatore* TipiInEsame::Per(const TipoDoc& tipo) {
 
 std::vector<const TipoDoc*> TipiInEsame::PerNome(const std::filesystem::path& file) const {
   std::vector<const TipoDoc*> tipi;
-  for (const std::size_t slot : TipiPerNome(catalogo_.Campi, file.filename().string()))
+  for (const std::size_t slot : TipiPerNome(catalogo_.Campi, TestoPercorso(file.filename())))
     tipi.push_back(&catalogo_.Campi.TipiDoc()[slot]);
   return tipi;
 }

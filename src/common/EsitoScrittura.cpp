@@ -1,6 +1,7 @@
 #include "common/EsitoScrittura.h"
 
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 
 namespace parvik {
 
@@ -17,7 +18,7 @@ std::string TestoAvviso(const Scritto& scritto) {
   if (scritto.CopiaTenuta.empty()) return testo;
   if (!testo.empty()) testo += "\r\n";
   return testo + "Un salvataggio interrotto aveva lasciato il contenuto di prima: ora è in " +
-         Mostrabile(scritto.CopiaTenuta.string());
+         Mostrabile(TestoPercorso(scritto.CopiaTenuta));
 }
 
 }  // namespace parvik

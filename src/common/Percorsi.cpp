@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <system_error>
 
+#include "common/TestoPercorso.h"
 #include "common/Windows1252.h"
 
 namespace parvik {
@@ -25,21 +26,24 @@ bool EsisteFile(const std::filesystem::path& percorso) {
 }
 
 std::filesystem::path TrovaSenzaCaso(const std::filesystem::path& cartella, std::string_view nome) {
-  std::filesystem::path esatto = cartella / nome;
+  std::filesystem::path esatto = cartella / PercorsoDaTesto(nome);
   std::error_code errore;
   if (std::filesystem::exists(esatto, errore)) return esatto;
   std::string migliore;
   for (std::filesystem::directory_iterator voce(cartella, errore), fine; !errore && voce != fine;
        voce.increment(errore)) {
-    std::string candidato = voce->path().filename().string();
+    std::string candidato = TestoPercorso(voce->path().filename());
     if (UgualiSenzaCaso(candidato, nome) && (migliore.empty() || candidato < migliore)) {
       migliore = std::move(candidato);
     }
   }
-  return migliore.empty() ? esatto : cartella / migliore;
+  return migliore.empty() ? esatto : cartella / PercorsoDaTesto(migliore);
 }
 
 std::filesystem::path PercorsoDellHost(std::string_view valore) {
+  // A system whose own separator it is has the names of the host's.
+  if constexpr (std::filesystem::path::preferred_separator == '\\')
+    return PercorsoDaTesto(Utf8DaAnsi(valore)).make_preferred();
   std::string byte(valore);
   std::ranges::replace(byte, '\\', '/');
   std::error_code errore;
@@ -49,7 +53,7 @@ std::filesystem::path PercorsoDellHost(std::string_view valore) {
 }
 
 std::filesystem::path ConEstensione(std::filesystem::path percorso, std::string_view estensione) {
-  if (percorso.filename().string().find('.') == std::string::npos) percorso += estensione;
+  if (TestoPercorso(percorso.filename()).find('.') == std::string::npos) percorso += estensione;
   return percorso;
 }
 

@@ -12,8 +12,9 @@ namespace parvik {
 /// come from shares that do not tell the cases apart. `cartella`/`nome` again when there is none.
 std::filesystem::path TrovaSenzaCaso(const std::filesystem::path& cartella, std::string_view nome);
 
-/// The folder that a value of the host means: a backslash is "/". The host writes Windows-1252; where the
-/// very bytes name nothing that exists, but the same text in UTF-8 does, it is that.
+/// The folder that a value of the host means. Where a backslash separates it is what the value says;
+/// elsewhere a backslash is "/", and, for the host writes Windows-1252, where the very bytes name nothing
+/// that exists, but the same text in UTF-8 does, it is that.
 std::filesystem::path PercorsoDellHost(std::string_view valore);
 
 /// The small letter of A to Z; any other character as it is. No locale.

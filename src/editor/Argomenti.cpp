@@ -4,6 +4,8 @@
 #include <array>
 #include <charconv>
 
+#include "common/TestoPercorso.h"
+
 namespace parvik {
 
 const std::string_view AiutoEditore =
@@ -94,7 +96,7 @@ class Lettore {
   void Metti(std::optional<std::filesystem::path>& dove, std::string_view nome, std::string_view valore) {
     if (valore.empty()) sbaglio_ = std::string(nome) + " vuole un nome";
     if (dove) sbaglio_ = std::string(nome) + " va indicato una volta sola";
-    if (sbaglio_.empty()) dove = valore;
+    if (sbaglio_.empty()) dove = PercorsoDaTesto(valore);
   }
 
   void MettiTipo(std::string_view valore) {

@@ -7,6 +7,7 @@
 #include "common/Delimitatori.h"
 #include "common/Percorsi.h"
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 #include "editor/UsciteStampa.h"
 #include "sistema/ScritturaSicura.h"
 
@@ -41,11 +42,11 @@ fs::path ComandoEsporta::ScegliFile() {
   if (scelto.empty()) return {};
   fs::path file = ConEstensione(scelto, EstensionePdf);
   if (!EsisteFile(file)) return file;
-  const Risposta risposta =
-      interlocutore_.Chiedi({.Testo = "Il file esiste già, vuoi sostituirlo?\r\n" + Mostrabile(file.string()),
-                             .Simbolo = Icona::Domanda,
-                             .Tasti = Pulsanti::SiNo,
-                             .Titolo = TitoloEsporta});
+  const Risposta risposta = interlocutore_.Chiedi(
+      {.Testo = "Il file esiste già, vuoi sostituirlo?\r\n" + Mostrabile(TestoPercorso(file)),
+       .Simbolo = Icona::Domanda,
+       .Tasti = Pulsanti::SiNo,
+       .Titolo = TitoloEsporta});
   return risposta == Risposta::Si ? file : fs::path();
 }
 
@@ -55,7 +56,7 @@ void ComandoEsporta::Esegui(const TipoDoc& tipo, const Foglio& foglio) {
   const std::optional<EsitoScrittura> scritto = Scrivi(file, tipo, foglio);
   if (!scritto) return;
   if (*scritto) return Avverti(**scritto, interlocutore_);
-  interlocutore_.Chiedi({.Testo = TestoErrore(scritto->Errore()) + "\r\n" + Mostrabile(file.string())});
+  interlocutore_.Chiedi({.Testo = TestoErrore(scritto->Errore()) + "\r\n" + Mostrabile(TestoPercorso(file))});
 }
 
 /// A file that cannot be written is found out before anybody waits for the run. Nothing when it was given up,

@@ -5,6 +5,7 @@
 
 #include "common/Avverti.h"
 #include "common/Percorsi.h"
+#include "common/TestoPercorso.h"
 #include "editor/UsciteStampa.h"
 
 namespace parvik {
@@ -49,7 +50,7 @@ RichiestaFile ComandoStampa::RichiestaTesto() const {
   richiesta.EtichettaFiltro = "File TXT (*.txt)";
   richiesta.Modello = "*.txt";
   richiesta.NomeProposto =
-      scelto_.empty() ? NomeUscita(documento_.Stato(), EstensioneTesti) : scelto_.string();
+      scelto_.empty() ? NomeUscita(documento_.Stato(), EstensioneTesti) : TestoPercorso(scelto_);
   return richiesta;
 }
 

@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 #include "sistema/ErroreSistema.h"
 
 namespace parvik {
@@ -11,7 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string Detto(const fs::path& file, const std::string& che) {
-  return Mostrabile(file.string()) + ": " + che;
+  return Mostrabile(TestoPercorso(file)) + ": " + che;
 }
 
 /// A folder that takes the copy: made, or there and empty.

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "common/Impronta.h"
+#include "common/TestoPercorso.h"
 #include "sistema/LetturaFile.h"
 
 namespace parvik {
@@ -86,7 +87,7 @@ class LettoreCampi {
 
 ImprontaFile LeggiOrigine(LettoreCampi& campi) {
   ImprontaFile origine;
-  origine.File = campi.Testo(OrigineFile);
+  origine.File = PercorsoDaTesto(campi.Testo(OrigineFile));
   origine.Dimensione = campi.NumeroIn<std::uint64_t>(OrigineDimensione);
   origine.Impronta = campi.NumeroIn<std::uint64_t>(OrigineImpronta, 16);
   return origine;
@@ -112,13 +113,13 @@ std::string ScriviCopia(const CopiaRecupero& copia) {
   std::string byte(Inizio);
   Metti(byte, Quando, std::to_string(copia.Quando));
   Metti(byte, Tipo, std::to_string(copia.Tipo));
-  Metti(byte, Nome, copia.NomeFile.string());
+  Metti(byte, Nome, TestoPercorso(copia.NomeFile));
   Metti(byte, Righe, std::to_string(copia.Corpo.RigheCorpo));
   Metti(byte, Linee, std::to_string(copia.Corpo.LineeCorpo));
   Metti(byte, Sbarra, copia.Corpo.FlagSbarra);
   Metti(byte, Accorpa, copia.Corpo.FlagAccorpa);
   if (copia.Origine) {
-    Metti(byte, OrigineFile, copia.Origine->File.string());
+    Metti(byte, OrigineFile, TestoPercorso(copia.Origine->File));
     Metti(byte, OrigineDimensione, std::to_string(copia.Origine->Dimensione));
     Metti(byte, OrigineImpronta, Esadecimale(copia.Origine->Impronta, CifreImpronta));
   }
@@ -134,7 +135,7 @@ std::optional<CopiaRecupero> LeggiCopia(std::string_view byte) {
   CopiaRecupero copia;
   copia.Quando = campi.NumeroIn<std::int64_t>(Quando);
   copia.Tipo = campi.NumeroIn<int>(Tipo);
-  copia.NomeFile = campi.Testo(Nome);
+  copia.NomeFile = PercorsoDaTesto(campi.Testo(Nome));
   copia.Corpo.RigheCorpo = campi.NumeroIn<std::int16_t>(Righe);
   copia.Corpo.LineeCorpo = campi.NumeroIn<std::int16_t>(Linee);
   copia.Corpo.FlagSbarra = campi.Testo(Sbarra);

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "common/Impronta.h"
+#include "common/TestoPercorso.h"
 #include "sistema/LetturaFile.h"
 #include "sistema/ScritturaSicura.h"
 
@@ -114,13 +115,13 @@ std::vector<CopiaTrovata> CercaCopie(const fs::path& stato) {
   const std::vector<fs::path> file = FileIn(cartella);
   std::set<std::string> chiavi;
   for (const fs::path& nome : file)
-    if (const auto chiave = ChiaveDi(nome.filename().string())) chiavi.insert(*chiave);
+    if (const auto chiave = ChiaveDi(TestoPercorso(nome.filename()))) chiavi.insert(*chiave);
   std::vector<CopiaTrovata> trovate;
   for (const std::string& chiave : chiavi) {
     Presenza custodia(cartella / NomeDi(chiave, EstensioneSegno));
     if (custodia.Trovati() != Presenza::Altri::Nessuno) continue;
     for (const fs::path& nome : file)
-      if (nome.filename().string().starts_with('.' + NomeDi(chiave, EstensioneCopia))) TogliFile(nome);
+      if (TestoPercorso(nome.filename()).starts_with('.' + NomeDi(chiave, EstensioneCopia))) TogliFile(nome);
     fs::path suo = cartella / NomeDi(chiave, EstensioneCopia);
     auto copia = LeggiCopiaDa(suo);
     if (!copia) continue;

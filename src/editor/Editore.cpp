@@ -5,6 +5,7 @@
 #include "catalogue/TrovaTipo.h"
 #include "common/Delimitatori.h"
 #include "common/Precondizione.h"
+#include "common/TestoPercorso.h"
 #include "common/Windows1252.h"
 
 namespace parvik {
@@ -80,7 +81,7 @@ void Editore::ApriDaFuori(const std::filesystem::path& nome) {
 std::optional<std::size_t> Editore::TipoDaProporre(const std::filesystem::path& nome) {
   const std::optional<std::filesystem::path> file = comandi_.TrovaDaFuori(nome);
   if (!file) return std::nullopt;
-  const std::vector<std::size_t> adatti = TipiPerNome(catalogo_, file->filename().string());
+  const std::vector<std::size_t> adatti = TipiPerNome(catalogo_, TestoPercorso(file->filename()));
   return adatti.empty() ? 0 : adatti.front();
 }
 

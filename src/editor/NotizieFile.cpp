@@ -1,6 +1,7 @@
 #include "editor/NotizieFile.h"
 
 #include "common/Impronta.h"
+#include "common/TestoPercorso.h"
 
 namespace parvik {
 namespace {
@@ -47,7 +48,8 @@ void NotizieFile::SegnaAperto() {
   std::error_code errore;
   const std::filesystem::path vero = std::filesystem::canonical(file_, errore);
   if (errore) return;
-  aperto_ = Presenza(esecuzione_ / "ordavia" / (Esadecimale(Impronta(vero.string()), CifreNome) + ".aperto"));
+  aperto_ =
+      Presenza(esecuzione_ / "ordavia" / (Esadecimale(Impronta(TestoPercorso(vero)), CifreNome) + ".aperto"));
   if (aperto_.Trovati() == Presenza::Altri::Presenti) ora_ = Notizia::GiaAperto;
 }
 

@@ -6,6 +6,7 @@
 
 #include "common/ParoleComuni.h"
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 #include "template/TastiSezione.h"
 
 namespace parvik {
@@ -27,13 +28,13 @@ std::string Percorso(const std::filesystem::path& file) {
   if (file.empty()) return {};
   std::error_code errore;
   const std::filesystem::path intero = std::filesystem::absolute(file, errore);
-  return Mostrabile((errore ? file : intero).string());
+  return Mostrabile(TestoPercorso(errore ? file : intero));
 }
 
 /// The template's path, but after a save that kept what it found the name that this has now, beside it.
 std::string DettoDelFile(const StatoModello& stato) {
   if (stato.Tenuta.empty()) return Percorso(stato.NomeFile);
-  return "La versione trovata sul disco è in " + Mostrabile(stato.Tenuta.filename().string());
+  return "La versione trovata sul disco è in " + Mostrabile(TestoPercorso(stato.Tenuta.filename()));
 }
 
 std::string Righe(const CorsaMostrata& corsa) {

@@ -2,6 +2,8 @@
 
 #include <system_error>
 
+#include "common/TestoPercorso.h"
+
 namespace parvik {
 namespace {
 
@@ -18,11 +20,11 @@ fs::path CartellaUscite(const Installazione& installazione) {
 }
 
 std::string NomeUscita(const StatoModello& stato, const char* estensione) {
-  return stato.NomeFile.empty() ? std::string() : stato.NomeFile.stem().string() + estensione;
+  return stato.NomeFile.empty() ? std::string() : TestoPercorso(stato.NomeFile.stem()) + estensione;
 }
 
 std::string NomeLavoro(const StatoModello& stato) {
-  return stato.NomeFile.empty() ? NomeLavoroSenzaFile : stato.NomeFile.filename().string();
+  return stato.NomeFile.empty() ? NomeLavoroSenzaFile : TestoPercorso(stato.NomeFile.filename());
 }
 
 }  // namespace parvik

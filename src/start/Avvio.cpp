@@ -3,13 +3,14 @@
 #include <utility>
 
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 #include "sistema/LetturaFile.h"
 
 namespace parvik {
 namespace {
 
 std::string TestoConPosto(NumeroErrore errore, const std::filesystem::path& file, std::size_t riga) {
-  return TestoErrore(errore) + "\r\n" + Mostrabile(file.string()) + ", riga " + std::to_string(riga);
+  return TestoErrore(errore) + "\r\n" + Mostrabile(TestoPercorso(file)) + ", riga " + std::to_string(riga);
 }
 
 }  // namespace

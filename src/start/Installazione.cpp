@@ -5,10 +5,9 @@
 #include <string_view>
 
 #include "common/Percorsi.h"
-#include "common/ProfiloHost.h"
 #include "sistema/CartelleConfigurazione.h"
 #include "sistema/DirProgramma.h"
-#include "sistema/LetturaFile.h"
+#include "sistema/LetturaProfilo.h"
 
 namespace parvik {
 namespace {
@@ -27,9 +26,7 @@ std::string DirDalProfilo(const Ambiente& ambiente) {
   for (const fs::path& cartella : ambiente.CartelleConfigurazione) {
     const fs::path profilo = TrovaSenzaCaso(cartella, FileProfilo);
     if (!EsisteFile(profilo)) continue;
-    // A profile that cannot be read says nothing, as for the host's own reader.
-    const Esito<std::string> contenuto = LeggiFile(profilo);
-    return contenuto ? LeggiProfilo(*contenuto, "AMBIENTE", "Dir velkor") : std::string();
+    return LeggiDaProfilo(profilo, "AMBIENTE", "Dir velkor");
   }
   return {};
 }
@@ -52,8 +49,8 @@ fs::path CercaCampi(const fs::path& dirImg, Interlocutore& interlocutore) {
 
 }  // namespace
 
-Ambiente AmbienteDelProcesso(const char* argv0) {
-  return {.DirProgramma = DirProgramma(argv0),
+Ambiente AmbienteDelProcesso(const fs::path& chiamato) {
+  return {.DirProgramma = DirProgramma(chiamato),
           .CartelleConfigurazione = CartelleConfigurazione(),
           .CartellaUtente = CartellaConfigurazioneUtente(),
           .CartellaStato = CartellaStatoUtente(),

@@ -23,8 +23,8 @@ struct Ambiente {
   std::filesystem::path CartellaEsecuzione = {};
 };
 
-/// The running process: `argv0` as in DirProgramma(); $XDG_CONFIG_HOME, $XDG_CONFIG_DIRS and /etc.
-Ambiente AmbienteDelProcesso(const char* argv0);
+/// The running process: `chiamato` as in DirProgramma(); the folders as in CartelleConfigurazione().
+Ambiente AmbienteDelProcesso(const std::filesystem::path& chiamato);
 
 struct Installazione {
   std::filesystem::path DirVelkor;  // ends with a separator

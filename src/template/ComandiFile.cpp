@@ -11,6 +11,7 @@
 #include "common/Percorsi.h"
 #include "common/SeBastaMemoria.h"
 #include "common/TestoMostrabile.h"
+#include "common/TestoPercorso.h"
 #include "common/Windows1252.h"
 #include "sistema/CopiaPrecedente.h"
 #include "sistema/LetturaFile.h"
@@ -41,7 +42,7 @@ std::string NomeProposto(const TipoDoc& tipo) {
 fs::path FileDaAprire(const fs::path& scelto) {
   if (EsisteFile(scelto)) return scelto;
   const fs::path completo = ConEstensione(scelto, EstensioneModelli);
-  return TrovaSenzaCaso(completo.parent_path(), completo.filename().string());
+  return TrovaSenzaCaso(completo.parent_path(), TestoPercorso(completo.filename()));
 }
 
 /// Where a template is saved whose name was chosen or typed. A name without an extension means the file that
@@ -77,7 +78,7 @@ RichiestaFile RichiestaModello(RichiestaFile::Scopo uso, const TipoDoc& tipo, co
 }  // namespace
 
 std::string TitoloCon(const fs::path& file) {
-  return "Ordavia - " + UltimiCaratteri(file.string(), CaratteriTitolo);
+  return "Ordavia - " + UltimiCaratteri(TestoPercorso(file), CaratteriTitolo);
 }
 
 ComandiFile::ComandiFile(Documento& documento, Interlocutore& interlocutore, Contorno& contorno,
@@ -138,7 +139,7 @@ Esito<void> ComandiFile::ApriScelto(const TipoDoc& tipo) {
 }
 
 void ComandiFile::SegnalaConNome(NumeroErrore errore, const fs::path& file) {
-  interlocutore_.Chiedi({.Testo = TestoErrore(errore) + "\r\n" + Mostrabile(file.string())});
+  interlocutore_.Chiedi({.Testo = TestoErrore(errore) + "\r\n" + Mostrabile(TestoPercorso(file))});
 }
 
 std::optional<fs::path> ComandiFile::TrovaDaFuori(const fs::path& nome) {
