@@ -1,7 +1,9 @@
 # The one place of compiler and linker flags: every target of the project links parvik_flags.
-include(CheckPIESupported)
-check_pie_supported()
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT WIN32)
+  include(CheckPIESupported)
+  check_pie_supported()
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+endif()
 
 add_library(parvik_flags INTERFACE)
 target_compile_features(parvik_flags INTERFACE cxx_std_20)
@@ -21,6 +23,12 @@ if(PARVIK_SANITIZERS)
   if(PARVIK_FUZZ)
     target_compile_options(parvik_flags INTERFACE -fsanitize=fuzzer-no-link)
   endif()
+elseif(WIN32)
+  # That system's programs have a hardening of their own, which the linker turns on by itself: addresses that vary, data
+  # that is never run. What this compiler knows of the rest is the stack protector.
+  target_compile_options(parvik_flags INTERFACE -fstack-protector-strong)
+  target_link_options(parvik_flags INTERFACE -fstack-protector-strong)
+  target_compile_definitions(parvik_flags INTERFACE UNICODE NOMINMAX _WIN32_WINNT=0x0A00)
 else()
   # _FORTIFY_SOURCE needs an optimised build and quarrels with the sanitizers. The released programs tell the switches
   # that they were compiled with; packaging/check-hardening.sh reads them there.
