@@ -3,6 +3,7 @@
 
 #include "batch/Esecuzione.h"
 #include "batch/Esempi.h"
+#include "common/TestoPercorso.h"
 #include "supporto/ConNome.h"
 
 namespace parvik::prova {
@@ -42,7 +43,8 @@ TEST(CatalogoScelto, IsThatOfTheProfileInTheUsersConfiguration) {
 
 TEST(CatalogoScelto, IsThatOfAProfileAsTheHostsPlatformWritesIt) {
   const CartellaTemporanea cartella;
-  Crea(cartella / "citt\xC3\xA0" / "host" / "d_img" / "campi.txt", TipoBuono + "//fine documenti\r\n");
+  Crea(cartella.Percorso() / PercorsoDaTesto("citt\xC3\xA0") / "host" / "d_img" / "campi.txt",
+       TipoBuono + "//fine documenti\r\n");
   const std::string profilo =
       "[AMBIENTE]\r\nDir velkor=" + cartella.Percorso().string() + "\\citt\xE0\\host\\\r\n";
   std::string utf16 = "\xFF\xFE";
@@ -93,6 +95,11 @@ TEST(CatalogoScelto, MayBeNeitherAFolderNorAbsent) {
   Crea(host / "file", "");
   EXPECT_EQ(Esegui({"--campi", (host / "file" / "campi.txt").string(), "tipi"}),
             (Esecuzione{2, "", Detto(host / "file" / "campi.txt", "catalogo non trovato")}));
+}
+
+TEST(CatalogoScelto, MayBeNoLinkThatLeadsNowhere) {
+  if (!Collegamenti()) GTEST_SKIP() << "no links here";
+  const CartellaTemporanea host;
   std::filesystem::create_symlink("nulla", host / "legame");
   EXPECT_EQ(Esegui({"--campi", (host / "legame").string(), "tipi"}),
             (Esecuzione{2, "", Detto(host / "legame", "catalogo non trovato")}));

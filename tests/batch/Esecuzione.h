@@ -37,8 +37,13 @@ struct Avvio {
   std::filesystem::path Cartella = {};  // the working directory; "" is the test's own
 };
 
-/// Whether a run can be given a limit of memory: a program under the address sanitizer cannot.
+/// Whether a run can be given a limit of memory: a program under the address sanitizer cannot. Why not is
+/// what a test says that skips itself.
 bool MemoriaLimitabile();
+std::string_view PercheSenzaLimite();
+
+/// Whether UscitaStandard::DiscoPieno is to be had.
+bool DispositivoPieno();
 
 /// Runs the program to its end. A run that does not end within half a minute is killed, and fails the test.
 Esecuzione Esegui(const std::vector<std::string>& argomenti, const Avvio& avvio = {});

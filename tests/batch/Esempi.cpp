@@ -1,5 +1,9 @@
 #include "batch/Esempi.h"
 
+#include <algorithm>
+
+#include "common/TestoMostrabile.h"
+
 namespace parvik::prova {
 namespace {
 
@@ -50,6 +54,19 @@ const std::vector<ModelloEsempio>& ModelliEsempio() {
 
 std::filesystem::path FileDi(const ModelloEsempio& modello) {
   return Esempio() / "D_IMG" / (modello.Nome + ".IMG");
+}
+
+bool NomePossibile(const std::string& nome) {
+  if (NomiDiByte) return true;
+  const bool vietati = nome.find_first_of("<>:\"/\\|?*") != std::string::npos ||
+                       std::ranges::any_of(nome, [](char c) { return c >= 0 && c < ' '; });
+  return !vietati && !nome.ends_with(' ') && !nome.ends_with('.') && Mostrabile(nome) == nome;
+}
+
+std::string InJson(const std::string& nome) {
+  std::string scritto;
+  for (const char c : nome) scritto.append(c == '\\' ? 2 : 1, c);
+  return scritto;
 }
 
 std::string NelFile(std::string_view contenuto) {

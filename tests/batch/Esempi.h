@@ -39,6 +39,12 @@ struct ModelloEsempio {
 const std::vector<ModelloEsempio>& ModelliEsempio();
 std::filesystem::path FileDi(const ModelloEsempio& modello);
 
+/// Whether a file can have that name here. The bytes are those of UTF-8 where names are no bytes.
+bool NomePossibile(const std::string& nome);
+
+/// A name inside a JSON text: a backslash may separate.
+std::string InJson(const std::string& nome);
+
 /// A code as it stands in a file.
 std::string NelFile(std::string_view contenuto);
 

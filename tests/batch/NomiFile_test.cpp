@@ -1,10 +1,12 @@
 // Names of files and folders on the command line: whatever stands in them, they are names.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 #include "batch/Esecuzione.h"
 #include "batch/Esempi.h"
+#include "common/TestoPercorso.h"
 
 namespace parvik::prova {
 namespace {
@@ -30,9 +32,19 @@ const std::vector<std::string> ComeOpzioni = {
     "-[x]",     "--[x]",  "-=",       "--=",       "--=x", "- x",      "-!x",      "--\n",
     "--?=x",    "-o=x",   "--velkor", "-o[",       "--o",  "--veri=1", "-oo",      "-\xE8"};
 
+std::vector<std::string> Possibili(std::vector<std::string> nomi) {
+  std::erase_if(nomi, [](const std::string& nome) { return !NomePossibile(nome); });
+  return nomi;
+}
+
+std::vector<std::string> NomiSoli() {
+  return Possibili(Nomi);
+}
+
 std::vector<std::string> TuttiINomi() {
-  std::vector<std::string> tutti = Nomi;
-  tutti.insert(tutti.end(), ComeOpzioni.begin(), ComeOpzioni.end());
+  std::vector<std::string> tutti = NomiSoli();
+  const std::vector<std::string> opzioni = Possibili(ComeOpzioni);
+  tutti.insert(tutti.end(), opzioni.begin(), opzioni.end());
   return tutti;
 }
 
@@ -46,14 +58,15 @@ class NomiFileTest : public testing::Test {
   Esecuzione EseguiQui(const std::vector<std::string>& argomenti) const {
     return prova::Esegui(argomenti, {.Cartella = Cartella.Percorso()});
   }
+  fs::path File(const std::string& nome) const { return Cartella.Percorso() / PercorsoDaTesto(nome); }
   void CreaTutti(const std::vector<std::string>& nomi) const {
-    for (const std::string& nome : nomi) Crea(Cartella / nome, Prima);
+    for (const std::string& nome : nomi) Crea(File(nome), Prima);
   }
   /// The files that are not as they were.
   std::set<std::string> Cambiati() const {
     std::set<std::string> cambiati;
     for (const auto& voce : fs::directory_iterator(Cartella.Percorso())) {
-      if (Contenuto(voce.path()) != Prima) cambiati.insert(voce.path().filename().string());
+      if (Contenuto(voce.path()) != Prima) cambiati.insert(TestoPercorso(voce.path().filename()));
     }
     return cambiati;
   }
@@ -65,11 +78,11 @@ class NomiFileTest : public testing::Test {
 TEST_F(NomiFileTest, ATemplateIsTheFileOfThatNameAndNoOther) {
   CreaTutti(TuttiINomi());
   CreaTutti({"x", "y", "a", "b"});
-  for (const std::string& nome : Nomi) {
+  for (const std::string& nome : NomiSoli()) {
     EXPECT_EQ(Esegui({"normalizza", "--tipo", "2", nome}), Fatto) << nome;
     EXPECT_EQ(Cambiati(), std::set{nome});
-    EXPECT_EQ(Contenuto(Cartella / nome), Dopo) << nome;
-    Crea(Cartella / nome, Prima);
+    EXPECT_EQ(Contenuto(File(nome)), Dopo) << nome;
+    Crea(File(nome), Prima);
   }
 }
 
@@ -79,8 +92,8 @@ TEST_F(NomiFileTest, BehindTwoDashesEveryWordIsAName) {
   for (const std::string& nome : TuttiINomi()) {
     EXPECT_EQ(Esegui({"normalizza", "--tipo", "2", "--", nome}), Fatto) << nome;
     EXPECT_EQ(Cambiati(), std::set{nome});
-    EXPECT_EQ(Contenuto(Cartella / nome), Dopo) << nome;
-    Crea(Cartella / nome, Prima);
+    EXPECT_EQ(Contenuto(File(nome)), Dopo) << nome;
+    Crea(File(nome), Prima);
   }
 }
 
@@ -89,13 +102,14 @@ TEST_F(NomiFileTest, ManyNamesAreAsManyFilesInTheirOrder) {
   std::string atteso;
   for (std::size_t i = 0; i < tutti.size(); ++i) {
     const std::string riga = std::to_string(i) + "\r\n";
-    Crea(Cartella / tutti[i], riga);
+    Crea(File(tutti[i]), riga);
     atteso += riga;
   }
   std::vector<std::string> argomenti = {"stampa", "--tipo", "2"};
-  argomenti.insert(argomenti.end(), Nomi.begin(), Nomi.end());
+  const auto soli = static_cast<std::ptrdiff_t>(NomiSoli().size());
+  argomenti.insert(argomenti.end(), tutti.begin(), tutti.begin() + soli);
   argomenti.emplace_back("--");
-  argomenti.insert(argomenti.end(), ComeOpzioni.begin(), ComeOpzioni.end());
+  argomenti.insert(argomenti.end(), tutti.begin() + soli, tutti.end());
   EXPECT_EQ(Esegui(argomenti), (Esecuzione{0, atteso, ""}));
 }
 
@@ -109,8 +123,8 @@ TEST_F(NomiFileTest, TheOutputIsTheFileOfThatName) {
       argomenti.emplace_back("modello");
       EXPECT_EQ(Esegui(argomenti), Fatto) << nome;
       EXPECT_EQ(Cambiati(), std::set{nome});
-      EXPECT_EQ(Contenuto(Cartella / nome), Dopo) << nome;
-      fs::remove(Cartella / nome);
+      EXPECT_EQ(Contenuto(File(nome)), Dopo) << nome;
+      fs::remove(File(nome));
     }
   }
 }
@@ -120,12 +134,12 @@ TEST_F(NomiFileTest, TheCatalogueIsTheFileOfThatName) {
   const Esecuzione atteso = prova::Esegui({"--velkor", Host.Percorso().string(), "tipi"});
   ASSERT_EQ(atteso.Stato, 0);
   for (const std::string& nome : TuttiINomi()) {
-    Crea(Cartella / nome, catalogo);
+    Crea(File(nome), catalogo);
     EXPECT_EQ(EseguiQui({"--campi", nome, "tipi"}), atteso) << nome;
     EXPECT_EQ(EseguiQui({"--campi=" + nome, "tipi"}), atteso) << nome;
     EXPECT_EQ(EseguiQui({"tipi", "--campi", nome}), atteso) << nome;
     EXPECT_EQ(EseguiQui({"tipi", "--campi=" + nome}), atteso) << nome;
-    fs::remove(Cartella / nome);
+    fs::remove(File(nome));
   }
 }
 
@@ -134,10 +148,10 @@ TEST_F(NomiFileTest, TheHostDirectoryIsTheFolderOfThatName) {
   const Esecuzione atteso = prova::Esegui({"--velkor", Host.Percorso().string(), "tipi"});
   ASSERT_EQ(atteso.Stato, 0);
   for (const std::string& nome : TuttiINomi()) {
-    Crea(Cartella / nome / "D_IMG" / "CAMPI.TXT", catalogo);
+    Crea(File(nome) / "D_IMG" / "CAMPI.TXT", catalogo);
     EXPECT_EQ(EseguiQui({"--velkor", nome, "tipi"}), atteso) << nome;
     EXPECT_EQ(EseguiQui({"tipi", "--velkor=" + nome}), atteso) << nome;
-    fs::remove_all(Cartella / nome);
+    fs::remove_all(File(nome));
   }
 }
 

@@ -3,6 +3,7 @@
 
 #include "batch/Esecuzione.h"
 #include "batch/Esempi.h"
+#include "common/FileDiProva.h"
 
 namespace parvik::prova {
 namespace {
@@ -39,10 +40,7 @@ TEST_F(StampaFileTest, ReplacesAFileThatIsThere) {
 TEST_F(StampaFileTest, LeavesNothingElseInTheFolder) {
   Crea(Host.Percorso() / "fuori" / "uscita.txt", "x");
   EXPECT_EQ(StampaSu(Host.Percorso() / "fuori" / "uscita.txt", {A, Manca}).Stato, 2);
-  std::vector<std::string> nomi;
-  for (const auto& voce : fs::directory_iterator(Host.Percorso() / "fuori"))
-    nomi.push_back(voce.path().filename());
-  EXPECT_EQ(nomi, std::vector<std::string>{"uscita.txt"});
+  EXPECT_EQ(Nomi(Host.Percorso() / "fuori"), std::vector<std::string>{"uscita.txt"});
 }
 
 TEST_F(StampaFileTest, WritesAnEmptyFileForAnEmptyTemplate) {

@@ -1,9 +1,9 @@
 // `stampa` to standard output.
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include "batch/Esecuzione.h"
 #include "batch/Esempi.h"
+#include "common/FileDiProva.h"
 
 namespace parvik::prova {
 namespace {
@@ -106,7 +106,7 @@ TEST_F(StampaTest, RefusesAFolder) {
 
 TEST_F(StampaTest, RefusesAPipeWithoutWaitingForAWriter) {
   const std::string tubo = (Host.Percorso() / "tubo.img").string();
-  ASSERT_EQ(::mkfifo(tubo.c_str(), 0600), 0);
+  if (!FaiPipe(tubo)) GTEST_SKIP() << "no pipes in folders here";
   EXPECT_EQ(
       Stampa({tubo}),
       (Esecuzione{2, "", Detto(tubo + ": Si è verificato l'errore: 75 Errore di accesso al percorso/file")}));

@@ -83,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(Tutti, StampaEsempioTest, testing::ValuesIn(ModelliEsem
 std::set<std::string> NomiIn(const fs::path& cartella, const std::string& estensione) {
   std::set<std::string> nomi;
   for (const auto& voce : fs::directory_iterator(cartella)) {
-    if (voce.path().extension() == estensione) nomi.insert(voce.path().filename());
+    if (voce.path().extension() == estensione) nomi.insert(voce.path().filename().string());
   }
   return nomi;
 }

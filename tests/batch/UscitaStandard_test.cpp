@@ -15,11 +15,19 @@ struct Caso {
 };
 using prova::PrintTo;
 
-class UscitaStandardTest : public testing::TestWithParam<Caso> {};
+class UscitaStandardTest : public testing::TestWithParam<Caso> {
+ protected:
+  void SetUp() override {
+    if (GetParam().Dove == UscitaStandard::DiscoPieno && !DispositivoPieno())
+      GTEST_SKIP() << "no full device here";
+  }
+};
 
 TEST_P(UscitaStandardTest, EndsEveryCommandThatPrintsWithStatus2) {
   const Esecuzione atteso = {2, "", Detto(GetParam().Detto)};
   const Avvio avvio = {.Uscita = GetParam().Dove};
+  EXPECT_EQ(Esegui({"--help"}, avvio), atteso);
+  EXPECT_EQ(Esegui({"--version"}, avvio), atteso);
   EXPECT_EQ(EseguiEsempio({"tipi"}, avvio), atteso);
   EXPECT_EQ(EseguiEsempio({"campi", "--tipo", "1"}, avvio), atteso);
   const std::string modello = FileDi(ModelliEsempio().front()).string();

@@ -38,8 +38,8 @@ TEST(Esito, OfNothingIsSuccessOrAnError) {
   EXPECT_EQ(esito.Errore(), NumeroErrore::DiscoPieno);
 }
 
-constexpr const char* MancaIlValore = "Esito.h:[0-9]+: .*expected: a result that is a value";
-constexpr const char* MancaLErrore = "Esito.h:[0-9]+: .*expected: a result that is an error";
+constexpr const char* MancaIlValore = "Esito.h:\\w+: .*expected: a result that is a value";
+constexpr const char* MancaLErrore = "Esito.h:\\w+: .*expected: a result that is an error";
 
 /// Who asks for what is not there.
 TEST(EsitoDeathTest, ThatIsAnErrorHasNoValue) {

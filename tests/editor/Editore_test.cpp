@@ -99,7 +99,8 @@ TEST_F(EditoreTest, OpensATemplateTurnsThePreviewOffAndClearsThePrintFlags) {
   editore_.Flag().SettaFlag(0, true);
   interlocutore_.Scegliera(Esempio() / "D_IMG" / "FATT01.IMG");
   editore_.Apri();
-  EXPECT_EQ("Ordavia - G/FATT01.IMG", editore_.Titolo());
+  EXPECT_EQ("Ordavia - G" + std::filesystem::path("/FATT01.IMG").make_preferred().string(),
+            editore_.Titolo());
   EXPECT_FALSE(editore_.AnteSpuntata());
   EXPECT_FALSE(editore_.AnteVisibile());
   EXPECT_FALSE(editore_.Flag().Vero(0));

@@ -8,7 +8,7 @@ namespace parvik::prova {
 namespace {
 
 TEST(DirProgramma, IsTheFolderOfTheRunningProgramWhateverItWasCalledBy) {
-  const std::filesystem::path programma = std::filesystem::canonical("/proc/self/exe");
+  const std::filesystem::path programma = std::filesystem::canonical(testing::internal::GetArgvs().front());
   EXPECT_EQ(programma.parent_path(), DirProgramma("altrove/nome"));
 }
 

@@ -1,7 +1,6 @@
 #include "sistema/LetturaFile.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <filesystem>
 #include <string>
@@ -77,6 +76,7 @@ TEST(LeggiFile, ReadsAFileThatHidesItsSize) {
 }
 
 TEST(LeggiFile, FollowsLinks) {
+  if (!Collegamenti()) GTEST_SKIP() << "no links here";
   const CartellaTemporanea cartella;
   Crea(cartella / "a", "testo");
   fs::create_symlink("a", cartella / "b");
@@ -101,7 +101,7 @@ TEST(LeggiFile, RefusesAFolder) {
 
 TEST(LeggiFile, RefusesAPipeThatNobodyWritesToWithoutWaiting) {
   const CartellaTemporanea cartella;
-  ASSERT_EQ(0, ::mkfifo((cartella / "pipe").c_str(), 0600));
+  if (!FaiPipe(cartella / "pipe")) GTEST_SKIP() << "no pipes in folders here";
   EXPECT_EQ(NumeroErrore::AccessoPercorsoFile, Errore(cartella / "pipe"));
 }
 

@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <fstream>
+#include <random>
 #include <sstream>
+#include <string>
 #include <system_error>
 #include <utility>
 
@@ -43,10 +44,30 @@ void Crea(const fs::path& file, std::string_view byte) {
   if (!flusso.flush()) ADD_FAILURE() << "cannot write " << file;
 }
 
+bool Collegamenti() {
+  const CartellaTemporanea cartella;
+  std::error_code errore;
+  fs::create_symlink("meta", cartella / "collegamento", errore);
+  return !errore;
+}
+
+bool DistingueCasi() {
+  const CartellaTemporanea cartella;
+  Crea(cartella / "nome", "");
+  return !fs::exists(cartella / "NOME");
+}
+
 CartellaTemporanea::CartellaTemporanea() {
-  std::string modello = (fs::temp_directory_path() / "parvik-test-XXXXXX").string();
-  if (::mkdtemp(modello.data()) == nullptr) ADD_FAILURE() << "no temporary folder";
-  percorso_ = modello;
+  constexpr int MaxTentativi = 100;
+  std::random_device caso;
+  std::error_code errore;
+  for (int i = 0; i < MaxTentativi; ++i) {
+    percorso_ = fs::temp_directory_path() / ("parvik-test-" + std::to_string(caso()));
+    if (!fs::create_directory(percorso_, errore)) continue;  // there is one of that name
+    fs::permissions(percorso_, fs::perms::owner_all, errore);
+    return;
+  }
+  ADD_FAILURE() << "no temporary folder";
 }
 
 CartellaTemporanea::~CartellaTemporanea() {

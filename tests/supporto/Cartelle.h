@@ -24,6 +24,15 @@ std::string Contenuto(const std::filesystem::path& file);
 /// Writes a file for a test to find. Makes its folder.
 void Crea(const std::filesystem::path& file, std::string_view byte);
 
+/// Whether the library can make links here; tests that need some skip themselves where it cannot.
+bool Collegamenti();
+
+/// Whether a name in another case is another name.
+bool DistingueCasi();
+
+/// Whether names of files are bytes, and a backslash is one like others.
+inline constexpr bool NomiDiByte = std::filesystem::path::preferred_separator == '/';
+
 /// A folder of the test's own that goes away with the object.
 class CartellaTemporanea {
  public:

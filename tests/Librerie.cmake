@@ -1,0 +1,32 @@
+# The libraries that the tests are written with.
+if(CMAKE_CROSSCOMPILING)
+  # GoogleTest is built for the other system from the sources that come with its Debian package.
+  set(BUILD_GMOCK ON)
+  set(INSTALL_GTEST OFF)
+  add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+else()
+  find_package(GTest REQUIRED)
+  find_package(rapidcheck REQUIRED)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+  set(PARVIK_RAPIDCHECK rapidcheck)
+endif()
+
+# parvik_togli_senza_rapidcheck(LIST): where there is no RapidCheck for the target, whose Debian package is a library of
+# this system without its sources, the test files that are written with it are taken off the list, and said.
+function(parvik_togli_senza_rapidcheck list)
+  if(PARVIK_RAPIDCHECK)
+    return()
+  endif()
+  set(kept)
+  foreach(source IN LISTS ${list})
+    file(STRINGS ${CMAKE_CURRENT_SOURCE_DIR}/${source} includes REGEX "^#include (<rapidcheck|\"(output/StampaCasuale|tokens/Generatori|verifica/ModelliCasuali))")
+    if(includes)
+      file(RELATIVE_PATH name ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/${source})
+      file(APPEND ${CMAKE_BINARY_DIR}/senza-rapidcheck.txt "${name}\n")
+    else()
+      list(APPEND kept ${source})
+    endif()
+  endforeach()
+  set(${list} ${kept} PARENT_SCOPE)
+endfunction()
+file(REMOVE ${CMAKE_BINARY_DIR}/senza-rapidcheck.txt)
