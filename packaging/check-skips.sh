@@ -1,11 +1,13 @@
 #!/bin/sh
 # Fails on a test that was skipped, or is disabled, unless allowed-skips.txt lists it with the reason it gave:
-# check-skips.sh BUILD_FOLDER. Reads what the last run of every test left there: esiti.xml of ctest, and under the
-# sanitizers, where a folder's tests are one test to ctest, their own files in esiti/.
+# check-skips.sh BUILD_FOLDER [LIST]. LIST is another list of this folder. Reads what the last run of every test left
+# there: esiti.xml of ctest, and where a folder's tests are one test to ctest, as under the sanitizers, their own files in
+# esiti/.
 set -eu
-list=$(cd "$(dirname "$0")" && pwd)/allowed-skips.txt
-[ $# -eq 1 ] || { echo "check-skips.sh BUILD_FOLDER" >&2; exit 2; }
+[ $# -eq 1 ] || [ $# -eq 2 ] || { echo "check-skips.sh BUILD_FOLDER [LIST]" >&2; exit 2; }
 folder=$1
+name=${2:-allowed-skips.txt}
+list=$(cd "$(dirname "$0")" && pwd)/$name
 grep -q '<testcase ' "$folder/esiti.xml" 2>/dev/null || {
   echo "check-skips.sh: no results of tests in $folder/esiti.xml" >&2
   exit 2
@@ -61,7 +63,7 @@ while IFS= read -r skip; do
   if allowed "${skip%%: *}" "${skip#*: }"; then
     echo "skipped, as listed: $skip"
   else
-    echo "SKIPPED, and not listed in packaging/allowed-skips.txt: $skip"
+    echo "SKIPPED, and not listed in packaging/$name: $skip"
     failed=1
   fi
 done <<END
