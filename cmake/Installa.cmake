@@ -36,6 +36,9 @@ foreach(program parvik32 parvik32-batch)
   install(FILES ${packaging}/completamento/${program} DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
 endforeach()
 
+# the manual, as far as there was a converter for it
+install(DIRECTORY ${PARVIK_MANUALE}/ DESTINATION ${PARVIK_INSTALL_MANUALE} OPTIONAL)
+
 # the example installation, and what comes with every program
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/esempio/ DESTINATION ${PARVIK_INSTALL_ESEMPIO}
   PATTERN README.md EXCLUDE

@@ -53,6 +53,13 @@ expect "type of a disk image" application/x-raw-disk-image "$(type_of "$folder/d
 expect "type of a disk image in capitals" application/x-raw-disk-image "$(type_of "$folder/DISCO.IMG")"
 expect "type of the catalogue" text/plain "$(type_of esempio/D_IMG/CAMPI.TXT)"
 
+# The manual: as many pages as its sources have, each leading only to what is installed with it.
+manual=$tree/share/parvik32/manuale
+expect "pages of the manual" "$(find docs/manuale -name '*.md' | wc -l)" "$(find "$manual" -name '*.html' 2>/dev/null | wc -l)"
+while IFS=: read -r page target; do
+  [ -e "$(dirname "$page")/$target" ] || complain "$page leads to $target, which is not installed"
+done < <(grep -roE '(href|src)="[^"]+"' "$manual" | sed -E 's/(href|src)="([^"]+)"$/\2/')
+
 # The programs, from where they were installed to.
 expect "version of the editor" "Ordavia (parvik32) Version 7.0.2" "$("$tree/bin/parvik32" --version)"
 expect "types of the example" 22 \

@@ -1,10 +1,13 @@
-// The guide, in a window beside the main one.
+// The guide: the manual, in a window beside the one that is at work.
 #pragma once
 
 #include <QDialog>
-#include <QTextBrowser>
+#include <QDir>
 
-#include "app/qtPagineGuida.h"
+#include "app/txtGuida.h"
+
+class QBoxLayout;
+class QPushButton;
 
 namespace parvik {
 
@@ -12,13 +15,18 @@ class frmGuida final : public QDialog {
   Q_OBJECT
 
  public:
-  frmGuida(const qtMenu& menu, QWidget* padre);
+  frmGuida(const QDir& manuale, const qtMenu& menu, QWidget* padre);
 
-  /// Shows that page, in front.
-  void Apri(PaginaGuida pagina);
+  /// Shows that page of the manual, in front.
+  void Apri(const QString& pagina);
+
+ protected:
+  void keyPressEvent(QKeyEvent* evento) override;
 
  private:
-  QTextBrowser* txtGuida_;
+  QBoxLayout* CreaComandi();
+
+  txtGuida* txtGuida_;
 };
 
 }  // namespace parvik

@@ -41,6 +41,7 @@ frmParvik::frmParvik(DatiAvvio dati, Interlocutore& interlocutore)
   new qtTastiRipetuti(this);
   CreaArea();
   CreaMenu();
+  guida_ = new qtGuida(dirProgramma_, *menu_, *this);
   anteAuto_ = std::make_unique<qtAnteAuto>(editore_, area_->Pannello());
   barraStato_ = new qtBarraStato(editore_, *area_, *this);
   verifica_ = std::make_unique<qtVerifica>(editore_, *area_, *this);

@@ -9,11 +9,11 @@
 #include <string>
 
 #include "app/barStrumenti.h"
-#include "app/frmGuida.h"
 #include "app/qtAnteAuto.h"
 #include "app/qtArea.h"
 #include "app/qtBarraStato.h"
 #include "app/qtFinestrelle.h"
+#include "app/qtGuida.h"
 #include "app/qtIngrandimento.h"
 #include "app/qtInizio.h"
 #include "app/qtInserimenti.h"
@@ -84,7 +84,6 @@ class frmParvik final : public QMainWindow, private Vista {
   // frmParvikMenu.cpp
   void CreaMenu();
   void Esegui(Comando comando);
-  void ApriGuida();
   /// Undo or redo, over all sections.
   using PassoEditore = void (Editore::*)();
   void EseguiPasso(PassoEditore passo);
@@ -102,8 +101,8 @@ class frmParvik final : public QMainWindow, private Vista {
   qtArea* area_ = nullptr;
   qtMenu* menu_ = nullptr;
   qtBarraStato* barraStato_ = nullptr;
-  barStrumenti* strumenti_ = nullptr;  // made when it is first shown, as the guide
-  frmGuida* guida_ = nullptr;
+  barStrumenti* strumenti_ = nullptr;  // made when it is first shown
+  qtGuida* guida_ = nullptr;
   qtInizio* inizio_ = nullptr;
   std::filesystem::path dirProgramma_;  // where the print module is looked for from
   bool inAttesa_ = false;               // a command waits for its work: the window stays

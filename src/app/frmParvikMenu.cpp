@@ -1,5 +1,4 @@
 // The main window's commands: what each entry of the menus calls, and undo and redo.
-#include <QApplication>
 #include <QMenuBar>
 
 #include "app/frmAbout.h"
@@ -75,7 +74,7 @@ void frmParvik::Esegui(Comando comando) {
     case Comando::Foglio:
       return maschere_.ApriFoglio();
     case Comando::Guida:
-      return ApriGuida();
+      return guida_->Apri();
     case Comando::Trova:
       return trova_->Apri(false);
     case Comando::TrovaSucc:
@@ -93,12 +92,6 @@ void frmParvik::Esegui(Comando comando) {
     case Comando::VaiAnte:
       return anteAuto_->VaiAnte();
   }
-}
-
-/// The page of what has the focus; in the guide itself the one that shows stays.
-void frmParvik::ApriGuida() {
-  if (guida_ == nullptr) guida_ = new frmGuida(*menu_, this);
-  guida_->Apri(PaginaPer(QApplication::focusWidget()));
 }
 
 void frmParvik::EseguiPasso(PassoEditore passo) {

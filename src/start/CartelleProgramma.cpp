@@ -24,4 +24,8 @@ fs::path DirEsempio(const fs::path& dirProgramma) {
   return CartellaOppure(dirProgramma / DaProgrammaAEsempio, dirProgramma.parent_path());
 }
 
+fs::path DirManuale(const fs::path& dirProgramma) {
+  return CartellaOppure(dirProgramma / DaProgrammaAManuale, dirProgramma / "manuale");
+}
+
 }  // namespace parvik

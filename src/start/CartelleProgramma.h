@@ -13,4 +13,7 @@ std::filesystem::path DirModuli(const std::filesystem::path& dirProgramma);
 /// program, or, when there is none, what lies around it.
 std::filesystem::path DirEsempio(const std::filesystem::path& dirProgramma);
 
+/// The manual's pages: where an installed program has them, or, when they are not there, beside the program.
+std::filesystem::path DirManuale(const std::filesystem::path& dirProgramma);
+
 }  // namespace parvik

@@ -7,20 +7,13 @@
 #include <filesystem>
 #include <regex>
 
+#include "docs/Manuale.h"
 #include "supporto/Cartelle.h"
 
 namespace parvik::prova {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::vector<std::string> Trovati(const std::string& testo, const char* espressione) {
-  const std::regex cercato(espressione);
-  std::vector<std::string> trovati;
-  for (std::sregex_iterator i(testo.begin(), testo.end(), cercato), fine; i != fine; ++i)
-    trovati.push_back((*i)[1]);
-  return trovati;
-}
 
 TEST(Pagine, StandAllInTheIndex) {
   std::vector<std::string> collegate = Trovati(Contenuto(Docs() / "README.md"), R"(\]\(([a-z-]+\.md)\))");

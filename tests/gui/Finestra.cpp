@@ -29,6 +29,8 @@ Finestra::Finestra(Interlocutore* altro) : interlocutore_(altro != nullptr ? alt
   std::filesystem::create_directories(Cartella() / "PARVIK");
   std::filesystem::copy(Esempio(), Cartella(), std::filesystem::copy_options::recursive);
   std::filesystem::create_symlink(prova::ModuloStampa(), ModuloStampa());
+  std::filesystem::create_directory_symlink(prova::ModuloStampa().parent_path() / "manuale",
+                                            Cartella() / "PARVIK" / "manuale");
   for (const auto& cartella : {Configurazione(), Stato(), Esecuzione()})
     std::filesystem::create_directory(cartella);
   Mostra();

@@ -1,15 +1,12 @@
-// The tool bar and the guide, in the main window (docs/menus.md).
+// The tool bar, and the keys of commands, in the main window (docs/menus.md).
 #include <gtest/gtest.h>
 
 #include <QAccessible>
-#include <QPushButton>
 #include <QTest>
-#include <QTextBrowser>
 #include <QToolBar>
 #include <QToolButton>
 
 #include "Finestra.h"
-#include "app/qtPagineGuida.h"
 
 namespace parvik {
 namespace {
@@ -66,34 +63,6 @@ TEST(BarraStrumenti, FollowsWhatIsPossible) {
   QTest::mouseClick(&Pulsante(finestra, "mnuAnte"), Qt::LeftButton);
   EXPECT_FALSE(finestra.Anteprima().isVisible());
   EXPECT_TRUE(finestra.Sezione(0).hasFocus()) << "a button takes no focus";
-}
-
-TEST(Guida, OpensThePageOfWhatHasTheFocus) {
-  Finestra finestra;
-  EXPECT_EQ(PaginaPer(nullptr), PaginaGuida::PrimiPassi);
-  EXPECT_EQ(PaginaPer(&*finestra), PaginaGuida::PrimiPassi);
-  finestra.Scegli(1);
-  EXPECT_EQ(PaginaPer(finestra.Sezione(0).viewport()), PaginaGuida::Sezioni);
-  EXPECT_EQ(PaginaPer(&finestra.Anteprima()), PaginaGuida::Anteprima);
-  finestra.Azione("mnuTrova").trigger();
-  EXPECT_EQ(PaginaPer(Trova<QWidget>(*finestra, "txtCerca")), PaginaGuida::Trova);
-  finestra.Azione("mnuVerifica").trigger();
-  EXPECT_EQ(PaginaPer(Trova<QWidget>(*finestra, "lstProblemi")), PaginaGuida::Problemi);
-}
-
-TEST(Guida, ListsAllKeysOfTheMenus) {
-  Finestra finestra;
-  QTest::keyClick(&*finestra, Qt::Key_F1);
-  auto& guida = *Trova<QDialog>(*finestra, "frmGuida");
-  EXPECT_TRUE(guida.isVisible());
-  const QString testo = Trova<QTextBrowser>(guida, "txtGuida")->toPlainText();
-  for (const VoceMenu& voce : VociMenu()) {
-    if (*voce.Scorciatoia == '\0') continue;
-    EXPECT_TRUE(testo.contains(QKeySequence(voce.Scorciatoia).toString(QKeySequence::NativeText)))
-        << voce.Nome;
-  }
-  QTest::mouseClick(Trova<QPushButton>(guida, "cmdChiudi"), Qt::LeftButton);
-  EXPECT_FALSE(guida.isVisible());
 }
 
 TEST(TastiDeiComandi, OpenTheirDialogs) {

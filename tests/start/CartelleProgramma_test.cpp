@@ -17,6 +17,7 @@ TEST(CartelleProgramma, OfABuiltProgramAreItsOwnAndTheOneAbove) {
   fs::create_directories(dir / "PARVIK");
   EXPECT_EQ(DirModuli(dir / "PARVIK"), dir / "PARVIK");
   EXPECT_EQ(DirEsempio(dir / "PARVIK"), dir.Percorso());
+  EXPECT_EQ(DirManuale(dir / "PARVIK"), dir / "PARVIK" / "manuale");
 }
 
 TEST(CartelleProgramma, OfAnInstalledProgramLieBesideIt) {
@@ -24,8 +25,10 @@ TEST(CartelleProgramma, OfAnInstalledProgramLieBesideIt) {
   fs::create_directories(dir / "bin");
   fs::create_directories(dir / "bin" / DaProgrammaAModuli);
   fs::create_directories(dir / "bin" / DaProgrammaAEsempio);
+  fs::create_directories(dir / "bin" / DaProgrammaAManuale);
   EXPECT_EQ(DirModuli(dir / "bin"), (dir / "bin" / DaProgrammaAModuli).lexically_normal());
   EXPECT_EQ(DirEsempio(dir / "bin"), (dir / "bin" / DaProgrammaAEsempio).lexically_normal());
+  EXPECT_EQ(DirManuale(dir / "bin"), (dir / "bin" / DaProgrammaAManuale).lexically_normal());
 }
 
 }  // namespace
