@@ -24,7 +24,7 @@ namespace parvik::prova {
 namespace {
 
 const QSize Piccola(820, 520);
-const QSize Grande(860, 620);
+const QSize Grande(820, 600);
 
 /// Another name of the installation, the same wherever and whenever this runs: the status bar shows it.
 class NomeFisso {
