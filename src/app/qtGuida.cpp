@@ -3,13 +3,35 @@
 #include <QApplication>
 #include <QChildEvent>
 #include <QDir>
+#include <QScreen>
 #include <QShortcut>
+#include <algorithm>
 #include <utility>
 
+#include "app/frmGuida.h"
 #include "app/qtPagineGuida.h"
 #include "start/CartelleProgramma.h"
 
 namespace parvik {
+namespace {
+
+constexpr int MinimaLarghezza = 540;  // pixels, of a guide that can be read
+
+/// Beside a dialog, as far as the screen has room there: what one reads about is to be seen.
+void Accosta(QWidget& guida, const QWidget& dialogo) {
+  const QRect schermo = dialogo.screen()->availableGeometry();
+  const QRect cornice = dialogo.frameGeometry();
+  const int aDestra = schermo.right() - cornice.right();
+  const int aSinistra = cornice.left() - schermo.left();
+  const int posto = std::max({aDestra, aSinistra, MinimaLarghezza});
+  guida.resize(std::min(guida.width(), posto), guida.height());
+  const int destra = std::min(cornice.right() + 1, schermo.right() + 1 - guida.width());
+  const int sinistra = std::max(cornice.left() - guida.width(), schermo.left());
+  const int sotto = std::max(schermo.bottom() + 1 - guida.height(), schermo.top());
+  guida.move(aDestra >= aSinistra ? destra : sinistra, std::min(cornice.top(), sotto));
+}
+
+}  // namespace
 
 qtGuida::qtGuida(std::filesystem::path dirProgramma, const qtMenu& menu, QWidget& finestra)
     : QObject(&finestra), dirProgramma_(std::move(dirProgramma)), menu_(menu), finestra_(finestra) {
@@ -20,11 +42,12 @@ void qtGuida::Apri() {
   QWidget* const fuoco = QApplication::focusWidget();
   QWidget* const modale = QApplication::activeModalWidget();
   QWidget* const davanti = modale != nullptr ? modale : &finestra_;
+  if (guida_ != nullptr && guida_->parentWidget() != davanti) delete guida_;
   if (guida_ == nullptr) {
     const QDir manuale(QString::fromStdString(DirManuale(dirProgramma_).string()));
     guida_ = new frmGuida(manuale, menu_, davanti);
+    if (modale != nullptr) Accosta(*guida_, *modale);
   }
-  if (guida_->parentWidget() != davanti) guida_->setParent(davanti, guida_->windowFlags());
   guida_->Apri(PaginaPer(fuoco != nullptr ? fuoco : davanti));
 }
 

@@ -5,9 +5,11 @@
 #include <QPointer>
 #include <filesystem>
 
-#include "app/frmGuida.h"
+#include "app/qtMenu.h"
 
 namespace parvik {
+
+class frmGuida;
 
 class qtGuida final : public QObject {
   Q_OBJECT

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDir>
+#include <QImage>
 #include <QTextBrowser>
 
 #include "app/qtMenu.h"
@@ -26,6 +27,8 @@ class txtGuida final : public QTextBrowser {
   QVariant loadResource(int genere, const QUrl& nome) override;
 
  private:
+  QImage InLarghezza(const QByteArray& immagine) const;
+
   QDir manuale_;
   const qtMenu& menu_;
 };

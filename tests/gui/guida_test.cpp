@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextBrowser>
 #include <QTreeView>
@@ -116,6 +117,19 @@ INSTANTIATE_TEST_SUITE_P(OgniDialogo, GuidaNeiDialoghi,
                                          PaginaDialogo{"mnuFoglio", "finestre/frmFoglio"},
                                          PaginaDialogo{"mnuInfo", "finestre/frmAbout"}),
                          [](const auto& riga) { return riga.param.Nome; });
+
+/// The screen of these tests has room beside a small dialog.
+TEST(Guida, LeavesTheDialogInSight) {
+  Finestra finestra;
+  finestra.Scegli(1);
+  prova::NelProssimoDialogo([](QDialog& dialogo) {
+    dialogo.move(0, 100);
+    F1(dialogo);
+    EXPECT_FALSE(Guida(dialogo).geometry().intersects(dialogo.geometry()));
+    dialogo.reject();
+  });
+  finestra.Azione("mnuPagina").trigger();
+}
 
 TEST(Guida, OpensInADialogThatAnotherOneHasOpened) {
   Finestra finestra;
@@ -235,12 +249,22 @@ TEST(Guida, ListsAllKeysOfTheMenus) {
   EXPECT_FALSE(Guida(*finestra).isVisible());
 }
 
-TEST(Guida, ShowsThePicturesOfThePages) {
+TEST(Guida, ShowsThePicturesOfThePagesWithinItsWidth) {
   Finestra finestra;
   F1(*finestra);
-  const QVariant immagine = Testo(*finestra).document()->resource(
-      QTextDocument::ImageResource, Testo(*finestra).source().resolved(QUrl("immagini/inizio.png")));
-  EXPECT_TRUE(immagine.isValid());
+  QTextBrowser& testo = Testo(*finestra);
+  for (const int larghezza : {900, 400}) {
+    Guida(*finestra).resize(larghezza, 500);
+    Finestra::Calma();
+    testo.reload();
+    const auto immagine =
+        testo.document()
+            ->resource(QTextDocument::ImageResource, testo.source().resolved(QUrl("immagini/inizio.png")))
+            .value<QImage>();
+    EXPECT_GT(immagine.width(), larghezza * 3 / 4);
+    EXPECT_LE(immagine.width(), testo.viewport()->width());
+    EXPECT_EQ(testo.horizontalScrollBar()->maximum(), 0) << larghezza;
+  }
 }
 
 TEST(Guida, SaysWhereThereIsNoManualAndShowsFirstStepsAndKeys) {

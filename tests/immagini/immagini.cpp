@@ -30,6 +30,8 @@ const QSize Grande(820, 600);
 class NomeFisso {
  public:
   explicit NomeFisso(const std::filesystem::path& velkor) {
+    if (std::filesystem::is_symlink(percorso_))
+      std::filesystem::remove(percorso_);  // of a run that was killed
     std::filesystem::create_directory_symlink(velkor, percorso_);
   }
   NomeFisso(const NomeFisso&) = delete;
