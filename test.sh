@@ -10,4 +10,6 @@ echo "Building the programs and their tests ..."
 cmake --preset dev
 cmake --build --preset dev
 echo "Running every test ..."
+rm -rf build/dev/esiti
 ctest --preset dev --parallel "$(nproc)"
+echo "$(cat build/dev/esiti/*.xml | grep -c '<testcase ') tests in $(find build/dev/esiti -name '*.xml' | wc -l) programs, and the scripts' own."
