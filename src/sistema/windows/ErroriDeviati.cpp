@@ -20,7 +20,7 @@ struct ErroriDeviati::Veri {
 };
 
 ErroriDeviati::ErroriDeviati() : veri_(new Veri{.File = ::_dup(Errori)}) {
-  const int nulla = ::_wopen(L"NUL", _O_WRONLY | _O_BINARY);
+  const int nulla = ::_wopen(L"NUL", O_WRONLY | O_BINARY);
   if (veri_->File >= 0 && nulla >= 0) {
     erroriVeri = veri_->File;
     static_cast<void>(::_dup2(nulla, Errori));

@@ -15,7 +15,7 @@ namespace parvik {
 /// ones away with that.
 void PreparaProcesso() {
   std::set_terminate(EccezioneSfuggita);
-  for (const int numero : {0, 1, 2}) static_cast<void>(::_setmode(numero, _O_BINARY));
+  for (const int numero : {0, 1, 2}) static_cast<void>(::_setmode(numero, O_BINARY));
 }
 
 void PreparaProcessoSenzaFinestra() {
