@@ -13,12 +13,24 @@ namespace parvik::prova {
 namespace {
 
 constexpr qsizetype MassimiColori = 256;
+constexpr int Gradino =
+    17;  // of a channel: sixteen are left, so that the edges of letters leave room for rare colours
 constexpr int Ridisegno = 400;  // milliseconds: the program's own delays are shorter
+
+int Arrotondato(int canale) {
+  return (canale + Gradino / 2) / Gradino * Gradino;
+}
 
 }  // namespace
 
 QImage InPochiColori(const QImage& immagine) {
-  const QImage piena = immagine.convertToFormat(QImage::Format_RGB32);
+  QImage piena = immagine.convertToFormat(QImage::Format_RGB32);
+  for (int y = 0; y < piena.height(); ++y) {
+    for (int x = 0; x < piena.width(); ++x) {
+      const QRgb c = piena.pixel(x, y);
+      piena.setPixel(x, y, qRgb(Arrotondato(qRed(c)), Arrotondato(qGreen(c)), Arrotondato(qBlue(c))));
+    }
+  }
   QHash<QRgb, int> volte;
   for (int y = 0; y < piena.height(); ++y)
     for (int x = 0; x < piena.width(); ++x) ++volte[piena.pixel(x, y)];
